@@ -1,0 +1,31 @@
+#pragma once
+
+#include "search/SearchRequest.h"
+
+#include <QString>
+#include <QStringList>
+
+namespace selfsame::cli {
+
+enum class OutputFormat { Text, Json, Csv };
+
+struct CliOptions {
+    SearchRequest request;
+    OutputFormat format = OutputFormat::Text;
+    bool summary = false;
+    bool help = false;
+    bool version = false;
+    QStringList missingPaths; // named on the command line but not found; the others are searched
+};
+
+struct ParseResult {
+    CliOptions options;
+    QString error; // empty when the command line is good
+    bool showUsage = false; // the error is about the command line itself
+};
+
+// Turns the command line (without the program name) into a search request.
+ParseResult parseCommandLine(const QStringList &arguments);
+QString usageText();
+
+} // namespace selfsame::cli

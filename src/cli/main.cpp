@@ -1,0 +1,98 @@
+// selfsame-cli: the duplicate search without a window, for scripts and benchmarks.
+
+#include "CliOptions.h"
+#include "ResultOutput.h"
+#include "search/DuplicateSearch.h"
+
+#include <QCoreApplication>
+
+#include <csignal>
+#include <cstdio>
+#include <sys/ioctl.h>
+#include <unistd.h>
+
+using namespace selfsame;
+using namespace selfsame::cli;
+
+namespace {
+
+DuplicateSearch *g_search = nullptr;
+
+void interrupt(int)
+{
+    if (g_search)
+        g_search->abort(); // only atomics: safe in a signal handler
+}
+
+void writeAll(FILE *stream, const QByteArray &bytes)
+{
+    std::fwrite(bytes.constData(), 1, std::size_t(bytes.size()), stream);
+    std::fflush(stream);
+}
+
+// The engine's status line, rewritten in place on a terminal.
+void showProgress(const QString &status)
+{
+    winsize size{};
+    const int width = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 1 ? size.ws_col - 1 : 79;
+    writeAll(stderr, "\r\x1b[K" + status.left(width).toUtf8());
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("selfsame-cli"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
+
+    const ParseResult parsed = parseCommandLine(app.arguments().mid(1));
+    const CliOptions &options = parsed.options;
+    if (options.help) {
+        writeAll(stdout, usageText().toUtf8());
+        return 0;
+    }
+    if (options.version) {
+        writeAll(stdout, "selfsame-cli " SELFSAME_VERSION "\n");
+        return 0;
+    }
+    for (const QString &missing : options.missingPaths)
+        writeAll(stderr, QStringLiteral("selfsame-cli: no such file or folder: %1\n").arg(missing).toUtf8());
+    if (!parsed.error.isEmpty()) {
+        writeAll(stderr, QStringLiteral("selfsame-cli: %1\n").arg(parsed.error).toUtf8());
+        if (parsed.showUsage)
+            writeAll(stderr, "\n" + usageText().toUtf8());
+        return 2;
+    }
+
+    DuplicateSearch search;
+    const bool terminal = isatty(STDERR_FILENO);
+    if (terminal)
+        QObject::connect(&search, &DuplicateSearch::progress, &app,
+                         [](const QString &status, double) { showProgress(status); });
+    int exitCode = 1;
+    QObject::connect(&search, &DuplicateSearch::searchDone, &app, [&] {
+        if (terminal)
+            writeAll(stderr, "\r\x1b[K");
+        const QList<ResultItem> &items = search.mainItems();
+        writeAll(stdout, formatResults(items, options.format, search.statistics()));
+        if (options.summary)
+            writeAll(stderr, summaryText(items, search.statistics()));
+        if (search.aborted())
+            exitCode = 130;
+        else if (!items.isEmpty())
+            exitCode = 0;
+        else if (terminal || options.summary)
+            writeAll(stderr, emptyResultMessage(search.request().detectionMode, search.statistics())
+                                 .message.toUtf8() + '\n');
+        QCoreApplication::exit(exitCode);
+    });
+
+    g_search = &search;
+    std::signal(SIGINT, interrupt);
+    std::signal(SIGTERM, interrupt);
+    search.searchInFolderURLs(options.request);
+    QCoreApplication::exec();
+    g_search = nullptr;
+    return exitCode;
+}

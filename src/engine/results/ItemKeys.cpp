@@ -1,0 +1,137 @@
+#include "results/ItemKeys.h"
+
+#include "search/Digest.h"
+
+#include <QDateTime>
+
+#include <array>
+#include <cmath>
+
+namespace selfsame {
+
+namespace {
+
+template <typename T> int order(const T &a, const T &b) { return a < b ? -1 : (b < a ? 1 : 0); }
+
+QVariant date(qint64 seconds)
+{
+    return seconds == kNoDate ? QVariant() : QVariant(QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC));
+}
+QVariant optionalNumber(double value) { return std::isnan(value) ? QVariant() : QVariant(value); }
+int compareOptional(double a, double b)
+{
+    if (std::isnan(a) || std::isnan(b))
+        return order(!std::isnan(a), !std::isnan(b));
+    return order(a, b);
+}
+QVariant bytes(const Digest &d, bool present)
+{
+    return present ? QVariant(QByteArray(reinterpret_cast<const char *>(d.data()), qsizetype(d.size())))
+                   : QVariant();
+}
+int compareDigest(const Digest &a, bool hasA, const Digest &b, bool hasB)
+{
+    if (!hasA || !hasB)
+        return order(hasA, hasB);
+    return compareDigests(a, b);
+}
+// Values without a natural order compare equal when equal, else by their text.
+int compareVariants(const QVariant &a, const QVariant &b)
+{
+    const QPartialOrdering o = QVariant::compare(a, b);
+    if (o == QPartialOrdering::Less)
+        return -1;
+    if (o == QPartialOrdering::Greater)
+        return 1;
+    if (o == QPartialOrdering::Equivalent)
+        return 0;
+    return order(a.toString(), b.toString());
+}
+
+#define NUMBER_KEY(key, field)                                                                                \
+    ItemKey { key, [](const ResultItem &i) { return QVariant(i.field); },                                     \
+              [](const ResultItem &a, const ResultItem &b) { return order(a.field, b.field); } }
+#define DATE_KEY(key, field)                                                                                  \
+    ItemKey { key, [](const ResultItem &i) { return date(i.field); },                                         \
+              [](const ResultItem &a, const ResultItem &b) { return order(a.field, b.field); } }
+#define STRING_KEY(key, field)                                                                                \
+    ItemKey { key, [](const ResultItem &i) { return QVariant(i.field); },                                     \
+              [](const ResultItem &a, const ResultItem &b) { return order(a.field, b.field); } }
+#define FLAG_KEY(key, flag)                                                                                   \
+    ItemKey { key, [](const ResultItem &i) { return i.has(flag) ? QVariant(true) : QVariant(); },             \
+              [](const ResultItem &a, const ResultItem &b) { return order(a.has(flag), b.has(flag)); } }
+
+const std::array kKeys = {
+    STRING_KEY("URL", path),
+    NUMBER_KEY("size", size),
+    NUMBER_KEY("physicalSize", physicalSize),
+    DATE_KEY("modified", modified),
+    DATE_KEY("lastUsed", lastUsed),
+    DATE_KEY("addedDate", addedDate),
+    DATE_KEY("attributes", attributes),
+    DATE_KEY("created", created),
+    ItemKey{"tagList", [](const ResultItem &i) { return i.tagList.isEmpty() ? QVariant() : QVariant(i.tagList); },
+            [](const ResultItem &a, const ResultItem &b) { return order(a.tagList.join(u','), b.tagList.join(u',')); }},
+    ItemKey{"tags", [](const ResultItem &i) { return QVariant(i.tagList.join(u' ')); },
+            [](const ResultItem &a, const ResultItem &b) { return order(a.tagList.join(u' '), b.tagList.join(u' ')); }},
+    NUMBER_KEY("duration", duration),
+    ItemKey{"latitude", [](const ResultItem &i) { return optionalNumber(i.latitude); },
+            [](const ResultItem &a, const ResultItem &b) { return compareOptional(a.latitude, b.latitude); }},
+    ItemKey{"longitude", [](const ResultItem &i) { return optionalNumber(i.longitude); },
+            [](const ResultItem &a, const ResultItem &b) { return compareOptional(a.longitude, b.longitude); }},
+    ItemKey{"spotlight", [](const ResultItem &i) { return i.spotlight; },
+            [](const ResultItem &a, const ResultItem &b) { return compareVariants(a.spotlight, b.spotlight); }},
+    STRING_KEY("pixelSize", pixelSize),
+    STRING_KEY("codecs", codecs),
+    NUMBER_KEY("bitrate", bitrate),
+    FLAG_KEY("read-only", ReadOnly),
+    FLAG_KEY("other owner", OtherOwner),
+    FLAG_KEY("isSymlink", IsSymlink),
+    FLAG_KEY("isFolder", IsFolder),
+    FLAG_KEY("isPackage", IsPackage),
+    ItemKey{"digest", [](const ResultItem &i) { return bytes(i.digest, i.has(HasDigest)); },
+            [](const ResultItem &a, const ResultItem &b) {
+                return compareDigest(a.digest, a.has(HasDigest), b.digest, b.has(HasDigest));
+            }},
+    ItemKey{"allocDigest", [](const ResultItem &i) { return bytes(i.allocDigest, i.has(HasAllocDigest)); },
+            [](const ResultItem &a, const ResultItem &b) {
+                return compareDigest(a.allocDigest, a.has(HasAllocDigest), b.allocDigest, b.has(HasAllocDigest));
+            }},
+    NUMBER_KEY("itemCount", itemCount),
+    NUMBER_KEY("group", group),
+    NUMBER_KEY("dupes", dupes),
+    STRING_KEY("parentPath", parentPath),
+    NUMBER_KEY("clone", clone),
+    FLAG_KEY("alternateColor", AlternateColor),
+    STRING_KEY("trashedURL", trashedURL),
+    FLAG_KEY("deleted", Deleted),
+};
+
+#undef NUMBER_KEY
+#undef DATE_KEY
+#undef STRING_KEY
+#undef FLAG_KEY
+
+} // namespace
+
+const ItemKey *findItemKey(QStringView name)
+{
+    for (const ItemKey &key : kKeys)
+        if (name == QLatin1StringView(key.name))
+            return &key;
+    return nullptr;
+}
+
+QVariant itemValue(const ResultItem &item, QStringView key)
+{
+    const ItemKey *k = findItemKey(key);
+    return k ? k->value(item) : QVariant();
+}
+
+int compareItems(const ResultItem &a, const ResultItem &b, QStringView key)
+{
+    const ItemKey *k = findItemKey(key);
+    return k ? k->compare(a, b) : 0;
+}
+
+} // namespace selfsame

@@ -1,0 +1,23 @@
+#pragma once
+
+#include "results/ResultItem.h"
+
+#include <QStringView>
+#include <QVariant>
+
+namespace selfsame {
+
+// Keyed access to a ResultItem by the names that sorting, list columns and the filter use
+// ("size", "modified", "tagList", …). One table serves them all.
+struct ItemKey {
+    const char *name;
+    QVariant (*value)(const ResultItem &);            // invalid QVariant for an absent value
+    int (*compare)(const ResultItem &, const ResultItem &); // -1, 0 or 1; absent values first
+};
+
+const ItemKey *findItemKey(QStringView name);
+QVariant itemValue(const ResultItem &item, QStringView key);
+// Compares by a key; unknown keys compare equal.
+int compareItems(const ResultItem &a, const ResultItem &b, QStringView key);
+
+} // namespace selfsame

@@ -1,0 +1,308 @@
+#include "search/ContentSearch.h"
+
+#include "results/FileAttributes.h"
+#include "search/Digest.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <numeric>
+
+namespace selfsame {
+
+namespace {
+
+QString text(const char *source) { return QCoreApplication::translate("DuplicateSearch", source); }
+
+std::string_view parentPath(std::string_view path)
+{
+    const auto slash = path.rfind('/');
+    return slash == 0 ? std::string_view("/") : path.substr(0, slash);
+}
+
+// Sorted, with every entry dropped that lies inside an entry kept before it.
+std::vector<std::string> outermost(std::vector<std::string> folders)
+{
+    std::sort(folders.begin(), folders.end());
+    std::vector<std::string> kept;
+    for (std::string &folder : folders)
+        if (kept.empty() || !folder.starts_with(kept.back()))
+            kept.push_back(std::move(folder));
+    return kept;
+}
+
+bool liesInside(const std::vector<std::string> &folders, const std::string &path)
+{
+    const auto at = std::lower_bound(folders.begin(), folders.end(), path);
+    return at != folders.begin() && path.starts_with(*(at - 1));
+}
+
+} // namespace
+
+ContentSearch::ContentSearch(const SearchRequest &request, const EnumerationResult &enumeration, RunContext &context)
+    : m_request(request), m_enumeration(enumeration), m_entries(enumeration.entries), m_context(context)
+{
+}
+
+QList<ResultItem> ContentSearch::run()
+{
+    const int steps = stepCount();
+    m_context.beginStep(2, steps, true);
+    m_context.status([] { return text("Sorting files…"); }, -1);
+    const std::vector<SizeRun> runs = sortAndDropRepeats();
+
+    m_context.beginStep(3, steps, true);
+    ContentHasher(m_entries, m_context, m_request.ignoreMp4Header, !m_request.compareFolders).hash(m_nodes, runs);
+
+    if (m_request.compareFolders) {
+        m_context.beginStep(4, steps, true);
+        m_context.status([] { return text("Hashing folders…"); }, 0);
+        hashFolders();
+    }
+    m_context.beginStep(m_request.compareFolders ? 5 : 4, steps, true);
+    m_context.status([] { return text("Comparing file hashes…"); }, 0);
+    std::vector<Member> members = compareDigests();
+
+    if (m_request.compareFolders && members.size() >= 2) {
+        m_context.beginStep(6, steps, true);
+        m_context.status([] { return text("Filtering out contents of duplicate folders…"); }, 0);
+        members = filterDuplicateFolderContents(members);
+    }
+    // Empty files and folders are never worth listing, and links only count inside folders.
+    // Groups keep their numbers.
+    std::erase_if(members, [&](const Member &m) {
+        return m_nodes[m.node].size == 0 || m_nodes[m.node].has(IsSymlink);
+    });
+    return makeItems(members);
+}
+
+std::vector<SizeRun> ContentSearch::sortAndDropRepeats()
+{
+    std::vector<quint32> order(m_entries.size());
+    std::iota(order.begin(), order.end(), 0);
+    std::sort(order.begin(), order.end(), [&](quint32 a, quint32 b) {
+        const FileEntry &ea = m_entries[a], &eb = m_entries[b];
+        if (ea.size != eb.size)
+            return ea.size > eb.size;
+        return m_entries.comparePaths(ea, eb) > 0;
+    });
+    // A file reached through overlapping locations is kept once.
+    std::erase_if(order, [&, previous = quint32(-1)](quint32 i) mutable {
+        const bool repeat = previous != quint32(-1) && m_entries[previous].size == m_entries[i].size &&
+                            m_entries.comparePaths(m_entries[previous], m_entries[i]) == 0;
+        previous = i;
+        return repeat;
+    });
+
+    std::vector<SizeRun> runs;
+    m_nodes.clear();
+    for (std::size_t begin = 0; begin < order.size();) {
+        std::size_t end = begin + 1;
+        while (end < order.size() && m_entries[order[end]].size == m_entries[order[begin]].size)
+            ++end;
+        // Only items that share their size can be duplicates; folder comparison needs every item.
+        if (end - begin >= 2 || m_request.compareFolders) {
+            const std::size_t first = m_nodes.size();
+            for (std::size_t k = begin; k < end; ++k) {
+                const FileEntry &entry = m_entries[order[k]];
+                ContentNode node;
+                node.entry = order[k];
+                node.flags = entry.flags;
+                node.size = entry.size;
+                node.physicalSize = entry.physicalSize;
+                m_nodes.push_back(node);
+            }
+            if (end - begin >= 2)
+                runs.push_back({first, m_nodes.size()});
+        }
+        begin = end;
+    }
+    return runs;
+}
+
+const std::string &ContentSearch::nodePath(std::size_t node)
+{
+    if (m_paths.empty()) {
+        m_paths.reserve(m_nodes.size());
+        for (const ContentNode &n : m_nodes)
+            m_paths.push_back(m_entries.path(m_entries[n.entry]));
+    }
+    return m_paths[node];
+}
+
+void ContentSearch::hashFolders()
+{
+    const std::size_t n = m_nodes.size();
+    if (n == 0)
+        return;
+    nodePath(0);
+    std::vector<std::size_t> byPath(n);
+    std::iota(byPath.begin(), byPath.end(), 0);
+    std::sort(byPath.begin(), byPath.end(), [&](std::size_t a, std::size_t b) { return m_paths[a] < m_paths[b]; });
+
+    // A folder is empty when the next path does not begin with its own (a plain prefix test).
+    for (std::size_t k = 0; k < n && !m_context.aborted(); ++k) {
+        m_context.status([] { return text("Hashing folders…"); }, double(k) / double(2 * n));
+        ContentNode &node = m_nodes[byPath[k]];
+        if (!node.has(IsFolder))
+            continue;
+        if (k + 1 == n || !m_paths[byPath[k + 1]].starts_with(m_paths[byPath[k]])) {
+            node.size = 0;
+            node.itemCount = 0;
+            node.setDigest(emptyFolderDigest());
+        }
+    }
+
+    // Deepest parents first, so that every folder is complete before it counts as a child.
+    std::vector<std::size_t> byParent = byPath;
+    std::stable_sort(byParent.begin(), byParent.end(), [&](std::size_t a, std::size_t b) {
+        return parentPath(m_paths[a]) > parentPath(m_paths[b]);
+    });
+    for (std::size_t begin = 0; begin < n && !m_context.aborted();) {
+        const std::string_view parent = parentPath(m_paths[byParent[begin]]);
+        std::size_t end = begin + 1;
+        while (end < n && parentPath(m_paths[byParent[end]]) == parent)
+            ++end;
+        m_context.status([] { return text("Hashing folders…"); }, 0.5 + double(begin) / double(2 * n));
+        const bool complete = std::all_of(byParent.begin() + qsizetype(begin), byParent.begin() + qsizetype(end),
+                                          [&](std::size_t i) { return m_nodes[i].has(HasDigest); });
+        const auto found = std::lower_bound(byPath.begin(), byPath.end(), parent,
+                                            [&](std::size_t i, std::string_view p) { return m_paths[i] < p; });
+        if (complete && found != byPath.end() && m_paths[*found] == parent) {
+            Sha512 contents, allocation;
+            qint64 size = 0, physicalSize = 0, itemCount = 0;
+            quint16 inherited = 0;
+            for (std::size_t k = begin; k < end; ++k) {
+                const ContentNode &child = m_nodes[byParent[k]];
+                const std::string_view name = m_entries.name(m_entries[child.entry]);
+                contents.update(name.data(), name.size());
+                contents.update(child.digest.data(), child.digest.size());
+                if (child.has(HasAllocDigest))
+                    allocation.update(child.allocDigest.data(), child.allocDigest.size());
+                size += child.size;
+                physicalSize += child.physicalSize;
+                itemCount += child.has(IsFolder) ? child.itemCount : 1;
+                inherited |= child.flags & (ReadOnly | OtherOwner);
+            }
+            ContentNode &folder = m_nodes[*found];
+            folder.size = size;
+            folder.physicalSize = physicalSize;
+            folder.itemCount = itemCount;
+            folder.flags |= inherited;
+            folder.setDigest(contents.final());
+            folder.setAllocDigest(allocation.final());
+        }
+        begin = end;
+    }
+}
+
+std::vector<ContentSearch::Member> ContentSearch::compareDigests()
+{
+    std::vector<std::size_t> order;
+    for (std::size_t i = 0; i < m_nodes.size(); ++i)
+        if (m_nodes[i].has(HasDigest))
+            order.push_back(i);
+    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
+        const ContentNode &na = m_nodes[a], &nb = m_nodes[b];
+        if (na.size != nb.size)
+            return na.size > nb.size;
+        if (na.itemCount != nb.itemCount)
+            return na.itemCount > nb.itemCount;
+        return selfsame::compareDigests(na.digest, nb.digest) < 0;
+    });
+
+    std::vector<Member> members;
+    int group = 0;
+    const std::size_t n = order.size();
+    for (std::size_t anchor = 0; anchor + 1 < n; ) {
+        if (m_context.aborted())
+            break;
+        m_context.status([] { return text("Comparing file hashes…"); }, double(anchor) / double(n));
+        const ContentNode &first = m_nodes[order[anchor]];
+        std::size_t end = anchor + 1;
+        while (end < n && m_nodes[order[end]].size == first.size && m_nodes[order[end]].digest == first.digest)
+            ++end;
+        const bool allClones =
+            first.has(HasAllocDigest) && std::all_of(order.begin() + qsizetype(anchor) + 1, order.begin() + qsizetype(end),
+                                                     [&](std::size_t i) {
+                                                         return m_nodes[i].has(HasAllocDigest) &&
+                                                                m_nodes[i].allocDigest == first.allocDigest;
+                                                     });
+        if (end - anchor >= 2 && !(m_request.ignoreClones && allClones)) {
+            for (std::size_t k = anchor; k < end; ++k) {
+                members.push_back({order[k], group, int(end - anchor)});
+                if (m_request.compareFolders && m_nodes[order[k]].has(IsFolder))
+                    m_duplicateFolders.push_back(nodePath(order[k]) + '/');
+            }
+            ++group;
+        }
+        anchor = end;
+    }
+    return members;
+}
+
+std::vector<ContentSearch::Member> ContentSearch::filterDuplicateFolderContents(const std::vector<Member> &members)
+{
+    const std::vector<std::string> folders = outermost(m_duplicateFolders);
+    const std::vector<std::string> packages = outermost(m_enumeration.packages);
+    std::vector<Member> kept;
+    for (std::size_t i = 0; i < members.size(); ++i) {
+        if (m_context.aborted())
+            break;
+        m_context.status([] { return text("Filtering out contents of duplicate folders…"); },
+                         double(i) / double(members.size()));
+        std::string path = nodePath(members[i].node);
+        if (m_nodes[members[i].node].has(IsFolder))
+            path.push_back('/');
+        if (!liesInside(folders, path) && !(m_request.skipHiddenFiles && liesInside(packages, path)))
+            kept.push_back(members[i]);
+    }
+    // Groups that lost members to a duplicate folder shrink; those left alone disappear.
+    std::stable_sort(kept.begin(), kept.end(), [](const Member &a, const Member &b) { return a.group < b.group; });
+    std::vector<Member> renumbered;
+    int group = 0;
+    for (std::size_t begin = 0; begin < kept.size();) {
+        std::size_t end = begin + 1;
+        while (end < kept.size() && kept[end].group == kept[begin].group)
+            ++end;
+        if (end - begin >= 2) {
+            for (std::size_t k = begin; k < end; ++k)
+                renumbered.push_back({kept[k].node, group, int(end - begin)});
+            ++group;
+        }
+        begin = end;
+    }
+    return renumbered;
+}
+
+QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members) const
+{
+    QList<ResultItem> items;
+    items.reserve(qsizetype(members.size()));
+    for (const Member &member : members) {
+        const ContentNode &node = m_nodes[member.node];
+        const FileEntry &entry = m_entries[node.entry];
+        ResultItem item;
+        const std::string path = m_entries.path(entry);
+        item.path = QString::fromStdString(path);
+        item.size = node.size;
+        item.physicalSize = node.physicalSize;
+        item.modified = entry.modified;
+        item.lastUsed = entry.lastUsed;
+        item.attributes = entry.attributes;
+        item.created = entry.created;
+        item.tagList = readUserTags(path.c_str());
+        item.digest = node.digest;
+        item.allocDigest = node.allocDigest;
+        item.itemCount = node.itemCount;
+        item.group = member.group;
+        item.dupes = member.dupes;
+        item.flags = node.flags;
+        item.device = entry.device;
+        item.inode = entry.inode;
+        items.push_back(std::move(item));
+    }
+    return items;
+}
+
+} // namespace selfsame

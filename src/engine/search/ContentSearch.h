@@ -1,0 +1,48 @@
+#pragma once
+
+#include "results/ResultItem.h"
+#include "search/ContentHasher.h"
+#include "search/Enumerator.h"
+#include "search/RunContext.h"
+#include "search/SearchRequest.h"
+
+#include <QList>
+
+namespace selfsame {
+
+// Groups enumerated items by content: files of one size are digested and equal digests
+// make a group; with folder comparison, folders are digested from their children too and
+// whatever lies inside a duplicate folder is dropped.
+class ContentSearch {
+public:
+    ContentSearch(const SearchRequest &request, const EnumerationResult &enumeration, RunContext &context);
+
+    // Steps 2 to 6 of a content search, then the clean-up: the grouped items in group order.
+    QList<ResultItem> run();
+
+    int stepCount() const { return m_request.compareFolders ? 6 : 4; }
+
+private:
+    struct Member {
+        std::size_t node;
+        int group;
+        int dupes;
+    };
+
+    std::vector<SizeRun> sortAndDropRepeats();
+    void hashFolders();
+    std::vector<Member> compareDigests();
+    std::vector<Member> filterDuplicateFolderContents(const std::vector<Member> &members);
+    QList<ResultItem> makeItems(const std::vector<Member> &members) const;
+    const std::string &nodePath(std::size_t node);
+
+    const SearchRequest &m_request;
+    const EnumerationResult &m_enumeration;
+    const EntryTable &m_entries;
+    RunContext &m_context;
+    std::vector<ContentNode> m_nodes;
+    std::vector<std::string> m_paths;       // full path of every node, with folder comparison only
+    std::vector<std::string> m_duplicateFolders; // each with "/" appended
+};
+
+} // namespace selfsame

@@ -1,0 +1,249 @@
+#include "search/Digest.h"
+
+#include <QtGlobal>
+
+#include <openssl/evp.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <linux/fiemap.h>
+#include <linux/fs.h>
+#include <strings.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace selfsame {
+
+Sha512::Sha512() : m_context(EVP_MD_CTX_new())
+{
+    if (!m_context || EVP_DigestInit_ex(m_context, EVP_sha512(), nullptr) != 1)
+        qFatal("SHA-512 is not available from OpenSSL");
+}
+
+Sha512::~Sha512() { EVP_MD_CTX_free(m_context); }
+
+void Sha512::update(const void *data, std::size_t length)
+{
+    if (length > 0)
+        EVP_DigestUpdate(m_context, data, length);
+}
+
+Digest Sha512::final()
+{
+    Digest digest{};
+    unsigned int length = 0;
+    EVP_DigestFinal_ex(m_context, digest.data(), &length);
+    return digest;
+}
+
+Digest sha512(const void *data, std::size_t length)
+{
+    Digest digest{};
+    unsigned int size = 0;
+    EVP_Digest(data, length, digest.data(), &size, EVP_sha512(), nullptr);
+    return digest;
+}
+
+int compareDigests(const Digest &a, const Digest &b)
+{
+    const int order = std::memcmp(a.data(), b.data(), a.size());
+    return order < 0 ? -1 : (order > 0 ? 1 : 0);
+}
+
+QByteArray digestToHex(const Digest &digest)
+{
+    return QByteArray(reinterpret_cast<const char *>(digest.data()), qsizetype(digest.size())).toHex();
+}
+
+const Digest &emptyDigest()
+{
+    static const Digest digest = sha512(nullptr, 0);
+    return digest;
+}
+
+const Digest &emptyFolderDigest()
+{
+    static const Digest digest = sha512(emptyDigest().data(), emptyDigest().size());
+    return digest;
+}
+
+std::optional<Digest> symlinkDigest(const char *path)
+{
+    char target[1024 + 8];
+    const ssize_t length = readlink(path, target, 1024);
+    if (length < 0)
+        return std::nullopt;
+    std::memcpy(target + length, "-symlink", 8);
+    return sha512(target, std::size_t(length) + 8);
+}
+
+bool skipsMp4Header(bool ignoreMp4Header, std::string_view fileName, qint64 size)
+{
+    if (!ignoreMp4Header || size < kMp4HeaderSize + 1)
+        return false;
+    const auto dot = fileName.rfind('.');
+    return dot != std::string_view::npos && fileName.size() - dot == 4 &&
+           strncasecmp(fileName.data() + dot + 1, "mp4", 3) == 0;
+}
+
+ReadBuffer::ReadBuffer(std::size_t size) : m_data(new char[size]), m_size(size) {}
+
+std::size_t ReadBuffer::defaultSize()
+{
+    const long cache = sysconf(_SC_LEVEL2_CACHE_SIZE);
+    const std::size_t quarter = cache > 0 ? std::size_t(cache) / 4 : 0;
+    return std::clamp<std::size_t>(quarter, 128 * 1024, 1024 * 1024);
+}
+
+namespace {
+
+std::string_view baseName(const char *path)
+{
+    const char *slash = std::strrchr(path, '/');
+    return slash ? std::string_view(slash + 1) : std::string_view(path);
+}
+
+// Reads without touching the access time where the kernel allows it: a search must not
+// change the "last used" dates it shows.
+int openForReading(const char *path)
+{
+    int fd = open(path, O_RDONLY | O_CLOEXEC | O_NOATIME | O_NOCTTY);
+    if (fd < 0 && errno == EPERM)
+        fd = open(path, O_RDONLY | O_CLOEXEC | O_NOCTTY);
+    return fd;
+}
+
+ssize_t preadFully(int fd, char *buffer, std::size_t length, off_t offset)
+{
+    std::size_t done = 0;
+    while (done < length) {
+        const ssize_t n = pread(fd, buffer + done, length - done, offset + off_t(done));
+        if (n < 0 && errno == EINTR)
+            continue;
+        if (n <= 0)
+            return done > 0 ? ssize_t(done) : n;
+        done += std::size_t(n);
+    }
+    return ssize_t(done);
+}
+
+} // namespace
+
+DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Header, ReadBuffer &buffer,
+                           std::vector<qint64> &allocStorage, const std::atomic<int> *abortFlag)
+{
+    DigestResult result;
+    if (fileSize < 0) {
+        struct stat st;
+        if (lstat(path, &st) != 0 || st.st_size < 0)
+            return result;
+        fileSize = st.st_size;
+    }
+    const int fd = openForReading(path);
+    if (fd < 0)
+        return result;
+
+    Sha512 hash;
+    off_t offset = skipsMp4Header(ignoreMp4Header, baseName(path), fileSize) ? kMp4HeaderSize : 0;
+    if (fileSize - offset > qint64(buffer.size()))
+        posix_fadvise(fd, offset, fileSize - offset, POSIX_FADV_SEQUENTIAL);
+    while (offset < fileSize) {
+        if (abortFlag && abortFlag->load(std::memory_order_relaxed) == 1)
+            break;
+        const std::size_t wanted = std::size_t(std::min<qint64>(fileSize - offset, qint64(buffer.size())));
+        const ssize_t n = preadFully(fd, buffer.data(), wanted, offset);
+        if (n > 0) {
+            hash.update(buffer.data(), std::size_t(n));
+            offset += n;
+            result.bytesRead += n;
+        }
+        if (n < ssize_t(wanted))
+            break; // a file that shrank or failed: the digest covers what was read
+    }
+    result.digest = hash.final();
+    result.allocDigest = computeAllocDigest(fd, allocStorage);
+    close(fd);
+    return result;
+}
+
+std::optional<Digest> computeAllocDigest(int fd, std::vector<qint64> &allocStorage)
+{
+    allocStorage.clear();
+    struct stat st;
+    if (fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size <= 0)
+        return std::nullopt;
+
+    constexpr unsigned kExtentsPerCall = 128;
+    constexpr quint32 kUnusable = FIEMAP_EXTENT_UNKNOWN | FIEMAP_EXTENT_DELALLOC | FIEMAP_EXTENT_ENCODED |
+                                  FIEMAP_EXTENT_DATA_INLINE | FIEMAP_EXTENT_NOT_ALIGNED |
+                                  FIEMAP_EXTENT_DATA_TAIL | FIEMAP_EXTENT_UNWRITTEN;
+    alignas(struct fiemap) char request[sizeof(struct fiemap) + kExtentsPerCall * sizeof(struct fiemap_extent)];
+    auto *map = reinterpret_cast<struct fiemap *>(request);
+
+    allocStorage.push_back(qint64(st.st_dev));
+    const qint64 size = st.st_size;
+    qint64 mapped = 0; // logical bytes covered so far, without gaps
+    bool last = false;
+    while (!last && mapped < size) {
+        std::memset(request, 0, sizeof(request));
+        map->fm_start = quint64(mapped);
+        map->fm_length = quint64(size - mapped);
+        map->fm_flags = FIEMAP_FLAG_SYNC; // flushes delayed allocation so fresh files map too
+        map->fm_extent_count = kExtentsPerCall;
+        if (ioctl(fd, FS_IOC_FIEMAP, map) != 0 || map->fm_mapped_extents == 0)
+            return std::nullopt;
+        for (quint32 i = 0; i < map->fm_mapped_extents; ++i) {
+            const struct fiemap_extent &extent = map->fm_extents[i];
+            if ((extent.fe_flags & kUnusable) || qint64(extent.fe_logical) > mapped || extent.fe_length == 0)
+                return std::nullopt; // unknown placement, or a hole
+            // An extent may start before the asked offset when the previous call ended inside it.
+            const qint64 skip = mapped - qint64(extent.fe_logical);
+            if (skip >= qint64(extent.fe_length))
+                continue;
+            const qint64 physical = qint64(extent.fe_physical) + skip;
+            const qint64 length = std::min<qint64>(qint64(extent.fe_length) - skip, size - mapped);
+            const std::size_t n = allocStorage.size();
+            if (n >= 3 && allocStorage[n - 2] + allocStorage[n - 1] == physical)
+                allocStorage[n - 1] += length; // physically contiguous with the previous extent
+            else {
+                allocStorage.push_back(physical);
+                allocStorage.push_back(length);
+            }
+            mapped += length;
+            last = (extent.fe_flags & FIEMAP_EXTENT_LAST) != 0;
+            if (mapped >= size)
+                break;
+        }
+    }
+    if (mapped != size)
+        return std::nullopt;
+    return sha512(allocStorage.data(), allocStorage.size() * sizeof(qint64));
+}
+
+std::optional<quint64> sampleFingerprint(const char *path, qint64 fileSize, bool skipHeader, ReadBuffer &buffer,
+                                         qint64 sampleSize, qint64 *bytesRead)
+{
+    const int fd = openForReading(path);
+    if (fd < 0)
+        return std::nullopt;
+    const qint64 start = skipHeader ? kMp4HeaderSize : 0;
+    const std::size_t length = std::size_t(std::min<qint64>(sampleSize, qint64(buffer.size()) / 2));
+    const ssize_t head = preadFully(fd, buffer.data(), length, start);
+    const ssize_t tail = preadFully(fd, buffer.data() + length, length, fileSize - qint64(length));
+    close(fd);
+    if (head < 0 || tail < 0)
+        return std::nullopt;
+    *bytesRead += head + tail;
+    Sha512 hash;
+    hash.update(buffer.data(), std::size_t(head));
+    hash.update(buffer.data() + length, std::size_t(tail));
+    const Digest digest = hash.final();
+    quint64 fingerprint;
+    std::memcpy(&fingerprint, digest.data(), sizeof(fingerprint));
+    return fingerprint;
+}
+
+} // namespace selfsame

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "results/ResultItem.h"
+
+#include <QByteArray>
+
+#include <atomic>
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+typedef struct evp_md_ctx_st EVP_MD_CTX;
+
+namespace selfsame {
+
+// Incremental SHA-512 (OpenSSL's, the fastest on the machine).
+class Sha512 {
+public:
+    Sha512();
+    ~Sha512();
+    Sha512(const Sha512 &) = delete;
+    Sha512 &operator=(const Sha512 &) = delete;
+    void update(const void *data, std::size_t length);
+    Digest final();
+
+private:
+    EVP_MD_CTX *m_context;
+};
+
+Digest sha512(const void *data, std::size_t length);
+inline Digest sha512(const QByteArray &bytes) { return sha512(bytes.constData(), std::size_t(bytes.size())); }
+
+// Byte order of digests: memcmp over the shorter length, then the shorter first. Returns -1, 0 or 1.
+int compareDigests(const Digest &a, const Digest &b);
+QByteArray digestToHex(const Digest &digest);
+
+// SHA-512 of zero bytes: the digest of every empty file.
+const Digest &emptyDigest();
+// SHA-512 of the empty-file digest: the digest of every empty folder.
+const Digest &emptyFolderDigest();
+// A symbolic link is digested as its target text followed by "-symlink"; nullopt when unreadable.
+std::optional<Digest> symlinkDigest(const char *path);
+
+// MP4 files of more than 16 KiB may be compared without their first 16,384 bytes, where
+// editors rewrite metadata in place.
+inline constexpr qint64 kMp4HeaderSize = 16384;
+bool skipsMp4Header(bool ignoreMp4Header, std::string_view fileName, qint64 size);
+
+// A reading buffer owned by one hashing thread and reused for all its files.
+class ReadBuffer {
+public:
+    explicit ReadBuffer(std::size_t size = defaultSize());
+    char *data() { return m_data.get(); }
+    std::size_t size() const { return m_size; }
+    // A fraction of the per-core cache, so that the bytes are still cached when hashed.
+    static std::size_t defaultSize();
+
+private:
+    std::unique_ptr<char[]> m_data;
+    std::size_t m_size;
+};
+
+struct DigestResult {
+    std::optional<Digest> digest;
+    std::optional<Digest> allocDigest;
+    qint64 bytesRead = 0;
+};
+
+// Content digest of a file (and its allocation digest when the file system reports a
+// physical extent map). fileSize < 0: looked up with lstat. The loop stops early when
+// abortFlag holds 1 (an abort request); the digest then covers the bytes read so far.
+DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Header, ReadBuffer &buffer,
+                           std::vector<qint64> &allocStorage, const std::atomic<int> *abortFlag = nullptr);
+
+// Allocation digest of an open regular file: device id, then physical offset and length of
+// every contiguous extent. nullopt where the extents do not cover the file exactly.
+std::optional<Digest> computeAllocDigest(int fd, std::vector<qint64> &allocStorage);
+
+// A cheap fingerprint of the first and last bytes that a content digest covers, to prove
+// files of equal size different without reading them whole. nullopt when unreadable.
+std::optional<quint64> sampleFingerprint(const char *path, qint64 fileSize, bool skipHeader, ReadBuffer &buffer,
+                                         qint64 sampleSize, qint64 *bytesRead);
+
+} // namespace selfsame

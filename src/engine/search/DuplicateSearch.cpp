@@ -1,0 +1,80 @@
+#include "search/DuplicateSearch.h"
+
+#include "search/SearchRun.h"
+
+#include <QCoreApplication>
+
+#include <chrono>
+
+namespace selfsame {
+
+EmptyResultMessage emptyResultMessage(DetectionMode mode, const SearchStatistics &statistics)
+{
+    auto tr = [](const char *text) { return QCoreApplication::translate("DuplicateSearch", text); };
+    if (mode == DetectionMode::Attribute && !statistics.someSpotlightValueFound)
+        return {tr("No file has been found with the specified spotlight attribute."),
+                tr("Make sure the folder you are searching contains some files with this attribute, and that "
+                   "your Spotlight index is not disabled.")};
+    if (mode == DetectionMode::Duration && !statistics.someDurationFound)
+        return {tr("No time-based file has been found."),
+                tr("Make sure the folder you are searching contains some audio or video files, and that your "
+                   "Spotlight index is not disabled.")};
+    return {tr("No duplicate files were found."), {}};
+}
+
+DuplicateSearch::DuplicateSearch(QObject *parent) : QObject(parent) {}
+
+DuplicateSearch::~DuplicateSearch()
+{
+    abortAndWait(true);
+    if (m_thread.joinable())
+        m_thread.join();
+}
+
+void DuplicateSearch::searchInFolderURLs(const SearchRequest &request)
+{
+    if (m_thread.joinable()) {
+        abortAndWait(true);
+        m_thread.join();
+    }
+    m_request = storedRequest(request);
+    m_mainItems.clear();
+    m_statistics = {};
+    m_aborted = false;
+    m_searchingState = Running;
+    m_thread = std::thread([this] { searchInFolderURLsInBackground(); });
+}
+
+void DuplicateSearch::abortAndWait(bool wait)
+{
+    int expected = Running;
+    if (!m_searchingState.compare_exchange_strong(expected, AbortRequested))
+        return;
+    m_aborted = true;
+    while (wait && m_searchingState.load() == AbortRequested)
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+}
+
+void DuplicateSearch::searchInFolderURLsInBackground()
+{
+    RunContext context{m_searchingState, m_throttle,
+                       [this](const QString &status, double value) {
+                           QMetaObject::invokeMethod(
+                               this, [this, status, value] { Q_EMIT progress(status, value); },
+                               Qt::QueuedConnection);
+                       },
+                       {}, {}};
+    QList<ResultItem> items = SearchRun(m_request, context).run();
+    const SearchStatistics statistics = context.statistics;
+    QMetaObject::invokeMethod(
+        this,
+        [this, items = std::move(items), statistics]() mutable {
+            m_mainItems = std::move(items);
+            m_statistics = statistics;
+            Q_EMIT searchDone();
+        },
+        Qt::QueuedConnection);
+    m_searchingState = Finished;
+}
+
+} // namespace selfsame

@@ -1,0 +1,61 @@
+#pragma once
+
+#include "results/ResultItem.h"
+#include "search/RunContext.h"
+#include "search/SearchRequest.h"
+
+#include <QList>
+#include <QObject>
+
+#include <atomic>
+#include <thread>
+
+namespace selfsame {
+
+struct EmptyResultMessage {
+    QString message;
+    QString informativeText; // may be empty
+};
+// What to tell the user when a search that was not aborted found nothing.
+EmptyResultMessage emptyResultMessage(DetectionMode mode, const SearchStatistics &statistics);
+
+// One search, run on a thread of its own. Status and the end of the search reach the
+// thread that started it as queued signals.
+class DuplicateSearch : public QObject {
+    Q_OBJECT
+public:
+    explicit DuplicateSearch(QObject *parent = nullptr);
+    ~DuplicateSearch() override; // aborts a running search and waits for it
+
+    // Stores the request (with its storage rules applied) and starts the search.
+    void searchInFolderURLs(const SearchRequest &request);
+
+    void abort() { abortAndWait(false); }
+    // Requests an abort when the search is running; with `wait`, returns once it has stopped.
+    // Safe to call from a signal handler when `wait` is false.
+    void abortAndWait(bool wait);
+
+    int searchingState() const { return m_searchingState.load(); }
+    bool aborted() const { return m_aborted.load(); }
+    const SearchRequest &request() const { return m_request; }
+    // Valid once searchDone has been emitted.
+    const QList<ResultItem> &mainItems() const { return m_mainItems; }
+    const SearchStatistics &statistics() const { return m_statistics; }
+
+Q_SIGNALS:
+    void progress(const QString &status, double progress); // progress < 0: indeterminate
+    void searchDone();
+
+private:
+    void searchInFolderURLsInBackground();
+
+    SearchRequest m_request;
+    std::atomic<int> m_searchingState{Finished};
+    std::atomic<bool> m_aborted{false};
+    StatusThrottle m_throttle;
+    QList<ResultItem> m_mainItems;
+    SearchStatistics m_statistics;
+    std::thread m_thread;
+};
+
+} // namespace selfsame

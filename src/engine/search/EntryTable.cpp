@@ -1,0 +1,92 @@
+#include "search/EntryTable.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace selfsame {
+
+void EntryBatch::add(FileEntry entry, std::string_view name)
+{
+    entry.nameOffset = quint32(names.size());
+    entry.nameLength = quint16(name.size());
+    names.append(name);
+    entries.push_back(entry);
+}
+
+quint32 EntryTable::addFolder(std::string path)
+{
+    m_folders.push_back(std::move(path));
+    return quint32(m_folders.size() - 1);
+}
+
+void EntryTable::add(FileEntry entry, std::string_view name)
+{
+    entry.nameOffset = quint32(m_names.size());
+    entry.nameLength = quint16(name.size());
+    m_names.append(name);
+    m_entries.push_back(entry);
+}
+
+void EntryTable::append(const EntryBatch &batch)
+{
+    const quint32 base = quint32(m_names.size());
+    m_names.append(batch.names);
+    for (FileEntry entry : batch.entries) {
+        entry.nameOffset += base;
+        m_entries.push_back(entry);
+    }
+}
+
+std::string EntryTable::path(const FileEntry &e) const
+{
+    const std::string &folder = m_folders[e.folder];
+    std::string result;
+    result.reserve(folder.size() + 1 + e.nameLength);
+    result.append(folder);
+    if (result.empty() || result.back() != '/')
+        result.push_back('/');
+    result.append(name(e));
+    return result;
+}
+
+namespace {
+
+// The parts of a path, folder then "/" then name, walked as one string.
+struct PathParts {
+    std::string_view part[3];
+    PathParts(std::string_view folder, std::string_view name)
+        : part{folder, (!folder.empty() && folder.back() == '/') ? std::string_view() : std::string_view("/"),
+               name}
+    {
+    }
+};
+
+} // namespace
+
+int EntryTable::comparePaths(const FileEntry &a, const FileEntry &b) const
+{
+    PathParts pa(m_folders[a.folder], name(a));
+    PathParts pb(m_folders[b.folder], name(b));
+    int ia = 0, ib = 0;
+    std::size_t oa = 0, ob = 0;
+    for (;;) {
+        while (ia < 3 && oa == pa.part[ia].size()) {
+            ++ia;
+            oa = 0;
+        }
+        while (ib < 3 && ob == pb.part[ib].size()) {
+            ++ib;
+            ob = 0;
+        }
+        if (ia == 3 || ib == 3)
+            return (ia == 3) - (ib == 3) == 0 ? 0 : (ia == 3 ? -1 : 1);
+        const std::size_t n = std::min(pa.part[ia].size() - oa, pb.part[ib].size() - ob);
+        const int order = std::memcmp(pa.part[ia].data() + oa, pb.part[ib].data() + ob, n);
+        if (order != 0)
+            return order < 0 ? -1 : 1;
+        oa += n;
+        ob += n;
+    }
+}
+
+} // namespace selfsame

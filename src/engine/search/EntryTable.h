@@ -1,0 +1,70 @@
+#pragma once
+
+#include "results/ResultItem.h"
+
+#include <QString>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace selfsame {
+
+// One enumerated item, kept small: a search may enumerate millions. The path is its folder
+// (an index into the table's folder paths) and its name (a slice of the table's name arena).
+struct FileEntry {
+    quint32 folder = 0;
+    quint32 nameOffset = 0;
+    quint16 nameLength = 0;
+    quint16 flags = 0; // ItemFlag bits set at enumeration
+    qint64 size = 0;
+    qint64 physicalSize = 0;
+    qint64 modified = 0;
+    qint64 attributes = 0; // status change time
+    qint64 lastUsed = kNoDate;
+    qint64 created = kNoDate;
+    quint64 device = 0;
+    quint64 inode = 0;
+
+    bool has(ItemFlag f) const { return (flags & f) != 0; }
+    bool isRegularFile() const { return !(flags & (IsFolder | IsSymlink)); }
+};
+
+// Items gathered by one enumerating thread before they join the table.
+struct EntryBatch {
+    std::vector<FileEntry> entries;
+    std::string names;
+    void add(FileEntry entry, std::string_view name);
+    void clear()
+    {
+        entries.clear();
+        names.clear();
+    }
+};
+
+// The items of one search in enumeration order, with their folder paths and names.
+class EntryTable {
+public:
+    quint32 addFolder(std::string path);
+    void add(FileEntry entry, std::string_view name);
+    void append(const EntryBatch &batch);
+
+    std::size_t size() const { return m_entries.size(); }
+    const FileEntry &operator[](std::size_t i) const { return m_entries[i]; }
+    FileEntry &operator[](std::size_t i) { return m_entries[i]; }
+
+    std::string_view name(const FileEntry &e) const { return {m_names.data() + e.nameOffset, e.nameLength}; }
+    const std::string &folderPath(quint32 folder) const { return m_folders[folder]; }
+    std::string path(const FileEntry &e) const;
+    QString qPath(const FileEntry &e) const { return QString::fromStdString(path(e)); }
+
+    // Compares the full paths of two entries as byte strings without building them.
+    int comparePaths(const FileEntry &a, const FileEntry &b) const;
+
+private:
+    std::vector<FileEntry> m_entries;
+    std::string m_names;
+    std::vector<std::string> m_folders;
+};
+
+} // namespace selfsame

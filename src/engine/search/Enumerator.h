@@ -1,0 +1,49 @@
+#pragma once
+
+#include "search/EntryTable.h"
+#include "search/SearchRequest.h"
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <sys/types.h>
+#include <vector>
+
+namespace selfsame {
+
+struct EnumerationResult {
+    EntryTable entries;
+    std::vector<std::string> packages;  // package folder paths, each with "/" appended
+    qint64 enumerated = 0;              // items seen before any filter
+    qint64 unreadableFolders = 0;       // folders that could not be listed
+};
+
+// Walks the locations of a request on several threads and keeps the items that pass its
+// filters. The order of entries is not defined; everything downstream sorts.
+class Enumerator {
+public:
+    // onItem is called, from any walking thread, with the running count of items seen.
+    Enumerator(const SearchRequest &request, const std::atomic<int> &searchingState, uid_t effectiveUser,
+               std::function<void(qint64 count)> onItem);
+
+    EnumerationResult run();
+
+    // Folders with these extensions are packages (bundles from other systems).
+    static bool isPackageName(std::string_view name);
+    // Lower-cased text after the last dot of a name, empty for none or a leading dot only.
+    static QString pathExtension(std::string_view name);
+
+private:
+    struct Job {
+        quint32 folder;
+        int level;
+    };
+    class Walk;
+
+    const SearchRequest &m_request;
+    const std::atomic<int> &m_searchingState;
+    uid_t m_effectiveUser;
+    std::function<void(qint64)> m_onItem;
+};
+
+} // namespace selfsame
