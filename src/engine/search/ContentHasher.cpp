@@ -6,8 +6,11 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <cstring>
 #include <mutex>
+#include <numeric>
 #include <thread>
+#include <unistd.h>
 #include <unordered_map>
 
 namespace selfsame {
@@ -23,166 +26,321 @@ struct InodeHash {
     std::size_t operator()(const InodeKey &k) const { return std::hash<quint64>()(k.inode * 31 + k.device); }
 };
 
-unsigned hashingThreads() { return std::clamp(std::thread::hardware_concurrency(), 1u, 16u); }
+// Files read side by side keep a descriptor open each; larger buckets are hashed one by one.
+constexpr std::size_t kMaxOpenFiles = 128;
 
 } // namespace
+
+// What one hashing thread owns: its buffers and its counts.
+struct ContentHasher::Worker {
+    ReadBuffer buffer;
+    std::vector<char> chunks; // side-by-side chunks of one bucket
+    std::vector<qint64> allocStorage;
+    SearchStatistics statistics;
+};
 
 ContentHasher::ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst)
     : m_entries(entries), m_context(context), m_ignoreMp4Header(ignoreMp4Header), m_sampleFirst(sampleFirst)
 {
 }
 
-void ContentHasher::runTasks(std::vector<ContentNode> &nodes, const std::vector<Task> &tasks,
-                             std::vector<quint64> *fingerprints, std::vector<char> *fingerprinted)
+qint64 ContentHasher::hashedLength(const ContentNode &node) const
+{
+    const bool skip = skipsMp4Header(m_ignoreMp4Header, m_entries.name(m_entries[node.entry]), node.size);
+    return node.size - (skip ? kMp4HeaderSize : 0);
+}
+
+void ContentHasher::reportProgress(const ContentNode &node)
+{
+    const qint64 handled = ++m_handled;
+    m_context.status(
+        [&] {
+            return QCoreApplication::translate("DuplicateSearch", "Hashing files of %1:")
+                       .arg(formatByteCount(node.size)) +
+                   QLatin1Char(' ') + m_entries.qPath(m_entries[node.entry]);
+        },
+        m_total > 0 ? double(handled) / double(m_total) : 0.0);
+}
+
+template <typename Job> void ContentHasher::parallel(std::size_t count, Job job)
 {
     std::atomic<std::size_t> next{0};
-    std::mutex statisticsMutex;
-    auto worker = [&] {
-        ReadBuffer buffer;
-        std::vector<qint64> allocStorage;
-        SearchStatistics local;
-        for (std::size_t i = next++; i < tasks.size() && !m_context.aborted(); i = next++) {
-            ContentNode &node = nodes[tasks[i].node];
-            const FileEntry &entry = m_entries[node.entry];
-            const std::string path = m_entries.path(entry);
-            m_context.status(
-                [&] {
-                    return QCoreApplication::translate("DuplicateSearch", "Hashing files of %1:")
-                               .arg(formatByteCount(node.size)) +
-                           QLatin1Char(' ') + QString::fromStdString(path);
-                },
-                m_total > 0 ? double(m_handled.load()) / double(m_total) : 0.0);
-            if (node.has(IsSymlink)) {
-                if (auto digest = symlinkDigest(path.c_str()))
-                    node.setDigest(*digest);
-            } else if (tasks[i].sample) {
-                const bool skip = skipsMp4Header(m_ignoreMp4Header, m_entries.name(entry), node.size);
-                if (auto fingerprint = sampleFingerprint(path.c_str(), node.size, skip, buffer, kSampleSize,
-                                                         &local.bytesRead)) {
-                    (*fingerprints)[i] = *fingerprint;
-                    (*fingerprinted)[i] = 1;
-                }
-                continue; // counted as handled once the fingerprints are compared
-            } else {
-                const DigestResult result = computeDigest(path.c_str(), node.size, m_ignoreMp4Header, buffer,
-                                                          allocStorage, &m_context.searchingState);
-                local.bytesRead += result.bytesRead;
-                if (result.digest) {
-                    node.setDigest(*result.digest);
-                    ++local.filesHashed;
-                } else {
-                    ++local.unreadableFiles;
-                }
-                if (result.allocDigest)
-                    node.setAllocDigest(*result.allocDigest);
-            }
-            ++m_handled;
-        }
-        std::lock_guard lock(statisticsMutex);
-        m_context.statistics.bytesRead += local.bytesRead;
-        m_context.statistics.filesHashed += local.filesHashed;
-        m_context.statistics.unreadableFiles += local.unreadableFiles;
+    std::mutex mutex;
+    auto run = [&] {
+        Worker worker;
+        for (std::size_t i = next++; i < count && !m_context.aborted(); i = next++)
+            job(i, worker);
+        std::lock_guard lock(mutex);
+        SearchStatistics &total = m_context.statistics;
+        total.bytesRead += worker.statistics.bytesRead;
+        total.filesHashed += worker.statistics.filesHashed;
+        total.filesSampled += worker.statistics.filesSampled;
+        total.unreadableFiles += worker.statistics.unreadableFiles;
     };
-    const unsigned threads = std::min<std::size_t>(hashingThreads(), std::max<std::size_t>(tasks.size(), 1));
+    const std::size_t threads = std::min<std::size_t>(std::clamp(std::thread::hardware_concurrency(), 1u, 16u),
+                                                      std::max<std::size_t>(count, 1));
     std::vector<std::thread> pool;
-    for (unsigned t = 1; t < threads; ++t)
-        pool.emplace_back(worker);
-    worker();
+    for (std::size_t t = 1; t < threads; ++t)
+        pool.emplace_back(run);
+    run();
     for (std::thread &thread : pool)
         thread.join();
 }
 
 void ContentHasher::hash(std::vector<ContentNode> &nodes, const std::vector<SizeRun> &runs)
 {
-    m_total = 0;
-    for (const SizeRun &run : runs)
-        m_total += qint64(run.end - run.begin);
-
-    // Hard links of one inode share their bytes: only the first path of each is read.
-    std::vector<std::pair<std::size_t, std::size_t>> followers; // (node, node it copies)
-    std::vector<Task> tasks;
-    std::vector<std::size_t> taskRun; // run index of each task, for comparing fingerprints
+    m_needsDigest.assign(nodes.size(), m_sampleFirst ? 0 : 1);
+    std::vector<std::pair<std::size_t, std::size_t>> followers; // (hard link, first path of its inode)
+    std::vector<std::size_t> symlinks;
+    std::vector<std::vector<std::size_t>> candidates; // per run: the first path of every inode
     std::unordered_map<InodeKey, std::size_t, InodeHash> firstOfInode;
-    for (std::size_t r = 0; r < runs.size(); ++r) {
+    for (const SizeRun &run : runs) {
+        m_total += qint64(run.end - run.begin);
         firstOfInode.clear();
-        for (std::size_t i = runs[r].begin; i < runs[r].end; ++i) {
+        std::vector<std::size_t> files;
+        for (std::size_t i = run.begin; i < run.end; ++i) {
             ContentNode &node = nodes[i];
             const FileEntry &entry = m_entries[node.entry];
             if (node.has(IsFolder)) {
                 ++m_handled;
-                continue;
-            }
-            if (!node.has(IsSymlink) && node.size == 0) {
+            } else if (node.has(IsSymlink)) {
+                symlinks.push_back(i);
+            } else if (node.size == 0) {
                 node.setDigest(emptyDigest());
                 ++m_handled;
-                continue;
-            }
-            if (!node.has(IsSymlink)) {
-                auto [it, inserted] = firstOfInode.try_emplace(InodeKey{entry.device, entry.inode}, i);
-                if (!inserted) {
-                    followers.emplace_back(i, it->second);
-                    continue;
-                }
-            }
-            const qint64 hashed = node.size - (skipsMp4Header(m_ignoreMp4Header, m_entries.name(entry), node.size)
-                                                   ? kMp4HeaderSize
-                                                   : 0);
-            const bool sample = m_sampleFirst && !node.has(IsSymlink) && hashed > 4 * kSampleSize;
-            tasks.push_back({i, sample});
-            taskRun.push_back(r);
-        }
-    }
-
-    // Every inode stands for its hard links too; a fingerprint shared within a run means
-    // the file may have a duplicate.
-    std::unordered_map<std::size_t, int> pathsOfNode;
-    for (const auto &[follower, first] : followers)
-        ++pathsOfNode[first];
-
-    std::vector<quint64> fingerprints(tasks.size());
-    std::vector<char> fingerprinted(tasks.size(), 0);
-    runTasks(nodes, tasks, &fingerprints, &fingerprinted);
-
-    std::vector<Task> fullReads;
-    std::vector<std::size_t> order;
-    for (std::size_t t = 0; t < tasks.size();) {
-        std::size_t end = t;
-        while (end < tasks.size() && taskRun[end] == taskRun[t])
-            ++end;
-        order.clear();
-        for (std::size_t k = t; k < end; ++k)
-            if (tasks[k].sample && fingerprinted[k])
-                order.push_back(k);
-        std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-            return fingerprints[a] < fingerprints[b];
-        });
-        for (std::size_t k = 0; k < order.size(); ++k) {
-            const bool sharedBefore = k > 0 && fingerprints[order[k - 1]] == fingerprints[order[k]];
-            const bool sharedAfter = k + 1 < order.size() && fingerprints[order[k + 1]] == fingerprints[order[k]];
-            const bool hardLinked = pathsOfNode.count(tasks[order[k]].node) > 0;
-            if (sharedBefore || sharedAfter || hardLinked) {
-                fullReads.push_back({tasks[order[k]].node, false});
+            } else if (auto [first, isNew] = firstOfInode.try_emplace(InodeKey{entry.device, entry.inode}, i);
+                       !isNew) {
+                followers.emplace_back(i, first->second);
+                m_needsDigest[first->second] = 1;
             } else {
-                ++m_handled;
-                ++m_context.statistics.filesSampled;
+                files.push_back(i);
             }
         }
-        for (std::size_t k = t; k < end; ++k)
-            if (tasks[k].sample && !fingerprinted[k]) {
-                ++m_handled;
-                ++m_context.statistics.unreadableFiles;
-            }
-        t = end;
+        candidates.push_back(std::move(files));
     }
-    runTasks(nodes, fullReads, nullptr, nullptr);
+    std::vector<Bucket> buckets = sampleAndBucket(nodes, candidates);
 
-    for (const auto &[follower, first] : followers) {
-        ContentNode &node = nodes[follower];
+    parallel(symlinks.size(), [&](std::size_t i, Worker &) {
+        ContentNode &node = nodes[symlinks[i]];
+        if (auto digest = symlinkDigest(m_entries.path(m_entries[node.entry]).c_str()))
+            node.setDigest(*digest);
+        reportProgress(node);
+    });
+    std::stable_sort(buckets.begin(), buckets.end(), [](const Bucket &a, const Bucket &b) { return a.bytes > b.bytes; });
+    parallel(buckets.size(), [&](std::size_t i, Worker &worker) { hashBucket(nodes, buckets[i], worker); });
+
+    for (const auto &[link, first] : followers) {
         if (nodes[first].has(HasDigest))
-            node.setDigest(nodes[first].digest);
+            nodes[link].setDigest(nodes[first].digest);
         if (nodes[first].has(HasAllocDigest))
-            node.setAllocDigest(nodes[first].allocDigest);
+            nodes[link].setAllocDigest(nodes[first].allocDigest);
         ++m_handled;
+    }
+}
+
+std::vector<ContentHasher::Bucket> ContentHasher::sampleAndBucket(std::vector<ContentNode> &nodes,
+                                                                  const std::vector<std::vector<std::size_t>> &runs)
+{
+    // Within a size, files split by whether their header is left out: they hash other bytes.
+    std::vector<Bucket> buckets;
+    std::vector<std::pair<std::size_t, std::size_t>> sampled; // (run, node)
+    for (std::size_t r = 0; r < runs.size(); ++r) {
+        std::vector<std::size_t> whole[2];
+        for (std::size_t i : runs[r]) {
+            const qint64 length = hashedLength(nodes[i]);
+            if (m_sampleFirst && length > 4 * kSampleSize)
+                sampled.emplace_back(r, i);
+            else
+                whole[length == nodes[i].size ? 0 : 1].push_back(i);
+        }
+        for (auto &group : whole) {
+            if (group.size() == 1 && !m_needsDigest[group.front()]) {
+                ++m_handled; // alone in its size: cannot have a duplicate
+            } else if (!group.empty()) {
+                buckets.push_back({group, qint64(group.size()) * nodes[group.front()].size});
+            }
+        }
+    }
+    if (sampled.empty())
+        return buckets;
+
+    struct Key {
+        std::size_t run;
+        quint64 fingerprint;
+        std::size_t node;
+        bool operator<(const Key &o) const
+        {
+            return run != o.run ? run < o.run : (fingerprint != o.fingerprint ? fingerprint < o.fingerprint : node < o.node);
+        }
+    };
+    std::vector<Key> keys(sampled.size());
+    std::vector<char> readable(sampled.size(), 0);
+    parallel(sampled.size(), [&](std::size_t k, Worker &worker) {
+        const auto [run, i] = sampled[k];
+        ContentNode &node = nodes[i];
+        const bool skip = hashedLength(node) != node.size;
+        if (auto fingerprint = sampleFingerprint(m_entries.path(m_entries[node.entry]).c_str(), node.size, skip,
+                                                 worker.buffer, kSampleSize, &worker.statistics.bytesRead)) {
+            keys[k] = {run, *fingerprint ^ quint64(skip), i}; // the header rule is part of the key
+            readable[k] = 1;
+        } else {
+            ++worker.statistics.unreadableFiles;
+        }
+    });
+    std::vector<Key> keyed;
+    for (std::size_t k = 0; k < sampled.size(); ++k) {
+        if (readable[k])
+            keyed.push_back(keys[k]);
+        else
+            ++m_handled;
+    }
+    std::sort(keyed.begin(), keyed.end());
+    for (std::size_t begin = 0; begin < keyed.size();) {
+        std::size_t end = begin + 1;
+        while (end < keyed.size() && keyed[end].run == keyed[begin].run &&
+               keyed[end].fingerprint == keyed[begin].fingerprint)
+            ++end;
+        if (end - begin >= 2 || m_needsDigest[keyed[begin].node]) {
+            Bucket bucket;
+            for (std::size_t k = begin; k < end; ++k)
+                bucket.nodes.push_back(keyed[k].node);
+            bucket.bytes = qint64(bucket.nodes.size()) * nodes[keyed[begin].node].size;
+            buckets.push_back(std::move(bucket));
+        } else {
+            ++m_handled;
+            ++m_context.statistics.filesSampled;
+        }
+        begin = end;
+    }
+    return buckets;
+}
+
+void ContentHasher::hashAlone(ContentNode &node, Worker &worker)
+{
+    const DigestResult result = computeDigest(m_entries.path(m_entries[node.entry]).c_str(), node.size,
+                                              m_ignoreMp4Header, worker.buffer, worker.allocStorage,
+                                              &m_context.searchingState);
+    worker.statistics.bytesRead += result.bytesRead;
+    if (result.digest) {
+        node.setDigest(*result.digest);
+        ++worker.statistics.filesHashed;
+    } else {
+        ++worker.statistics.unreadableFiles;
+    }
+    if (result.allocDigest)
+        node.setAllocDigest(*result.allocDigest);
+    reportProgress(node);
+}
+
+void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const Bucket &bucket, Worker &worker)
+{
+    const qint64 size = nodes[bucket.nodes.front()].size;
+    const qint64 start = size - hashedLength(nodes[bucket.nodes.front()]);
+    const std::size_t count = bucket.nodes.size();
+    const bool oneChunk = size - start <= qint64(worker.buffer.size());
+    if (!oneChunk && count > kMaxOpenFiles) {
+        for (std::size_t node : bucket.nodes)
+            hashAlone(nodes[node], worker);
+        return;
+    }
+    // Chunks of all files together stay within the cache where possible.
+    const std::size_t chunk = oneChunk ? std::size_t(size - start)
+                                       : std::clamp<std::size_t>(worker.buffer.size() / count, 16384,
+                                                                 worker.buffer.size());
+
+    struct Member {
+        std::size_t node;
+        int fd = -1;
+        qint64 got = 0; // bytes of the current chunk
+        bool done = false;
+    };
+    std::vector<Member> members;
+    for (std::size_t node : bucket.nodes) {
+        const int fd = openForReading(m_entries.path(m_entries[nodes[node].entry]).c_str());
+        if (fd < 0) {
+            ++worker.statistics.unreadableFiles;
+            reportProgress(nodes[node]);
+            continue;
+        }
+        members.push_back({node, fd});
+    }
+    worker.chunks.resize(members.size() * chunk);
+    auto bytesOf = [&](std::size_t m) { return worker.chunks.data() + m * chunk; };
+
+    // Members that have agreed so far share one hashing state; a class splits where they differ.
+    struct Class {
+        Sha512 hash;
+        std::vector<std::size_t> members;
+    };
+    std::vector<Class> classes;
+    classes.push_back({Sha512(), {}});
+    classes.back().members.resize(members.size());
+    std::iota(classes.back().members.begin(), classes.back().members.end(), 0);
+
+    auto finish = [&](Class &c) {
+        const Digest digest = c.hash.final();
+        for (std::size_t m : c.members) {
+            ContentNode &node = nodes[members[m].node];
+            node.setDigest(digest);
+            if (auto alloc = computeAllocDigest(members[m].fd, worker.allocStorage))
+                node.setAllocDigest(*alloc);
+            ++worker.statistics.filesHashed;
+            members[m].done = true;
+            reportProgress(node);
+        }
+    };
+    auto drop = [&](std::size_t m) { // a file no other shares: it needs no digest
+        members[m].done = true;
+        ++worker.statistics.filesSampled;
+        reportProgress(nodes[members[m].node]);
+    };
+
+    for (qint64 offset = start; offset < size && !classes.empty(); offset += qint64(chunk)) {
+        if (m_context.aborted())
+            break;
+        const std::size_t want = std::size_t(std::min<qint64>(qint64(chunk), size - offset));
+        for (const Class &c : classes)
+            for (std::size_t m : c.members) {
+                const ssize_t n = readAt(members[m].fd, bytesOf(m), want, offset);
+                members[m].got = std::max<ssize_t>(n, 0);
+                worker.statistics.bytesRead += members[m].got;
+            }
+        std::vector<Class> next;
+        for (Class &c : classes) {
+            std::vector<std::size_t> &ms = c.members;
+            std::sort(ms.begin(), ms.end(), [&](std::size_t a, std::size_t b) {
+                if (members[a].got != members[b].got)
+                    return members[a].got < members[b].got;
+                return std::memcmp(bytesOf(a), bytesOf(b), std::size_t(members[a].got)) < 0;
+            });
+            for (std::size_t begin = 0; begin < ms.size();) {
+                std::size_t end = begin + 1;
+                while (end < ms.size() && members[ms[end]].got == members[ms[begin]].got &&
+                       std::memcmp(bytesOf(ms[end]), bytesOf(ms[begin]), std::size_t(members[ms[begin]].got)) == 0)
+                    ++end;
+                Class part{c.hash, {ms.begin() + qsizetype(begin), ms.begin() + qsizetype(end)}};
+                const Member &first = members[ms[begin]];
+                if (end - begin == 1 && !m_needsDigest[first.node]) {
+                    drop(ms[begin]);
+                } else {
+                    part.hash.update(bytesOf(ms[begin]), std::size_t(first.got));
+                    // A short read ends the file here: its digest covers what was read.
+                    if (first.got < qint64(want))
+                        finish(part);
+                    else
+                        next.push_back(std::move(part));
+                }
+                begin = end;
+            }
+        }
+        classes = std::move(next);
+    }
+    for (Class &c : classes)
+        finish(c);
+    for (Member &member : members) {
+        if (!member.done)
+            reportProgress(nodes[member.node]);
+        close(member.fd);
     }
 }
 

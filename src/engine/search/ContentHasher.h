@@ -14,10 +14,14 @@ struct SizeRun {
     std::size_t end;
 };
 
-// Gives every member of the same-size runs its content digest, on all cores. With
-// `sampleFirst`, a file whose first and last bytes already differ from every other file
-// of its size is left without a digest: it cannot have a duplicate, so reading it whole
-// would change nothing. Hard links of one file are read once.
+// Gives the members of same-size runs their content digests, on all cores, reading as
+// little as the digests allow:
+// - hard links of one file are read once;
+// - with `sampleFirst`, a file whose first and last bytes differ from every other file of
+//   its size is never read whole: it cannot have a duplicate, so no digest is needed;
+// - files that may be equal are read side by side and compared chunk by chunk; SHA-512 runs
+//   once per distinct content, and a file that turns out unique stops being read.
+// Every digest produced is the SHA-512 of the file's bytes, as if each file were hashed alone.
 class ContentHasher {
 public:
     ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst);
@@ -27,17 +31,26 @@ public:
     static constexpr qint64 kSampleSize = 4096;
 
 private:
-    struct Task {
-        std::size_t node;
-        bool sample; // fingerprint first, digest only if another file shares it
+    // Files of one size (and one header rule) that may share their content.
+    struct Bucket {
+        std::vector<std::size_t> nodes;
+        qint64 bytes = 0; // to hand out the largest buckets first
     };
-    void runTasks(std::vector<ContentNode> &nodes, const std::vector<Task> &tasks, std::vector<quint64> *fingerprints,
-                  std::vector<char> *fingerprinted);
+    struct Worker;
+
+    std::vector<Bucket> sampleAndBucket(std::vector<ContentNode> &nodes,
+                                        const std::vector<std::vector<std::size_t>> &runs);
+    void hashBucket(std::vector<ContentNode> &nodes, const Bucket &bucket, Worker &worker);
+    void hashAlone(ContentNode &node, Worker &worker);
+    template <typename Job> void parallel(std::size_t count, Job job);
+    qint64 hashedLength(const ContentNode &node) const;
+    void reportProgress(const ContentNode &node);
 
     const EntryTable &m_entries;
     RunContext &m_context;
     bool m_ignoreMp4Header;
     bool m_sampleFirst;
+    std::vector<char> m_needsDigest; // per node: hard links share it, so it cannot be skipped
     qint64 m_total = 0;
     std::atomic<qint64> m_handled{0};
 };

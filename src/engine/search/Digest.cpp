@@ -23,6 +23,12 @@ Sha512::Sha512() : m_context(EVP_MD_CTX_new())
         qFatal("SHA-512 is not available from OpenSSL");
 }
 
+Sha512::Sha512(const Sha512 &other) : m_context(EVP_MD_CTX_new())
+{
+    if (!m_context || EVP_MD_CTX_copy_ex(m_context, other.m_context) != 1)
+        qFatal("SHA-512 state cannot be copied");
+}
+
 Sha512::~Sha512() { EVP_MD_CTX_free(m_context); }
 
 void Sha512::update(const void *data, std::size_t length)
@@ -106,8 +112,8 @@ std::string_view baseName(const char *path)
     return slash ? std::string_view(slash + 1) : std::string_view(path);
 }
 
-// Reads without touching the access time where the kernel allows it: a search must not
-// change the "last used" dates it shows.
+} // namespace
+
 int openForReading(const char *path)
 {
     int fd = open(path, O_RDONLY | O_CLOEXEC | O_NOATIME | O_NOCTTY);
@@ -116,7 +122,7 @@ int openForReading(const char *path)
     return fd;
 }
 
-ssize_t preadFully(int fd, char *buffer, std::size_t length, off_t offset)
+ssize_t readAt(int fd, char *buffer, std::size_t length, off_t offset)
 {
     std::size_t done = 0;
     while (done < length) {
@@ -129,8 +135,6 @@ ssize_t preadFully(int fd, char *buffer, std::size_t length, off_t offset)
     }
     return ssize_t(done);
 }
-
-} // namespace
 
 DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Header, ReadBuffer &buffer,
                            std::vector<qint64> &allocStorage, const std::atomic<int> *abortFlag)
@@ -154,7 +158,7 @@ DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Head
         if (abortFlag && abortFlag->load(std::memory_order_relaxed) == 1)
             break;
         const std::size_t wanted = std::size_t(std::min<qint64>(fileSize - offset, qint64(buffer.size())));
-        const ssize_t n = preadFully(fd, buffer.data(), wanted, offset);
+        const ssize_t n = readAt(fd, buffer.data(), wanted, offset);
         if (n > 0) {
             hash.update(buffer.data(), std::size_t(n));
             offset += n;
@@ -231,8 +235,8 @@ std::optional<quint64> sampleFingerprint(const char *path, qint64 fileSize, bool
         return std::nullopt;
     const qint64 start = skipHeader ? kMp4HeaderSize : 0;
     const std::size_t length = std::size_t(std::min<qint64>(sampleSize, qint64(buffer.size()) / 2));
-    const ssize_t head = preadFully(fd, buffer.data(), length, start);
-    const ssize_t tail = preadFully(fd, buffer.data() + length, length, fileSize - qint64(length));
+    const ssize_t head = readAt(fd, buffer.data(), length, start);
+    const ssize_t tail = readAt(fd, buffer.data() + length, length, fileSize - qint64(length));
     close(fd);
     if (head < 0 || tail < 0)
         return std::nullopt;

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <sys/types.h>
 #include <string_view>
 #include <vector>
 
@@ -20,7 +21,8 @@ class Sha512 {
 public:
     Sha512();
     ~Sha512();
-    Sha512(const Sha512 &) = delete;
+    // A copy continues from the same state: files that agree so far share their hashing.
+    Sha512(const Sha512 &other);
     Sha512 &operator=(const Sha512 &) = delete;
     void update(const void *data, std::size_t length);
     Digest final();
@@ -61,6 +63,12 @@ private:
     std::unique_ptr<char[]> m_data;
     std::size_t m_size;
 };
+
+// Opens a file for reading without touching its access time where the kernel allows it:
+// a search must not change the "last used" dates it shows.
+int openForReading(const char *path);
+// pread until `length` bytes or the end of the file; fewer bytes only at the end or on error.
+ssize_t readAt(int fd, char *buffer, std::size_t length, off_t offset);
 
 struct DigestResult {
     std::optional<Digest> digest;
