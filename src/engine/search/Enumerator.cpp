@@ -13,6 +13,7 @@
 #include <mutex>
 #include <strings.h>
 #include <sys/stat.h>
+#include <sys/statvfs.h>
 #include <sys/sysmacros.h>
 #include <thread>
 #include <unistd.h>
@@ -28,6 +29,7 @@ constexpr unsigned kStatMask = STATX_TYPE | STATX_MODE | STATX_UID | STATX_SIZE 
 struct FolderAccess {
     bool deletable = false; // writable and searchable
     bool sticky = false;
+    bool readOnlyVolume = false;
     uid_t owner = 0;
 };
 
@@ -40,7 +42,27 @@ FolderAccess folderAccess(int dirfd)
         access.owner = st.st_uid;
     }
     access.deletable = faccessat(dirfd, ".", W_OK | X_OK, 0) == 0;
+    struct statvfs volume;
+    access.readOnlyVolume = fstatvfs(dirfd, &volume) == 0 && (volume.f_flag & ST_RDONLY);
     return access;
+}
+
+// Whether the real user may read and write the item, as access(2) would answer, decided from
+// what statx already told where that is certain: this saves a system call per file.
+bool readableAndWritable(int dirfd, const char *name, const struct statx &st, const FolderAccess &folder,
+                         uid_t realUser)
+{
+    if (folder.readOnlyVolume)
+        return false;
+    if (!(st.stx_attributes_mask & STATX_ATTR_IMMUTABLE))
+        return faccessat(dirfd, name, R_OK | W_OK, 0) == 0;
+    if (st.stx_attributes & STATX_ATTR_IMMUTABLE)
+        return false;
+    if (realUser == 0)
+        return true;
+    if (st.stx_uid == realUser)
+        return (st.stx_mode & (S_IRUSR | S_IWUSR)) == (S_IRUSR | S_IWUSR);
+    return faccessat(dirfd, name, R_OK | W_OK, 0) == 0;
 }
 
 std::string parentOf(const std::string &path)
@@ -78,7 +100,7 @@ QString Enumerator::pathExtension(std::string_view name)
 
 Enumerator::Enumerator(const SearchRequest &request, const std::atomic<int> &searchingState, uid_t effectiveUser,
                        std::function<void(qint64)> onItem)
-    : m_request(request), m_searchingState(searchingState), m_effectiveUser(effectiveUser),
+    : m_request(request), m_searchingState(searchingState), m_effectiveUser(effectiveUser), m_realUser(getuid()),
       m_onItem(std::move(onItem))
 {
 }
@@ -150,7 +172,8 @@ bool Enumerator::Walk::visit(int dirfd, const FolderAccess &folder, quint32 fold
             const bool symlink = S_ISLNK(st.stx_mode);
             bool writable = symlink;
             if (!symlink) {
-                writable = faccessat(dirfd, nameZ.c_str(), R_OK | W_OK, 0) == 0 && folder.deletable &&
+                writable = readableAndWritable(dirfd, nameZ.c_str(), st, folder, m_owner.m_realUser) &&
+                           folder.deletable &&
                            (!folder.sticky || m_owner.m_effectiveUser == 0 ||
                             st.stx_uid == m_owner.m_effectiveUser || folder.owner == m_owner.m_effectiveUser);
             }

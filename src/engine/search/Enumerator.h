@@ -43,6 +43,7 @@ private:
     const SearchRequest &m_request;
     const std::atomic<int> &m_searchingState;
     uid_t m_effectiveUser;
+    uid_t m_realUser;
     std::function<void(qint64)> m_onItem;
 };
 
