@@ -3,8 +3,6 @@
 #include "search/Digest.h"
 
 #include <QDateTime>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QJsonObject>
 
 #include <algorithm>
@@ -28,29 +26,74 @@ QByteArray csvField(const QString &text)
     return field;
 }
 
-QJsonObject itemObject(const ResultItem &item)
+// JSON is written as it goes rather than built as a document: a result may hold many
+// thousands of items.
+class JsonWriter {
+public:
+    explicit JsonWriter(QByteArray &out) : m_out(out) {}
+    void begin(char bracket) { separate(); m_out += bracket; m_first = true; }
+    void end(char bracket) { m_out += bracket; m_first = false; }
+    void key(const char *name) { separate(); string(QByteArray(name)); m_out += ':'; m_first = true; }
+    void value(qint64 number) { separate(); m_out += QByteArray::number(number); }
+    void value(bool flag) { separate(); m_out += flag ? "true" : "false"; }
+    void value(const QString &text) { separate(); string(text.toUtf8()); }
+    template <typename T> void field(const char *name, const T &v) { key(name); value(v); }
+
+private:
+    void separate()
+    {
+        if (!m_first)
+            m_out += ',';
+        m_first = false;
+    }
+    void string(const QByteArray &utf8)
+    {
+        m_out += '"';
+        for (const char c : utf8) {
+            if (c == '"' || c == '\\') {
+                m_out += '\\';
+                m_out += c;
+            } else if (static_cast<unsigned char>(c) < 0x20) {
+                m_out += "\\u00" + QByteArray::number(static_cast<unsigned char>(c), 16).rightJustified(2, '0');
+            } else {
+                m_out += c;
+            }
+        }
+        m_out += '"';
+    }
+    QByteArray &m_out;
+    bool m_first = true;
+};
+
+void writeItem(JsonWriter &json, const ResultItem &item)
 {
-    QJsonObject object{{"path", item.path},
-                       {"size", item.size},
-                       {"physicalSize", item.physicalSize},
-                       {"modified", isoDate(item.modified)}};
+    json.begin('{');
+    json.field("path", item.path);
+    json.field("size", item.size);
+    json.field("physicalSize", item.physicalSize);
+    json.field("modified", isoDate(item.modified));
     if (item.created != kNoDate)
-        object.insert("created", isoDate(item.created));
+        json.field("created", isoDate(item.created));
     if (item.lastUsed != kNoDate)
-        object.insert("lastUsed", isoDate(item.lastUsed));
+        json.field("lastUsed", isoDate(item.lastUsed));
     if (item.has(IsFolder)) {
-        object.insert("isFolder", true);
-        object.insert("itemCount", item.itemCount);
+        json.field("isFolder", true);
+        json.field("itemCount", item.itemCount);
     }
     if (item.has(ReadOnly))
-        object.insert("readOnly", true);
+        json.field("readOnly", true);
     if (item.has(OtherOwner))
-        object.insert("otherOwner", true);
-    if (!item.tagList.isEmpty())
-        object.insert("tags", QJsonArray::fromStringList(item.tagList));
+        json.field("otherOwner", true);
+    if (!item.tagList.isEmpty()) {
+        json.key("tags");
+        json.begin('[');
+        for (const QString &tag : item.tagList)
+            json.value(tag);
+        json.end(']');
+    }
     if (item.has(HasDigest))
-        object.insert("digest", QString::fromLatin1(digestToHex(item.digest)));
-    return object;
+        json.field("digest", QString::fromLatin1(digestToHex(item.digest)));
+    json.end('}');
 }
 
 QJsonObject summaryObject(const QList<ResultItem> &items, const SearchStatistics &statistics)
@@ -128,18 +171,32 @@ QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, co
                        csvField(item->path) + '\n';
         break;
     case OutputFormat::Json: {
-        QJsonArray groupArray;
+        JsonWriter json(out);
+        json.begin('{');
+        json.key("groups");
+        json.begin('[');
         for (const QList<const ResultItem *> &group : groups) {
-            QJsonArray members;
+            json.begin('{');
+            json.field("group", qint64(group.first()->group));
+            json.field("dupes", qint64(group.first()->dupes));
+            json.field("size", group.first()->size);
+            json.key("items");
+            json.begin('[');
             for (const ResultItem *item : group)
-                members.append(itemObject(*item));
-            groupArray.append(QJsonObject{{"group", group.first()->group},
-                                          {"dupes", group.first()->dupes},
-                                          {"size", group.first()->size},
-                                          {"items", members}});
+                writeItem(json, *item);
+            json.end(']');
+            json.end('}');
+            out += '\n';
         }
-        QJsonObject root{{"groups", groupArray}, {"summary", summaryObject(items, statistics)}};
-        out = QJsonDocument(root).toJson(QJsonDocument::Indented);
+        json.end(']');
+        json.key("summary");
+        json.begin('{');
+        const QJsonObject summary = summaryObject(items, statistics);
+        for (auto it = summary.begin(); it != summary.end(); ++it)
+            json.field(it.key().toLatin1().constData(), qint64(it.value().toInteger()));
+        json.end('}');
+        json.end('}');
+        out += '\n';
         break;
     }
     }
