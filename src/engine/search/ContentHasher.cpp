@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <fcntl.h>
 #include <mutex>
 #include <numeric>
 #include <thread>
@@ -33,6 +34,25 @@ constexpr std::size_t kMaxOpenFiles = 128;
 
 // What one hashing thread owns: its buffers and its counts.
 struct ContentHasher::Worker {
+    ~Worker()
+    {
+        if (openFolderFd >= 0)
+            close(openFolderFd);
+    }
+    // The folder of the previous file stays open, for the next file in the same folder.
+    int folderFd(const EntryTable &entries, quint32 folder)
+    {
+        if (folder != openFolder || openFolderFd < 0) {
+            if (openFolderFd >= 0)
+                close(openFolderFd);
+            openFolder = folder;
+            openFolderFd = open(entries.folderPath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        }
+        return openFolderFd;
+    }
+
+    quint32 openFolder = 0;
+    int openFolderFd = -1;
     ReadBuffer buffer;
     std::vector<char> chunks; // side-by-side chunks of one bucket
     std::vector<qint64> allocStorage;
@@ -173,14 +193,25 @@ std::vector<ContentHasher::Bucket> ContentHasher::sampleAndBucket(std::vector<Co
             return run != o.run ? run < o.run : (fingerprint != o.fingerprint ? fingerprint < o.fingerprint : node < o.node);
         }
     };
+    // Files of one folder one after another: each is opened relative to its folder, which
+    // spares walking the whole path for every file.
+    std::sort(sampled.begin(), sampled.end(), [&](const auto &a, const auto &b) {
+        return m_entries[nodes[a.second].entry].folder < m_entries[nodes[b.second].entry].folder;
+    });
     std::vector<Key> keys(sampled.size());
     std::vector<char> readable(sampled.size(), 0);
     parallel(sampled.size(), [&](std::size_t k, Worker &worker) {
         const auto [run, i] = sampled[k];
         ContentNode &node = nodes[i];
+        const FileEntry &entry = m_entries[node.entry];
         const bool skip = hashedLength(node) != node.size;
-        if (auto fingerprint = sampleFingerprint(m_entries.path(m_entries[node.entry]).c_str(), node.size, skip,
-                                                 worker.buffer, kSampleSize, &worker.statistics.bytesRead)) {
+        const int fd = openForReadingAt(worker.folderFd(m_entries, entry.folder), std::string(m_entries.name(entry)).c_str());
+        std::optional<quint64> fingerprint;
+        if (fd >= 0) {
+            fingerprint = sampleFingerprint(fd, node.size, skip, worker.buffer, kSampleSize, &worker.statistics.bytesRead);
+            close(fd);
+        }
+        if (fingerprint) {
             keys[k] = {run, *fingerprint ^ quint64(skip), i}; // the header rule is part of the key
             readable[k] = 1;
         } else {

@@ -3,6 +3,7 @@
 #include <QtGlobal>
 
 #include <openssl/evp.h>
+#include <xxhash.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -114,11 +115,13 @@ std::string_view baseName(const char *path)
 
 } // namespace
 
-int openForReading(const char *path)
+int openForReading(const char *path) { return openForReadingAt(AT_FDCWD, path); }
+
+int openForReadingAt(int dirfd, const char *name)
 {
-    int fd = open(path, O_RDONLY | O_CLOEXEC | O_NOATIME | O_NOCTTY);
+    int fd = openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NOATIME | O_NOCTTY);
     if (fd < 0 && errno == EPERM)
-        fd = open(path, O_RDONLY | O_CLOEXEC | O_NOCTTY);
+        fd = openat(dirfd, name, O_RDONLY | O_CLOEXEC | O_NOCTTY);
     return fd;
 }
 
@@ -227,27 +230,19 @@ std::optional<Digest> computeAllocDigest(int fd, std::vector<qint64> &allocStora
     return sha512(allocStorage.data(), allocStorage.size() * sizeof(qint64));
 }
 
-std::optional<quint64> sampleFingerprint(const char *path, qint64 fileSize, bool skipHeader, ReadBuffer &buffer,
+std::optional<quint64> sampleFingerprint(int fd, qint64 fileSize, bool skipHeader, ReadBuffer &buffer,
                                          qint64 sampleSize, qint64 *bytesRead)
 {
-    const int fd = openForReading(path);
-    if (fd < 0)
-        return std::nullopt;
     const qint64 start = skipHeader ? kMp4HeaderSize : 0;
     const std::size_t length = std::size_t(std::min<qint64>(sampleSize, qint64(buffer.size()) / 2));
     const ssize_t head = readAt(fd, buffer.data(), length, start);
     const ssize_t tail = readAt(fd, buffer.data() + length, length, fileSize - qint64(length));
-    close(fd);
     if (head < 0 || tail < 0)
         return std::nullopt;
     *bytesRead += head + tail;
-    Sha512 hash;
-    hash.update(buffer.data(), std::size_t(head));
-    hash.update(buffer.data() + length, std::size_t(tail));
-    const Digest digest = hash.final();
-    quint64 fingerprint;
-    std::memcpy(&fingerprint, digest.data(), sizeof(fingerprint));
-    return fingerprint;
+    // Not a content digest: equal samples only send files on to be compared whole.
+    const XXH64_hash_t headHash = XXH3_64bits(buffer.data(), std::size_t(head));
+    return XXH3_64bits_withSeed(buffer.data() + length, std::size_t(tail), headHash);
 }
 
 } // namespace selfsame

@@ -67,6 +67,7 @@ private:
 // Opens a file for reading without touching its access time where the kernel allows it:
 // a search must not change the "last used" dates it shows.
 int openForReading(const char *path);
+int openForReadingAt(int dirfd, const char *name);
 // pread until `length` bytes or the end of the file; fewer bytes only at the end or on error.
 ssize_t readAt(int fd, char *buffer, std::size_t length, off_t offset);
 
@@ -88,7 +89,7 @@ std::optional<Digest> computeAllocDigest(int fd, std::vector<qint64> &allocStora
 
 // A cheap fingerprint of the first and last bytes that a content digest covers, to prove
 // files of equal size different without reading them whole. nullopt when unreadable.
-std::optional<quint64> sampleFingerprint(const char *path, qint64 fileSize, bool skipHeader, ReadBuffer &buffer,
+std::optional<quint64> sampleFingerprint(int fd, qint64 fileSize, bool skipHeader, ReadBuffer &buffer,
                                          qint64 sampleSize, qint64 *bytesRead);
 
 } // namespace selfsame
