@@ -13,9 +13,16 @@ namespace selfsame::cli {
 
 namespace {
 
-QString isoDate(qint64 seconds)
+// ISO 8601 in UTC, written directly: a result may hold many thousands of dates.
+QByteArray isoDate(qint64 seconds)
 {
-    return QDateTime::fromSecsSinceEpoch(seconds, Qt::UTC).toString(Qt::ISODate);
+    const time_t t = time_t(seconds);
+    struct tm utc;
+    char text[32];
+    if (!gmtime_r(&t, &utc))
+        return "1970-01-01T00:00:00Z";
+    const std::size_t n = strftime(text, sizeof(text), "%Y-%m-%dT%H:%M:%SZ", &utc);
+    return QByteArray(text, qsizetype(n));
 }
 
 QByteArray csvField(const QString &text)
@@ -37,6 +44,7 @@ public:
     void value(qint64 number) { separate(); m_out += QByteArray::number(number); }
     void value(bool flag) { separate(); m_out += flag ? "true" : "false"; }
     void value(const QString &text) { separate(); string(text.toUtf8()); }
+    void value(const QByteArray &utf8) { separate(); string(utf8); }
     template <typename T> void field(const char *name, const T &v) { key(name); value(v); }
 
 private:
@@ -49,16 +57,19 @@ private:
     void string(const QByteArray &utf8)
     {
         m_out += '"';
-        for (const char c : utf8) {
-            if (c == '"' || c == '\\') {
-                m_out += '\\';
-                m_out += c;
-            } else if (static_cast<unsigned char>(c) < 0x20) {
-                m_out += "\\u00" + QByteArray::number(static_cast<unsigned char>(c), 16).rightJustified(2, '0');
-            } else {
-                m_out += c;
-            }
+        qsizetype plain = 0; // start of the run of characters that need no escape
+        for (qsizetype i = 0; i < utf8.size(); ++i) {
+            const auto c = static_cast<unsigned char>(utf8[i]);
+            if (c != '"' && c != '\\' && c >= 0x20)
+                continue;
+            m_out.append(utf8.constData() + plain, i - plain);
+            if (c < 0x20)
+                m_out += "\\u00" + QByteArray::number(c, 16).rightJustified(2, '0');
+            else
+                m_out += QByteArray("\\") + char(c);
+            plain = i + 1;
         }
+        m_out.append(utf8.constData() + plain, utf8.size() - plain);
         m_out += '"';
     }
     QByteArray &m_out;
@@ -92,7 +103,7 @@ void writeItem(JsonWriter &json, const ResultItem &item)
         json.end(']');
     }
     if (item.has(HasDigest))
-        json.field("digest", QString::fromLatin1(digestToHex(item.digest)));
+        json.field("digest", digestToHex(item.digest));
     json.end('}');
 }
 
@@ -150,8 +161,23 @@ ResultSummary summarize(const QList<ResultItem> &items)
 
 QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics)
 {
+    QByteArray all;
+    writeResults(items, format, statistics, [&](const QByteArray &bytes) { all += bytes; });
+    return all;
+}
+
+void writeResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
+                  const std::function<void(const QByteArray &)> &sink)
+{
     const QList<QList<const ResultItem *>> groups = groupsOf(items);
     QByteArray out;
+    // Written out a piece at a time rather than held whole in memory.
+    auto flushLarge = [&] {
+        if (out.size() >= (1 << 20)) {
+            sink(out);
+            out.clear();
+        }
+    };
     switch (format) {
     case OutputFormat::Text:
         for (qsizetype g = 0; g < groups.size(); ++g) {
@@ -159,16 +185,19 @@ QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, co
                 out += '\n';
             for (const ResultItem *item : groups[g])
                 out += item->path.toUtf8() + '\n';
+            flushLarge();
         }
         break;
     case OutputFormat::Csv:
         out += "group,dupes,size,physicalSize,modified,isFolder,path\n";
         for (const QList<const ResultItem *> &group : groups)
-            for (const ResultItem *item : group)
+            for (const ResultItem *item : group) {
                 out += QByteArray::number(item->group) + ',' + QByteArray::number(item->dupes) + ',' +
                        QByteArray::number(item->size) + ',' + QByteArray::number(item->physicalSize) + ',' +
-                       isoDate(item->modified).toLatin1() + ',' + (item->has(IsFolder) ? "1" : "0") + ',' +
+                       isoDate(item->modified) + ',' + (item->has(IsFolder) ? "1" : "0") + ',' +
                        csvField(item->path) + '\n';
+                flushLarge();
+            }
         break;
     case OutputFormat::Json: {
         JsonWriter json(out);
@@ -187,6 +216,7 @@ QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, co
             json.end(']');
             json.end('}');
             out += '\n';
+            flushLarge();
         }
         json.end(']');
         json.key("summary");
@@ -200,7 +230,7 @@ QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, co
         break;
     }
     }
-    return out;
+    sink(out);
 }
 
 QByteArray summaryText(const QList<ResultItem> &items, const SearchStatistics &statistics)

@@ -7,6 +7,8 @@
 #include <QByteArray>
 #include <QList>
 
+#include <functional>
+
 namespace selfsame::cli {
 
 // What a search found, in numbers a script can check.
@@ -21,6 +23,9 @@ ResultSummary summarize(const QList<ResultItem> &items);
 // The items grouped by group number, in group order, each group sorted by path.
 QList<QList<const ResultItem *>> groupsOf(const QList<ResultItem> &items);
 
+// Writes the results to `sink` a piece at a time.
+void writeResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
+                  const std::function<void(const QByteArray &)> &sink);
 QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics);
 QByteArray summaryText(const QList<ResultItem> &items, const SearchStatistics &statistics);
 

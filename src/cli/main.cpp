@@ -6,6 +6,7 @@
 
 #include <QCoreApplication>
 
+#include <atomic>
 #include <csignal>
 #include <cstdio>
 #include <sys/ioctl.h>
@@ -17,9 +18,11 @@ using namespace selfsame::cli;
 namespace {
 
 DuplicateSearch *g_search = nullptr;
+std::atomic<bool> g_interrupted{false};
 
 void interrupt(int)
 {
+    g_interrupted = true;
     if (g_search)
         g_search->abort(); // only atomics: safe in a signal handler
 }
@@ -75,7 +78,8 @@ int main(int argc, char *argv[])
         if (terminal)
             writeAll(stderr, "\r\x1b[K");
         const QList<ResultItem> &items = search.mainItems();
-        writeAll(stdout, formatResults(items, options.format, search.statistics()));
+        writeResults(items, options.format, search.statistics(),
+                     [](const QByteArray &bytes) { writeAll(stdout, bytes); });
         if (options.summary)
             writeAll(stderr, summaryText(items, search.statistics()));
         if (search.aborted())
@@ -92,6 +96,9 @@ int main(int argc, char *argv[])
     std::signal(SIGINT, interrupt);
     std::signal(SIGTERM, interrupt);
     search.searchInFolderURLs(options.request);
+    // A signal that came before the search was running had nothing to abort.
+    if (g_interrupted)
+        search.abort();
     QCoreApplication::exec();
     g_search = nullptr;
     return exitCode;

@@ -1,6 +1,7 @@
 #include "search/ContentHasher.h"
 
 #include "format/ByteSize.h"
+#include "results/FileAttributes.h"
 #include "search/Digest.h"
 
 #include <QCoreApplication>
@@ -149,7 +150,10 @@ void ContentHasher::hash(std::vector<ContentNode> &nodes, const std::vector<Size
     std::stable_sort(buckets.begin(), buckets.end(), [](const Bucket &a, const Bucket &b) { return a.bytes > b.bytes; });
     parallel(buckets.size(), [&](std::size_t i, Worker &worker) { hashBucket(nodes, buckets[i], worker); });
 
+    std::unordered_map<std::size_t, QStringList> tagsOf(m_tags.begin(), m_tags.end());
     for (const auto &[link, first] : followers) {
+        if (auto tags = tagsOf.find(first); tags != tagsOf.end())
+            m_tags.emplace_back(link, tags->second); // hard links share their attributes
         if (nodes[first].has(HasDigest))
             nodes[link].setDigest(nodes[first].digest);
         if (nodes[first].has(HasAllocDigest))
@@ -246,9 +250,11 @@ std::vector<ContentHasher::Bucket> ContentHasher::sampleAndBucket(std::vector<Co
     return buckets;
 }
 
-void ContentHasher::hashAlone(ContentNode &node, Worker &worker)
+void ContentHasher::hashAlone(std::vector<ContentNode> &nodes, std::size_t index, Worker &worker)
 {
-    const DigestResult result = computeDigest(m_entries.path(m_entries[node.entry]).c_str(), node.size,
+    ContentNode &node = nodes[index];
+    const std::string path = m_entries.path(m_entries[node.entry]);
+    const DigestResult result = computeDigest(path.c_str(), node.size,
                                               m_ignoreMp4Header, worker.buffer, worker.allocStorage,
                                               &m_context.searchingState);
     worker.statistics.bytesRead += result.bytesRead;
@@ -260,6 +266,10 @@ void ContentHasher::hashAlone(ContentNode &node, Worker &worker)
     }
     if (result.allocDigest)
         node.setAllocDigest(*result.allocDigest);
+    if (QStringList tags = readUserTags(path.c_str()); !tags.isEmpty()) {
+        std::lock_guard lock(m_tagsMutex);
+        m_tags.emplace_back(index, std::move(tags));
+    }
     reportProgress(node);
 }
 
@@ -271,7 +281,7 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const Bucket &bu
     const bool oneChunk = size - start <= qint64(worker.buffer.size());
     if (!oneChunk && count > kMaxOpenFiles) {
         for (std::size_t node : bucket.nodes)
-            hashAlone(nodes[node], worker);
+            hashAlone(nodes, node, worker);
         return;
     }
     // Chunks of all files together stay within the cache where possible.
@@ -315,6 +325,10 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const Bucket &bu
             node.setDigest(digest);
             if (auto alloc = computeAllocDigest(members[m].fd, worker.allocStorage))
                 node.setAllocDigest(*alloc);
+            if (QStringList tags = readUserTags(members[m].fd); !tags.isEmpty()) {
+                std::lock_guard lock(m_tagsMutex);
+                m_tags.emplace_back(members[m].node, std::move(tags));
+            }
             ++worker.statistics.filesHashed;
             members[m].done = true;
             reportProgress(node);

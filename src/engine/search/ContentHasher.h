@@ -4,6 +4,9 @@
 #include "search/EntryTable.h"
 #include "search/RunContext.h"
 
+#include <QStringList>
+
+#include <mutex>
 #include <vector>
 
 namespace selfsame {
@@ -30,6 +33,9 @@ public:
 
     static constexpr qint64 kSampleSize = 4096;
 
+    // User tags of the digested files that have any, read while they were open.
+    std::vector<std::pair<std::size_t, QStringList>> takeTags() { return std::move(m_tags); }
+
 private:
     // Files of one size (and one header rule) that may share their content.
     struct Bucket {
@@ -41,7 +47,7 @@ private:
     std::vector<Bucket> sampleAndBucket(std::vector<ContentNode> &nodes,
                                         const std::vector<std::vector<std::size_t>> &runs);
     void hashBucket(std::vector<ContentNode> &nodes, const Bucket &bucket, Worker &worker);
-    void hashAlone(ContentNode &node, Worker &worker);
+    void hashAlone(std::vector<ContentNode> &nodes, std::size_t index, Worker &worker);
     template <typename Job> void parallel(std::size_t count, Job job);
     qint64 hashedLength(const ContentNode &node) const;
     void reportProgress(const ContentNode &node);
@@ -53,6 +59,8 @@ private:
     std::vector<char> m_needsDigest; // per node: hard links share it, so it cannot be skipped
     qint64 m_total = 0;
     std::atomic<qint64> m_handled{0};
+    std::mutex m_tagsMutex;
+    std::vector<std::pair<std::size_t, QStringList>> m_tags;
 };
 
 } // namespace selfsame

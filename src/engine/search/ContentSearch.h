@@ -7,6 +7,9 @@
 #include "search/SearchRequest.h"
 
 #include <QList>
+#include <QStringList>
+
+#include <unordered_map>
 
 namespace selfsame {
 
@@ -43,6 +46,7 @@ private:
     std::vector<ContentNode> m_nodes;
     std::vector<std::string> m_paths;       // full path of every node, with folder comparison only
     std::vector<std::string> m_duplicateFolders; // each with "/" appended
+    std::unordered_map<std::size_t, QStringList> m_tags; // user tags of the files that have any
 };
 
 } // namespace selfsame
