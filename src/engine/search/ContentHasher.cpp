@@ -155,9 +155,9 @@ void ContentHasher::hash(std::vector<ContentNode> &nodes, const std::vector<Size
         if (auto tags = tagsOf.find(first); tags != tagsOf.end())
             m_tags.emplace_back(link, tags->second); // hard links share their attributes
         if (nodes[first].has(HasDigest))
-            nodes[link].setDigest(nodes[first].digest);
+            nodes[link].setDigest(nodes[first].digest());
         if (nodes[first].has(HasAllocDigest))
-            nodes[link].setAllocDigest(nodes[first].allocDigest);
+            nodes[link].setAllocDigest(nodes[first].allocDigest());
         ++m_handled;
     }
 }

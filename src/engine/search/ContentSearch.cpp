@@ -52,7 +52,10 @@ QList<ResultItem> ContentSearch::run()
     const std::vector<SizeRun> runs = sortAndDropRepeats();
 
     m_context.beginStep(3, steps, true);
-    ContentHasher(m_entries, m_context, m_request.ignoreMp4Header, !m_request.compareFolders).hash(m_nodes, runs);
+    ContentHasher hasher(m_entries, m_context, m_request.ignoreMp4Header, !m_request.compareFolders);
+    hasher.hash(m_nodes, runs);
+    for (auto &[node, tags] : hasher.takeTags())
+        m_tags.emplace(node, std::move(tags));
 
     if (m_request.compareFolders) {
         m_context.beginStep(4, steps, true);
@@ -84,11 +87,18 @@ std::vector<SizeRun> ContentSearch::sortAndDropRepeats()
         const FileEntry &ea = m_entries[a], &eb = m_entries[b];
         if (ea.size != eb.size)
             return ea.size > eb.size;
+        // By inode within a size: files are then read roughly in disk order.
+        if (ea.device != eb.device)
+            return ea.device < eb.device;
+        if (ea.inode != eb.inode)
+            return ea.inode < eb.inode;
         return m_entries.comparePaths(ea, eb) > 0;
     });
     // A file reached through overlapping locations is kept once.
     std::erase_if(order, [&, previous = quint32(-1)](quint32 i) mutable {
         const bool repeat = previous != quint32(-1) && m_entries[previous].size == m_entries[i].size &&
+                            m_entries[previous].device == m_entries[i].device &&
+                            m_entries[previous].inode == m_entries[i].inode &&
                             m_entries.comparePaths(m_entries[previous], m_entries[i]) == 0;
         previous = i;
         return repeat;
@@ -96,6 +106,14 @@ std::vector<SizeRun> ContentSearch::sortAndDropRepeats()
 
     std::vector<SizeRun> runs;
     m_nodes.clear();
+    std::size_t candidates = 0;
+    for (std::size_t begin = 0, end; begin < order.size(); begin = end) {
+        for (end = begin + 1; end < order.size() && m_entries[order[end]].size == m_entries[order[begin]].size;)
+            ++end;
+        if (end - begin >= 2 || m_request.compareFolders)
+            candidates += end - begin;
+    }
+    m_nodes.reserve(candidates);
     for (std::size_t begin = 0; begin < order.size();) {
         std::size_t end = begin + 1;
         while (end < order.size() && m_entries[order[end]].size == m_entries[order[begin]].size)
@@ -110,7 +128,7 @@ std::vector<SizeRun> ContentSearch::sortAndDropRepeats()
                 node.flags = entry.flags;
                 node.size = entry.size;
                 node.physicalSize = entry.physicalSize;
-                m_nodes.push_back(node);
+                m_nodes.push_back(std::move(node));
             }
             if (end - begin >= 2)
                 runs.push_back({first, m_nodes.size()});
@@ -176,9 +194,9 @@ void ContentSearch::hashFolders()
                 const ContentNode &child = m_nodes[byParent[k]];
                 const std::string_view name = m_entries.name(m_entries[child.entry]);
                 contents.update(name.data(), name.size());
-                contents.update(child.digest.data(), child.digest.size());
+                contents.update(child.digest().data(), child.digest().size());
                 if (child.has(HasAllocDigest))
-                    allocation.update(child.allocDigest.data(), child.allocDigest.size());
+                    allocation.update(child.allocDigest().data(), child.allocDigest().size());
                 size += child.size;
                 physicalSize += child.physicalSize;
                 itemCount += child.has(IsFolder) ? child.itemCount : 1;
@@ -208,7 +226,7 @@ std::vector<ContentSearch::Member> ContentSearch::compareDigests()
             return na.size > nb.size;
         if (na.itemCount != nb.itemCount)
             return na.itemCount > nb.itemCount;
-        return selfsame::compareDigests(na.digest, nb.digest) < 0;
+        return selfsame::compareDigests(na.digest(), nb.digest()) < 0;
     });
 
     std::vector<Member> members;
@@ -220,13 +238,13 @@ std::vector<ContentSearch::Member> ContentSearch::compareDigests()
         m_context.status([] { return text("Comparing file hashes…"); }, double(anchor) / double(n));
         const ContentNode &first = m_nodes[order[anchor]];
         std::size_t end = anchor + 1;
-        while (end < n && m_nodes[order[end]].size == first.size && m_nodes[order[end]].digest == first.digest)
+        while (end < n && m_nodes[order[end]].size == first.size && m_nodes[order[end]].digest() == first.digest())
             ++end;
         const bool allClones =
             first.has(HasAllocDigest) && std::all_of(order.begin() + qsizetype(anchor) + 1, order.begin() + qsizetype(end),
                                                      [&](std::size_t i) {
                                                          return m_nodes[i].has(HasAllocDigest) &&
-                                                                m_nodes[i].allocDigest == first.allocDigest;
+                                                                m_nodes[i].allocDigest() == first.allocDigest();
                                                      });
         if (end - anchor >= 2 && !(m_request.ignoreClones && allClones)) {
             for (std::size_t k = anchor; k < end; ++k) {
@@ -291,9 +309,12 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members) c
         item.lastUsed = entry.lastUsed;
         item.attributes = entry.attributes;
         item.created = entry.created;
-        item.tagList = readUserTags(path.c_str());
-        item.digest = node.digest;
-        item.allocDigest = node.allocDigest;
+        if (node.has(IsFolder))
+            item.tagList = readUserTags(path.c_str());
+        else if (const auto tags = m_tags.find(member.node); tags != m_tags.end())
+            item.tagList = tags->second; // read by the hasher while the file was open
+        item.digest = node.has(HasDigest) ? node.digest() : Digest{};
+        item.allocDigest = node.has(HasAllocDigest) ? node.allocDigest() : Digest{};
         item.itemCount = node.itemCount;
         item.group = member.group;
         item.dupes = member.dupes;

@@ -48,6 +48,11 @@ public:
     quint32 addFolder(std::string path);
     void add(FileEntry entry, std::string_view name);
     void append(const EntryBatch &batch);
+    void shrinkToFit()
+    {
+        m_entries.shrink_to_fit();
+        m_names.shrink_to_fit();
+    }
 
     std::size_t size() const { return m_entries.size(); }
     const FileEntry &operator[](std::size_t i) const { return m_entries[i]; }

@@ -366,6 +366,7 @@ EnumerationResult Enumerator::run()
     walk.work();
     for (std::thread &thread : pool)
         thread.join();
+    result.entries.shrinkToFit(); // the table lives through the whole search: no spare room
     result.enumerated = walk.seen();
     result.unreadableFolders = walk.unreadable();
     return result;
