@@ -29,6 +29,9 @@ struct ContentNode {
         flags |= HasAllocDigest;
     }
 
+    // Once copied into a result item, the digests need not be kept twice.
+    void releaseDigests() { m_digests.reset(); }
+
 private:
     struct Digests {
         Digest content{};

@@ -293,12 +293,12 @@ std::vector<ContentSearch::Member> ContentSearch::filterDuplicateFolderContents(
     return renumbered;
 }
 
-QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members) const
+QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
 {
     QList<ResultItem> items;
     items.reserve(qsizetype(members.size()));
     for (const Member &member : members) {
-        const ContentNode &node = m_nodes[member.node];
+        ContentNode &node = m_nodes[member.node];
         const FileEntry &entry = m_entries[node.entry];
         ResultItem item;
         const std::string path = m_entries.path(entry);
@@ -321,6 +321,7 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members) c
         item.flags = node.flags;
         item.device = entry.device;
         item.inode = entry.inode;
+        node.releaseDigests();
         items.push_back(std::move(item));
     }
     return items;

@@ -36,7 +36,7 @@ private:
     void hashFolders();
     std::vector<Member> compareDigests();
     std::vector<Member> filterDuplicateFolderContents(const std::vector<Member> &members);
-    QList<ResultItem> makeItems(const std::vector<Member> &members) const;
+    QList<ResultItem> makeItems(const std::vector<Member> &members);
     const std::string &nodePath(std::size_t node);
 
     const SearchRequest &m_request;
