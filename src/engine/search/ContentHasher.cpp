@@ -35,25 +35,6 @@ constexpr std::size_t kMaxOpenFiles = 128;
 
 // What one hashing thread owns: its buffers and its counts.
 struct ContentHasher::Worker {
-    ~Worker()
-    {
-        if (openFolderFd >= 0)
-            close(openFolderFd);
-    }
-    // The folder of the previous file stays open, for the next file in the same folder.
-    int folderFd(const EntryTable &entries, quint32 folder)
-    {
-        if (folder != openFolder || openFolderFd < 0) {
-            if (openFolderFd >= 0)
-                close(openFolderFd);
-            openFolder = folder;
-            openFolderFd = open(entries.folderPath(folder).c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        }
-        return openFolderFd;
-    }
-
-    quint32 openFolder = 0;
-    int openFolderFd = -1;
     ReadBuffer buffer;
     std::vector<char> chunks; // side-by-side chunks of one bucket
     std::vector<qint64> allocStorage;
@@ -61,7 +42,7 @@ struct ContentHasher::Worker {
 };
 
 ContentHasher::ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst)
-    : m_entries(entries), m_context(context), m_ignoreMp4Header(ignoreMp4Header), m_sampleFirst(sampleFirst)
+    : m_entries(entries), m_folders(entries), m_context(context), m_ignoreMp4Header(ignoreMp4Header), m_sampleFirst(sampleFirst)
 {
 }
 
@@ -197,11 +178,6 @@ std::vector<ContentHasher::Bucket> ContentHasher::sampleAndBucket(std::vector<Co
             return run != o.run ? run < o.run : (fingerprint != o.fingerprint ? fingerprint < o.fingerprint : node < o.node);
         }
     };
-    // Files of one folder one after another: each is opened relative to its folder, which
-    // spares walking the whole path for every file.
-    std::sort(sampled.begin(), sampled.end(), [&](const auto &a, const auto &b) {
-        return m_entries[nodes[a.second].entry].folder < m_entries[nodes[b.second].entry].folder;
-    });
     std::vector<Key> keys(sampled.size());
     std::vector<char> readable(sampled.size(), 0);
     parallel(sampled.size(), [&](std::size_t k, Worker &worker) {
@@ -209,7 +185,7 @@ std::vector<ContentHasher::Bucket> ContentHasher::sampleAndBucket(std::vector<Co
         ContentNode &node = nodes[i];
         const FileEntry &entry = m_entries[node.entry];
         const bool skip = hashedLength(node) != node.size;
-        const int fd = openForReadingAt(worker.folderFd(m_entries, entry.folder), std::string(m_entries.name(entry)).c_str());
+        const int fd = m_folders.openFile(entry);
         std::optional<quint64> fingerprint;
         if (fd >= 0) {
             fingerprint = sampleFingerprint(fd, node.size, skip, worker.buffer, kSampleSize, &worker.statistics.bytesRead);
@@ -297,7 +273,7 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const Bucket &bu
     };
     std::vector<Member> members;
     for (std::size_t node : bucket.nodes) {
-        const int fd = openForReading(m_entries.path(m_entries[nodes[node].entry]).c_str());
+        const int fd = m_folders.openFile(m_entries[nodes[node].entry]);
         if (fd < 0) {
             ++worker.statistics.unreadableFiles;
             reportProgress(nodes[node]);

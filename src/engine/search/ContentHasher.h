@@ -2,6 +2,7 @@
 
 #include "search/ContentNode.h"
 #include "search/EntryTable.h"
+#include "search/FolderHandles.h"
 #include "search/RunContext.h"
 
 #include <QStringList>
@@ -53,6 +54,7 @@ private:
     void reportProgress(const ContentNode &node);
 
     const EntryTable &m_entries;
+    FolderHandles m_folders;
     RunContext &m_context;
     bool m_ignoreMp4Header;
     bool m_sampleFirst;

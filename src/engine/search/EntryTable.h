@@ -60,6 +60,7 @@ public:
 
     std::string_view name(const FileEntry &e) const { return {m_names.data() + e.nameOffset, e.nameLength}; }
     const std::string &folderPath(quint32 folder) const { return m_folders[folder]; }
+    std::size_t folderCount() const { return m_folders.size(); }
     std::string path(const FileEntry &e) const;
     QString qPath(const FileEntry &e) const { return QString::fromStdString(path(e)); }
 
