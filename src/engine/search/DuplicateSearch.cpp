@@ -66,6 +66,8 @@ void DuplicateSearch::searchInFolderURLsInBackground()
                        {}, {}};
     QList<ResultItem> items = SearchRun(m_request, context).run();
     const SearchStatistics statistics = context.statistics;
+    // Finished before searchDone is scheduled: its receivers must see a search that has ended.
+    m_searchingState = Finished;
     QMetaObject::invokeMethod(
         this,
         [this, items = std::move(items), statistics]() mutable {
@@ -74,7 +76,6 @@ void DuplicateSearch::searchInFolderURLsInBackground()
             Q_EMIT searchDone();
         },
         Qt::QueuedConnection);
-    m_searchingState = Finished;
 }
 
 } // namespace selfsame
