@@ -87,7 +87,8 @@ std::vector<SizeRun> ContentSearch::sortAndDropRepeats()
         const FileEntry &ea = m_entries[a], &eb = m_entries[b];
         if (ea.size != eb.size)
             return ea.size > eb.size;
-        // By inode within a size: files are then read roughly in disk order.
+        // Within a size, hard links and repeats of one path fall next to each other, so paths
+        // need comparing only there.
         if (ea.device != eb.device)
             return ea.device < eb.device;
         if (ea.inode != eb.inode)
