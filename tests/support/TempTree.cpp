@@ -43,10 +43,10 @@ QString TempTree::hardLink(const QString &rel, const QString &existingRel)
     return checked(ok, path(rel));
 }
 
-void TempTree::build(std::initializer_list<const char *> specs)
+void TempTree::build(std::initializer_list<const char *> items)
 {
-    for (const char *spec : specs) {
-        const QString s = QString::fromUtf8(spec);
+    for (const char *item : items) {
+        const QString s = QString::fromUtf8(item);
         const int n = s.section(u':', 1).toInt();
         if (s.endsWith(u'/'))
             folder(s);

@@ -19,9 +19,9 @@ public:
     QString folder(const QString &rel);
     QString symlink(const QString &rel, const QString &target);
     QString hardLink(const QString &rel, const QString &existingRel);
-    // One item per spec: "path/" a folder, "path@target" a symbolic link, "path:n" a file of
+    // One item per string: "path/" a folder, "path@target" a symbolic link, "path:n" a file of
     // n × 1000 bytes whose content depends on n alone, "path" a file of 10 bytes.
-    void build(std::initializer_list<const char *> specs);
+    void build(std::initializer_list<const char *> items);
 
 private:
     QTemporaryDir m_dir;
