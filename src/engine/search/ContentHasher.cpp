@@ -118,9 +118,9 @@ void ContentHasher::hash(std::vector<ContentNode> &nodes, const std::vector<Size
                 files.push_back(i);
             }
         }
-        candidates.push_back(std::move(files));
+        if (!files.empty())
+            candidates.push_back(std::move(files));
     }
-    std::vector<Bucket> buckets = sampleAndBucket(nodes, candidates);
 
     parallel(symlinks.size(), [&](std::size_t i, Worker &) {
         ContentNode &node = nodes[symlinks[i]];
@@ -128,8 +128,11 @@ void ContentHasher::hash(std::vector<ContentNode> &nodes, const std::vector<Size
             node.setDigest(*digest);
         reportProgress(node);
     });
-    std::stable_sort(buckets.begin(), buckets.end(), [](const Bucket &a, const Bucket &b) { return a.bytes > b.bytes; });
-    parallel(buckets.size(), [&](std::size_t i, Worker &worker) { hashBucket(nodes, buckets[i], worker); });
+    // Each size is one job, the largest first so that no long job starts last.
+    auto bytes = [&](const std::vector<std::size_t> &files) { return qint64(files.size()) * nodes[files[0]].size; };
+    std::stable_sort(candidates.begin(), candidates.end(),
+                     [&](const auto &a, const auto &b) { return bytes(a) > bytes(b); });
+    parallel(candidates.size(), [&](std::size_t i, Worker &worker) { hashSize(nodes, candidates[i], worker); });
 
     std::unordered_map<std::size_t, QStringList> tagsOf(m_tags.begin(), m_tags.end());
     for (const auto &[link, first] : followers) {
@@ -143,87 +146,77 @@ void ContentHasher::hash(std::vector<ContentNode> &nodes, const std::vector<Size
     }
 }
 
-std::vector<ContentHasher::Bucket> ContentHasher::sampleAndBucket(std::vector<ContentNode> &nodes,
-                                                                  const std::vector<std::vector<std::size_t>> &runs)
+void ContentHasher::hashSize(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker)
 {
-    // Within a size, files split by whether their header is left out: they hash other bytes.
-    std::vector<Bucket> buckets;
-    std::vector<std::pair<std::size_t, std::size_t>> sampled; // (run, node)
-    for (std::size_t r = 0; r < runs.size(); ++r) {
-        std::vector<std::size_t> whole[2];
-        for (std::size_t i : runs[r]) {
-            const qint64 length = hashedLength(nodes[i]);
-            if (m_sampleFirst && length > 4 * kSampleSize)
-                sampled.emplace_back(r, i);
-            else
-                whole[length == nodes[i].size ? 0 : 1].push_back(i);
-        }
-        for (auto &group : whole) {
-            if (group.size() == 1 && !m_needsDigest[group.front()]) {
-                ++m_handled; // alone in its size: cannot have a duplicate
-            } else if (!group.empty()) {
-                buckets.push_back({group, qint64(group.size()) * nodes[group.front()].size});
-            }
-        }
+    // Files of one size split by whether their header is left out: they hash other bytes.
+    std::vector<std::size_t> whole[2];
+    std::vector<std::size_t> sampled;
+    for (std::size_t i : files) {
+        const qint64 length = hashedLength(nodes[i]);
+        if (m_sampleFirst && length > 4 * kSampleSize)
+            sampled.push_back(i);
+        else
+            whole[length == nodes[i].size ? 0 : 1].push_back(i);
+    }
+    for (const auto &group : whole) {
+        if (group.size() == 1 && !m_needsDigest[group.front()])
+            reportProgress(nodes[group.front()]); // alone in its size: cannot have a duplicate
+        else if (!group.empty())
+            hashBucket(nodes, group, {}, worker);
     }
     if (sampled.empty())
-        return buckets;
+        return;
 
-    struct Key {
-        std::size_t run;
-        quint64 fingerprint;
+    // Files stay open from their sample to their digest, unless there are too many of one size.
+    const bool keepOpen = sampled.size() <= kMaxOpenFiles;
+    struct Sample {
+        quint64 key;
         std::size_t node;
-        bool operator<(const Key &o) const
-        {
-            return run != o.run ? run < o.run : (fingerprint != o.fingerprint ? fingerprint < o.fingerprint : node < o.node);
-        }
+        int fd;
     };
-    std::vector<Key> keys(sampled.size());
-    std::vector<char> readable(sampled.size(), 0);
-    parallel(sampled.size(), [&](std::size_t k, Worker &worker) {
-        const auto [run, i] = sampled[k];
+    std::vector<Sample> samples;
+    for (std::size_t i : sampled) {
         ContentNode &node = nodes[i];
-        const FileEntry &entry = m_entries[node.entry];
         const bool skip = hashedLength(node) != node.size;
-        const int fd = m_folders.openFile(entry);
+        int fd = m_folders.openFile(m_entries[node.entry]);
         std::optional<quint64> fingerprint;
-        if (fd >= 0) {
-            fingerprint = sampleFingerprint(fd, node.size, skip, worker.buffer, kSampleSize, &worker.statistics.bytesRead);
+        if (fd >= 0)
+            fingerprint =
+                sampleFingerprint(fd, node.size, skip, worker.buffer, kSampleSize, &worker.statistics.bytesRead);
+        if (fd >= 0 && (!fingerprint || !keepOpen)) {
             close(fd);
+            fd = -1;
         }
         if (fingerprint) {
-            keys[k] = {run, *fingerprint ^ quint64(skip), i}; // the header rule is part of the key
-            readable[k] = 1;
+            samples.push_back({*fingerprint ^ quint64(skip), i, fd}); // the header rule is part of the key
         } else {
             ++worker.statistics.unreadableFiles;
+            reportProgress(node);
         }
-    });
-    std::vector<Key> keyed;
-    for (std::size_t k = 0; k < sampled.size(); ++k) {
-        if (readable[k])
-            keyed.push_back(keys[k]);
-        else
-            ++m_handled;
     }
-    std::sort(keyed.begin(), keyed.end());
-    for (std::size_t begin = 0; begin < keyed.size();) {
+    std::sort(samples.begin(), samples.end(), [](const Sample &a, const Sample &b) {
+        return a.key != b.key ? a.key < b.key : a.node < b.node;
+    });
+    for (std::size_t begin = 0; begin < samples.size();) {
         std::size_t end = begin + 1;
-        while (end < keyed.size() && keyed[end].run == keyed[begin].run &&
-               keyed[end].fingerprint == keyed[begin].fingerprint)
+        while (end < samples.size() && samples[end].key == samples[begin].key)
             ++end;
-        if (end - begin >= 2 || m_needsDigest[keyed[begin].node]) {
-            Bucket bucket;
-            for (std::size_t k = begin; k < end; ++k)
-                bucket.nodes.push_back(keyed[k].node);
-            bucket.bytes = qint64(bucket.nodes.size()) * nodes[keyed[begin].node].size;
-            buckets.push_back(std::move(bucket));
+        if (end - begin >= 2 || m_needsDigest[samples[begin].node]) {
+            std::vector<std::size_t> bucket;
+            std::vector<int> fds;
+            for (std::size_t k = begin; k < end; ++k) {
+                bucket.push_back(samples[k].node);
+                fds.push_back(samples[k].fd);
+            }
+            hashBucket(nodes, bucket, keepOpen ? fds : std::vector<int>(), worker);
         } else {
-            ++m_handled;
-            ++m_context.statistics.filesSampled;
+            if (samples[begin].fd >= 0)
+                close(samples[begin].fd);
+            ++worker.statistics.filesSampled;
+            reportProgress(nodes[samples[begin].node]);
         }
         begin = end;
     }
-    return buckets;
 }
 
 void ContentHasher::hashAlone(std::vector<ContentNode> &nodes, std::size_t index, Worker &worker)
@@ -249,14 +242,15 @@ void ContentHasher::hashAlone(std::vector<ContentNode> &nodes, std::size_t index
     reportProgress(node);
 }
 
-void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const Bucket &bucket, Worker &worker)
+void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &bucket,
+                               const std::vector<int> &openFiles, Worker &worker)
 {
-    const qint64 size = nodes[bucket.nodes.front()].size;
-    const qint64 start = size - hashedLength(nodes[bucket.nodes.front()]);
-    const std::size_t count = bucket.nodes.size();
+    const qint64 size = nodes[bucket.front()].size;
+    const qint64 start = size - hashedLength(nodes[bucket.front()]);
+    const std::size_t count = bucket.size();
     const bool oneChunk = size - start <= qint64(worker.buffer.size());
     if (!oneChunk && count > kMaxOpenFiles) {
-        for (std::size_t node : bucket.nodes)
+        for (std::size_t node : bucket)
             hashAlone(nodes, node, worker);
         return;
     }
@@ -272,8 +266,9 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const Bucket &bu
         bool done = false;
     };
     std::vector<Member> members;
-    for (std::size_t node : bucket.nodes) {
-        const int fd = m_folders.openFile(m_entries[nodes[node].entry]);
+    for (std::size_t k = 0; k < count; ++k) {
+        const std::size_t node = bucket[k];
+        const int fd = openFiles.empty() ? m_folders.openFile(m_entries[nodes[node].entry]) : openFiles[k];
         if (fd < 0) {
             ++worker.statistics.unreadableFiles;
             reportProgress(nodes[node]);

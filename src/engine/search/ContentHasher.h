@@ -38,16 +38,13 @@ public:
     std::vector<std::pair<std::size_t, QStringList>> takeTags() { return std::move(m_tags); }
 
 private:
-    // Files of one size (and one header rule) that may share their content.
-    struct Bucket {
-        std::vector<std::size_t> nodes;
-        qint64 bytes = 0; // to hand out the largest buckets first
-    };
     struct Worker;
 
-    std::vector<Bucket> sampleAndBucket(std::vector<ContentNode> &nodes,
-                                        const std::vector<std::vector<std::size_t>> &runs);
-    void hashBucket(std::vector<ContentNode> &nodes, const Bucket &bucket, Worker &worker);
+    // All files of one size: sampled, split by their samples, and digested where they agree.
+    void hashSize(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker);
+    // Files that may share their content; `openFiles` holds their descriptors when already open.
+    void hashBucket(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &bucket,
+                    const std::vector<int> &openFiles, Worker &worker);
     void hashAlone(std::vector<ContentNode> &nodes, std::size_t index, Worker &worker);
     template <typename Job> void parallel(std::size_t count, Job job);
     qint64 hashedLength(const ContentNode &node) const;
