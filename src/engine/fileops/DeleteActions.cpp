@@ -1,0 +1,142 @@
+#include "fileops/DeleteActions.h"
+
+#include "fileops/CloneItem.h"
+#include "fileops/FSMetadata.h"
+#include "fileops/ItemSafety.h"
+#include "fileops/Replacement.h"
+#include "fileops/Trash.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QUuid>
+
+#include <cstring>
+
+namespace selfsame {
+
+namespace {
+
+QString errorText(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error));
+}
+
+// Removes the file with no replacement. Returns the error text, empty on success.
+QString removeOnly(DeleteKind kind, ResultItem &item, int mode, DeleteOutcome &outcome)
+{
+    if (kind == DeleteKind::Trash) {
+        const TrashResult trashed = trashItem(item.path);
+        if (trashed.trashedPath.isEmpty())
+            return trashed.errorText;
+        outcome.status = statusImageName(true, mode);
+        if (outcome.status == QStringLiteral("trashed"))
+            item.trashedURL = trashed.trashedPath;
+        return {};
+    }
+    if (const int error = removeItem(item.path))
+        return errorText(error);
+    item.set(Deleted);
+    outcome.status = statusImageName(false, mode);
+    return {};
+}
+
+// Takes the original away from its path: into the trash, or aside to be removed once the
+// replacement stands. Returns where it went (empty on failure).
+QString takeAway(DeleteKind kind, const QString &path, QString *error)
+{
+    if (kind == DeleteKind::Trash) {
+        const TrashResult trashed = trashItem(path);
+        *error = trashed.errorText;
+        return trashed.trashedPath;
+    }
+    const QString aside = besidePath(path);
+    if (const int e = renameNoReplace(path, aside)) {
+        *error = errorText(e);
+        return {};
+    }
+    return aside;
+}
+
+void bringBack(DeleteKind kind, const QString &from, const QString &path)
+{
+    if (renameNoReplace(from, path) == 0 && kind == DeleteKind::Trash) {
+        removePutBackAttribute(path);
+        QFile::remove(trashInfoPathFor(from));
+    }
+}
+
+} // namespace
+
+QString besidePath(const QString &path)
+{
+    return path + u'_' + QUuid::createUuid().toString(QUuid::WithoutBraces);
+}
+
+DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference, const QList<ResultItem *> &targets)
+{
+    DeleteReport report;
+    const bool replacing = reference && mode >= ReplaceWithAlias && mode <= ReplaceWithClone;
+    for (ResultItem *item : targets) {
+        DeleteOutcome outcome;
+        outcome.item = item;
+        if (kind == DeleteKind::Trash && (!item->trashedURL.isEmpty() || item->has(Deleted))) {
+            outcome.skipped = true;
+            report.outcomes.append(outcome);
+            continue;
+        }
+        auto removalFailed = [&](const QString &why) {
+            outcome.error = why;
+            ++report.removalFailures;
+            report.lastErrorText = why;
+            if (report.firstFailedPath.isEmpty())
+                report.firstFailedPath = item->path;
+        };
+        auto replacementFailed = [&](const QString &why) {
+            outcome.error = why;
+            ++report.replacementFailures;
+            report.lastReference = reference->path;
+            report.lastDeleted = item->path;
+        };
+        QString changed = changedSinceSearch(*item);
+        if (changed.isEmpty() && replacing)
+            changed = changedSinceSearch(*reference);
+        if (!changed.isEmpty()) {
+            removalFailed(changed);
+        } else if (!replacing) {
+            if (const QString error = removeOnly(kind, *item, mode, outcome); !error.isEmpty())
+                removalFailed(error);
+        } else {
+            const FSMetadata snapshot = mode == ReplaceWithClone ? captureFSMetadata(item->path) : FSMetadata{};
+            const QString staged = besidePath(item->path);
+            QString error;
+            QString away;
+            if (const int e = makeReplacement(mode, reference->path, staged, reference->has(IsFolder))) {
+                replacementFailed(QCoreApplication::translate("DeleteActions", "The replacement could not be made: %1")
+                                      .arg(errorText(e)));
+            } else if (away = takeAway(kind, item->path, &error); away.isEmpty()) {
+                removeItem(staged);
+                removalFailed(error);
+            } else if (const int e = renameNoReplace(staged, item->path)) {
+                bringBack(kind, away, item->path);
+                removeItem(staged);
+                replacementFailed(QCoreApplication::translate("DeleteActions", "The replacement could not be put in place: %1")
+                                      .arg(errorText(e)));
+            } else {
+                if (kind == DeleteKind::Delete) {
+                    if (const int e = removeItem(away))
+                        outcome.error = QCoreApplication::translate("DeleteActions", "“%1” could not be removed: %2")
+                                            .arg(away, errorText(e));
+                    item->set(Deleted);
+                }
+                // Last, so that the folder's modification time is the one from before.
+                if (mode == ReplaceWithClone)
+                    restoreFSMetadata(item->path, snapshot);
+                outcome.status = statusImageName(kind == DeleteKind::Trash, mode);
+            }
+        }
+        report.outcomes.append(outcome);
+    }
+    return report;
+}
+
+} // namespace selfsame

@@ -1,0 +1,90 @@
+#include "fileops/PutBack.h"
+
+#include "fileops/CloneItem.h"
+#include "fileops/DeleteChecks.h"
+#include "fileops/FSMetadata.h"
+#include "fileops/Trash.h"
+#include "format/Formatters.h"
+
+#include <QCoreApplication>
+#include <QFile>
+
+#include <cerrno>
+#include <cstring>
+
+namespace selfsame {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PutBack", text);
+}
+
+PutBackResult moveBack(const QString &from, const QString &to)
+{
+    PutBackResult result;
+    result.error = renameNoReplace(from, to);
+    if (result.error)
+        result.errorText = QString::fromLocal8Bit(std::strerror(result.error));
+    return result;
+}
+
+} // namespace
+
+PutBackResult putBackItem(ResultItem &item)
+{
+    if (item.trashedURL.isEmpty() || item.has(Deleted))
+        return {ENOENT, tr("“%1” is not in the Bin.").arg(displayName(item.path))};
+    const QString trashed = item.trashedURL;
+    PutBackResult result = moveBack(trashed, item.path);
+    if (result.ok()) {
+        removePutBackAttribute(item.path);
+        QFile::remove(trashInfoPathFor(trashed));
+        item.trashedURL.clear();
+    }
+    return result;
+}
+
+PutBackResult putBackFile(const QString &trashedPath, const QString &destination)
+{
+    PutBackResult result = moveBack(trashedPath, destination);
+    if (result.ok()) {
+        removePutBackAttribute(trashedPath); // fails unnoticed: the file is no longer there
+        QFile::remove(trashInfoPathFor(trashedPath));
+    }
+    return result;
+}
+
+std::optional<Alert> putBackFailureAlert(const PutBackSummary &summary, const QList<ResultItem *> &targets)
+{
+    if (summary.failures == 0 || targets.isEmpty())
+        return std::nullopt;
+    const QString message =
+        targets.size() == 1
+            ? tr("“%1” could not be put back from the Bin.").arg(displayName(targets.first()->path))
+            : tr("%1 could not be put back from the Bin.")
+                  .arg(IntegerFormatter::shared().stringForIntegerValue(summary.failures));
+    return Alert{message, summary.lastErrorText, {tr("Cancel")}, 0, 0};
+}
+
+Alert putBackQuestion(const QString &trashedPath, const QString &destination, int fileCount)
+{
+    QStringList buttons{tr("Put Back"), tr("Cancel")};
+    if (fileCount >= 2)
+        buttons << tr("Put Back All");
+    return Alert{tr("Do you want to put back “%1” to its original location “%2”?").arg(displayName(trashedPath), destination),
+                 {}, buttons, 0, 1};
+}
+
+Alert putBackErrorAlert(const QString &trashedPath, const QString &destination, const QString &errorText,
+                        bool firstAttempt)
+{
+    QStringList buttons{tr("Cancel")};
+    if (firstAttempt)
+        buttons << tr("Grant Access to “%1”…").arg(displayName(parentFolder(destination)));
+    return Alert{tr("Error: “%1” could not be put back to “%2”").arg(displayName(trashedPath), destination), errorText,
+                 buttons, 0, 0};
+}
+
+} // namespace selfsame

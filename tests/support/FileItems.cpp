@@ -1,0 +1,88 @@
+#include "support/FileItems.h"
+
+#include "search/Digest.h"
+
+#include <QFile>
+
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <stdexcept>
+#include <sys/stat.h>
+#include <unistd.h>
+
+using namespace selfsame;
+
+ResultItem *ItemGroup::add(const QString &path, int group)
+{
+    auto item = std::make_unique<ResultItem>();
+    struct stat st{};
+    if (lstat(path.toUtf8().constData(), &st) != 0)
+        throw std::runtime_error("no such file " + path.toStdString());
+    item->path = path;
+    item->size = S_ISDIR(st.st_mode) ? 0 : qint64(st.st_size);
+    item->physicalSize = qint64(st.st_blocks) * 512;
+    item->modified = st.st_mtim.tv_sec;
+    item->device = st.st_dev;
+    item->inode = st.st_ino;
+    item->group = group;
+    if (S_ISDIR(st.st_mode))
+        item->set(IsFolder);
+    if (access(path.toUtf8().constData(), W_OK) != 0)
+        item->set(ReadOnly);
+    if (st.st_uid != geteuid())
+        item->set(OtherOwner);
+    if (S_ISREG(st.st_mode)) {
+        const int fd = open(path.toUtf8().constData(), O_RDONLY);
+        std::vector<qint64> storage;
+        if (const auto alloc = computeAllocDigest(fd, storage)) {
+            item->allocDigest = *alloc;
+            item->set(HasAllocDigest);
+        }
+        close(fd);
+    }
+    items.push_back(std::move(item));
+    return items.back().get();
+}
+
+QList<ResultItem *> ItemGroup::all() const
+{
+    QList<ResultItem *> result;
+    for (const auto &item : items)
+        result.append(item.get());
+    return result;
+}
+
+QList<ResultItem *> ItemGroup::duplicatesFor(const ResultItem &item) const
+{
+    QList<ResultItem *> result;
+    for (const auto &other : items)
+        if (other->group == item.group)
+            result.append(other.get());
+    return result;
+}
+
+void writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile f(path);
+    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate) || f.write(bytes) != bytes.size())
+        throw std::runtime_error("cannot write " + path.toStdString());
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("<unreadable>");
+}
+
+bool setImmutable(const QString &path, bool on)
+{
+    const int fd = open(path.toUtf8().constData(), O_RDONLY | O_NONBLOCK);
+    int flags = 0;
+    bool ok = fd >= 0 && ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
+    flags = on ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
+    ok = ok && ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
+    if (fd >= 0)
+        close(fd);
+    return ok;
+}

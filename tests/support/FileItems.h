@@ -1,0 +1,30 @@
+#pragma once
+
+#include "results/ResultItem.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+
+#include <memory>
+#include <ostream>
+#include <vector>
+
+// Result items for files made by a test, filled from lstat as a search would, with their
+// allocation digest where the file system reports extents; all of one group.
+struct ItemGroup {
+    std::vector<std::unique_ptr<selfsame::ResultItem>> items;
+    selfsame::ResultItem *add(const QString &path, int group = 0);
+    QList<selfsame::ResultItem *> all() const;
+    // The items of the same group, the item itself included.
+    QList<selfsame::ResultItem *> duplicatesFor(const selfsame::ResultItem &item) const;
+};
+
+void writeFile(const QString &path, const QByteArray &bytes);
+QByteArray readFile(const QString &path);
+
+// Sets or clears FS_IMMUTABLE_FL; false where the file system or the user may not.
+bool setImmutable(const QString &path, bool on);
+
+// Readable QStrings in failure messages.
+inline void PrintTo(const QString &text, std::ostream *os) { *os << '"' << text.toStdString() << '"'; }
