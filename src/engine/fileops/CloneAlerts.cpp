@@ -1,0 +1,93 @@
+#include "fileops/CloneAlerts.h"
+
+#include "format/ByteSize.h"
+#include "format/Formatters.h"
+
+#include <QCoreApplication>
+
+namespace selfsame {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("CloneAlerts", text);
+}
+
+QString count(qint64 n)
+{
+    return IntegerFormatter::shared().stringForIntegerValue(n);
+}
+
+} // namespace
+
+Alert compareFoldersCloneAlert()
+{
+    Alert alert{tr("Folder comparison was enabled"),
+                tr("You might clone more duplicate files if folder comparison is turned off in the initial search.\n\n"
+                   "For example, a file that exists in a duplicate folder might also exist separately."),
+                {tr("Continue"), tr("Cancel")}, 0, 1};
+    alert.suppressible = true;
+    return alert;
+}
+
+Alert noClonableFileAlert()
+{
+    return Alert{tr("No file among the selection can be cloned"),
+                 tr("The selection should contain at least two duplicate files.\n\nThe files should have write "
+                    "permission, they should not already be clone files, and they should be on the same APFS volume."),
+                 {tr("Cancel")}, 0, 0};
+}
+
+Alert cloneConfirmationAlert(const CloneCounts &c)
+{
+    QString what;
+    if (c.replaceDuplicates == 1)
+        what = c.singleFilenameToReplace.isEmpty() ? tr("1 duplicate among the selected files")
+                                                   : tr("“%1”").arg(c.singleFilenameToReplace);
+    else
+        what = (c.onAllFoundFiles ? tr("%1 duplicates among all found files") : tr("%1 duplicates among the selected files"))
+                   .arg(count(c.replaceDuplicates));
+    const QString clones = c.replaceDuplicates == 1 ? tr("a clone") : tr("clones");
+    QString of;
+    if (c.byClones == 1)
+        of = c.singleFilenameToClone.isEmpty() ? tr("1 file") : tr("“%1”").arg(c.singleFilenameToClone);
+    else
+        of = tr("%1 different files").arg(count(c.byClones));
+    return Alert{tr("Do you want to replace %1, by %2 of %3? %4 on disk will be reclaimed.")
+                     .arg(what, clones, of, formatByteCount(c.ofPhysicalSize)),
+                 tr("Creation and modification dates, Finder tags and comments, and other metadata will be preserved. "
+                    "Clone files do not use disk space, until their contents gets changed."),
+                 {tr("Clone"), tr("Cancel"), tr("View Cloning Plan")}, 0, 1};
+}
+
+Alert writeProtectedCloneAlert(int n)
+{
+    Alert alert{tr("Warning: write-protected files"),
+                tr("%1 files to be cloned are write-protected. As you own these files, you may bypass "
+                   "write-protection.\n\nDo you want to clone them anyway?").arg(count(n)),
+                {tr("Skip Them"), tr("Clone Them"), tr("Cancel")}, 0, 2};
+    alert.suppressible = true;
+    return alert;
+}
+
+Alert otherOwnerCloneAlert(int n)
+{
+    return Alert{tr("Warning: other file owner"),
+                 tr("%1 files are owned by another user account. File permissions allow you to modify them, but "
+                    "replacing them by clones will set you as the file owner.\n\nDo you want to clone them anyway?")
+                     .arg(count(n)),
+                 {tr("Skip Them"), tr("Clone and Change Owner"), tr("Cancel")}, 0, 2};
+}
+
+QString cloneProgressText(bool perform)
+{
+    return perform ? tr("Cloning files…") : tr("Planning cloning…");
+}
+
+QString cloneProgressButtonTitle(bool perform)
+{
+    return perform ? tr("Abort") : tr("Cancel");
+}
+
+} // namespace selfsame

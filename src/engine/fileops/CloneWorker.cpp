@@ -1,0 +1,242 @@
+#include "fileops/CloneWorker.h"
+
+#include "fileops/CloneItem.h"
+#include "fileops/Dedupe.h"
+#include "fileops/DeleteActions.h"
+#include "fileops/ItemSafety.h"
+#include "format/ByteSize.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QSet>
+
+#include <algorithm>
+#include <cstring>
+#include <fcntl.h>
+#include <linux/fs.h>
+#include <sys/ioctl.h>
+#include <sys/stat.h>
+#include <sys/vfs.h>
+#include <unistd.h>
+
+namespace selfsame {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("CloneWorker", text);
+}
+
+QString errorText(int error)
+{
+    return QString::fromLocal8Bit(std::strerror(error));
+}
+
+void clearInodeFlags(const QString &path)
+{
+    const int fd = open(path.toUtf8().constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    if (fd < 0)
+        return;
+    int flags = 0;
+    ioctl(fd, FS_IOC_SETFLAGS, &flags);
+    close(fd);
+}
+
+// Lets a write-protected duplicate be moved aside: owner-write, no immutable flag, and a
+// writable folder when it is ours. The snapshot puts everything back.
+void liftWriteProtection(const QString &path, const FSMetadata &snapshot)
+{
+    if (snapshot.permissions)
+        chmod(path.toUtf8().constData(), (*snapshot.permissions | 0200) & 07777);
+    clearInodeFlags(path);
+    const QByteArray folder = parentFolder(path).toUtf8();
+    struct stat st{};
+    if (stat(folder.constData(), &st) == 0 && st.st_uid == geteuid())
+        chmod(folder.constData(), (st.st_mode | 0200) & 07777);
+}
+
+QString cloneByMovingAside(const ResultItem &reference, const ResultItem &duplicate, bool changeOwner,
+                           const CloneSteps &steps)
+{
+    const QString &path = duplicate.path;
+    const FSMetadata snapshot = captureFSMetadata(path);
+    if (duplicate.has(ReadOnly))
+        liftWriteProtection(path, snapshot);
+    const QString aside = besidePath(path);
+    if (const int error = steps.moveAside(path, aside)) {
+        restoreFSMetadata(path, snapshot);
+        return tr("“%1” could not be moved aside: %2").arg(path, errorText(error));
+    }
+    // The original is safe aside only if it is really there; never remove what holds its path otherwise.
+    auto asideExists = [&] {
+        struct stat st{};
+        return lstat(aside.toUtf8().constData(), &st) == 0;
+    };
+    auto rollBack = [&] {
+        renameNoReplace(aside, path);
+        restoreFSMetadata(path, snapshot);
+    };
+    if (const int error = steps.clone(reference.path, path, reference.has(IsFolder))) {
+        if (asideExists()) {
+            removeItem(path); // a partial clone, if any
+            rollBack();
+        }
+        return tr("“%1” could not be cloned from “%2”: %3").arg(path, reference.path, errorText(error));
+    }
+    struct stat st{};
+    if (stat(path.toUtf8().constData(), &st) == 0)
+        chmod(path.toUtf8().constData(), (st.st_mode | 0200) & 07777);
+    unsigned failed = steps.restore(path, snapshot);
+    // Another owner's file becomes ours when we may not give it back: the user accepted that.
+    if (changeOwner && duplicate.has(OtherOwner))
+        failed &= ~unsigned(RestoreOwner);
+    if (failed && asideExists()) {
+        removeItem(path);
+        rollBack();
+        return tr("The metadata of “%1” could not be carried over to its clone; it was left as it was").arg(path);
+    }
+    if (const int error = removeItem(aside))
+        return tr("“%1” was cloned, but its former copy “%2” could not be removed: %3").arg(path, aside, errorText(error));
+    restoreParentFolder(path, snapshot);
+    return {};
+}
+
+} // namespace
+
+CloneSteps CloneSteps::real()
+{
+    return CloneSteps{dedupeFile, renameNoReplace, cloneItem, restoreFSMetadata};
+}
+
+QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, const ResultItem &reference,
+                                     bool overideReadOnlyIfSameOwner, bool changeOwner,
+                                     QList<ResultItem *> &previousClones)
+{
+    QList<ResultItem *> kept;
+    const QByteArray ref = reference.path.toUtf8();
+    struct statfs fs{};
+    struct stat rs{};
+    if (statfs(ref.constData(), &fs) != 0 || !isCloneCapableFileSystem(long(fs.f_type)) || lstat(ref.constData(), &rs) != 0)
+        return kept;
+    for (ResultItem *d : duplicates) {
+        if (d->has(ReadOnly) && (!overideReadOnlyIfSameOwner || d->has(OtherOwner)))
+            continue;
+        if (d->has(OtherOwner) && !changeOwner)
+            continue;
+        struct stat ds{};
+        if (d->path == reference.path || lstat(d->path.toUtf8().constData(), &ds) != 0 || ds.st_dev != rs.st_dev ||
+            ds.st_ino == rs.st_ino)
+            continue;
+        if (d->has(HasAllocDigest) && reference.has(HasAllocDigest) && d->allocDigest == reference.allocDigest) {
+            if (!previousClones.contains(d))
+                previousClones.append(d);
+            continue;
+        }
+        kept.append(d);
+    }
+    return kept;
+}
+
+QString cloneDuplicate(const ResultItem &reference, const ResultItem &duplicate, bool changeOwner, const CloneSteps &steps)
+{
+    if (QString changed = changedSinceSearch(duplicate); !changed.isEmpty())
+        return changed;
+    if (QString changed = changedSinceSearch(reference); !changed.isEmpty())
+        return changed;
+    if (!duplicate.has(IsFolder)) {
+        const int shared = steps.dedupe(reference.path, duplicate.path);
+        if (shared == 0)
+            return {};
+        if (shared == kContentDiffers)
+            return tr("“%1” no longer has the content of “%2”").arg(duplicate.path, reference.path);
+    }
+    return cloneByMovingAside(reference, duplicate, changeOwner, steps);
+}
+
+CloneWorker::CloneWorker(QList<ResultItem *> targets, QList<ResultItem *> mainItems, DuplicatesFor duplicatesFor)
+    : m_targets(std::move(targets)), m_mainItems(std::move(mainItems)), m_duplicatesFor(std::move(duplicatesFor))
+{
+}
+
+bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool changeOwner, CloneCounts *counts)
+{
+    CloneCounts local;
+    CloneCounts &c = counts ? *counts : local;
+    c = CloneCounts{};
+    m_cloned.clear();
+    m_failures.clear();
+    QList<ResultItem *> items = m_targets;
+    if (items.size() < 2) {
+        items = m_mainItems;
+        c.onAllFoundFiles = true;
+    }
+    std::stable_sort(items.begin(), items.end(), [](const ResultItem *a, const ResultItem *b) { return a->size > b->size; });
+    const QSet<ResultItem *> among(items.begin(), items.end());
+
+    QFile plan;
+    if (!perform) {
+        m_logFilePath.clear();
+        QString path = planPath;
+        if (path.isEmpty()) {
+            const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+            const QString base = runtime.isEmpty() || !QDir(runtime).exists() ? QDir::tempPath() : runtime;
+            m_planFolder = std::make_unique<QTemporaryDir>(base + QStringLiteral("/Selfsame-XXXXXX"));
+            if (m_planFolder->isValid())
+                path = m_planFolder->filePath(QStringLiteral("Selfsame.log"));
+        }
+        plan.setFileName(path);
+        if (!path.isEmpty() && plan.open(QIODevice::WriteOnly | QIODevice::Truncate))
+            m_logFilePath = path;
+    }
+
+    QSet<ResultItem *> done;
+    QList<ResultItem *> alreadyClones;
+    for (qsizetype i = 0; i < items.size(); ++i) {
+        if (progress && !progress(int(i), int(items.size())))
+            return false;
+        ResultItem *r = items[i];
+        if (done.contains(r) || alreadyClones.contains(r))
+            continue;
+        const QList<ResultItem *> candidates =
+            filterDuplicates(m_duplicatesFor(*r), *r, overideReadOnlyIfSameOwner, changeOwner, alreadyClones);
+        bool produced = false;
+        for (ResultItem *d : candidates) {
+            if (done.contains(d) || !among.contains(d))
+                continue;
+            if (!perform && plan.isOpen()) {
+                if (!produced)
+                    plan.write(QString::asprintf("%s (%s on disk) will be cloned to:\n", r->path.toUtf8().constData(),
+                                                 formatByteCount(r->physicalSize).toUtf8().constData())
+                                   .toUtf8());
+                const bool writeProtected = d->has(ReadOnly) && !d->has(OtherOwner);
+                plan.write(QString::asprintf("\t%s%s%s\n", d->path.toUtf8().constData(),
+                                             writeProtected ? " (write-protected)" : "",
+                                             d->has(OtherOwner) ? " (other owner)" : "")
+                               .toUtf8());
+                c.writeProtected += writeProtected ? 1 : 0;
+                c.otherOwner += d->has(OtherOwner) ? 1 : 0;
+            } else if (perform) {
+                if (QString why = cloneDuplicate(*r, *d, changeOwner, steps); !why.isEmpty()) {
+                    m_failures.append({d, why});
+                    continue;
+                }
+                m_cloned.append(d);
+            }
+            done.insert(d);
+            ++c.replaceDuplicates;
+            c.singleFilenameToReplace = c.replaceDuplicates == 1 ? displayName(d->path) : QString();
+            c.ofPhysicalSize += d->physicalSize;
+            produced = true;
+        }
+        if (produced) {
+            done.insert(r);
+            ++c.byClones;
+            c.singleFilenameToClone = c.byClones == 1 ? displayName(r->path) : QString();
+        }
+    }
+    return true;
+}
+
+} // namespace selfsame
