@@ -36,6 +36,7 @@ bool parseSize(const QString &text, qint64 *bytes)
 QString usageText()
 {
     return tr("Usage: selfsame-cli [OPTIONS] PATH...\n"
+              "       selfsame-cli put-back FILE...   (files in the trash, back to where they came from)\n"
               "Finds files (and with --compare-folders, folders) of equal content.\n"
               "\n"
               "  --include-hidden           search hidden files and folders (default: skipped)\n"

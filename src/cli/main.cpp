@@ -1,6 +1,7 @@
 // selfsame-cli: the duplicate search without a window, for scripts and benchmarks.
 
 #include "CliOptions.h"
+#include "PutBackCommand.h"
 #include "ResultOutput.h"
 #include "search/DuplicateSearch.h"
 
@@ -48,6 +49,10 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("selfsame-cli"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
+
+    if (app.arguments().value(1) == u"put-back")
+        return runPutBack(app.arguments().mid(2), [](const QByteArray &b) { writeAll(stdout, b); },
+                          [](const QByteArray &b) { writeAll(stderr, b); });
 
     const ParseResult parsed = parseCommandLine(app.arguments().mid(1));
     const CliOptions &options = parsed.options;

@@ -1,0 +1,49 @@
+#include "PutBackCommand.h"
+
+#include "fileops/PutBack.h"
+#include "fileops/Trash.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+
+namespace selfsame::cli {
+
+namespace {
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("PutBackCommand", text);
+}
+
+} // namespace
+
+int runPutBack(const QStringList &files, const std::function<void(const QByteArray &)> &out,
+               const std::function<void(const QByteArray &)> &err)
+{
+    if (files.isEmpty()) {
+        err(tr("selfsame-cli: put-back needs the files in the trash to put back\n"
+               "Usage: selfsame-cli put-back FILE...\n").toUtf8());
+        return 2;
+    }
+    int failures = 0;
+    for (const QString &file : files) {
+        const QString trashed = QFileInfo(file).absoluteFilePath();
+        const QString destination = putBackPath(trashed);
+        if (destination.isEmpty()) {
+            ++failures;
+            err(tr("not put back: %1: no record of where it came from\n").arg(trashed).toUtf8());
+            continue;
+        }
+        const PutBackResult result = putBackFile(trashed, destination);
+        if (!result.ok()) {
+            ++failures;
+            err(tr("not put back: %1 -> %2: %3\n").arg(trashed, destination, result.errorText).toUtf8());
+            continue;
+        }
+        out(tr("put back: %1 -> %2\n").arg(trashed, destination).toUtf8());
+    }
+    err(tr("%1 put back, %2 failed\n").arg(files.size() - failures).arg(failures).toUtf8());
+    return failures == 0 ? 0 : 1;
+}
+
+} // namespace selfsame::cli
