@@ -61,6 +61,8 @@ QString cloneByMovingAside(const ResultItem &reference, const ResultItem &duplic
                            const CloneSteps &steps)
 {
     const QString &path = duplicate.path;
+    if (!duplicate.has(IsFolder) && !sameContent(reference.path, path))
+        return tr("“%1” no longer has the content of “%2”").arg(path, reference.path);
     const FSMetadata snapshot = captureFSMetadata(path);
     if (duplicate.has(ReadOnly))
         liftWriteProtection(path, snapshot);

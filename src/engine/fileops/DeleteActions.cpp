@@ -100,6 +100,11 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
         QString changed = changedSinceSearch(*item);
         if (changed.isEmpty() && replacing)
             changed = changedSinceSearch(*reference);
+        // Deleted for good and replaced: the bytes must really be the reference's.
+        if (changed.isEmpty() && replacing && kind == DeleteKind::Delete && !item->has(IsFolder) &&
+            !sameContent(reference->path, item->path))
+            changed = QCoreApplication::translate("DeleteActions", "“%1” no longer has the content of “%2”")
+                          .arg(item->path, reference->path);
         if (!changed.isEmpty()) {
             removalFailed(changed);
         } else if (!replacing) {

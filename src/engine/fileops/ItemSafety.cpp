@@ -1,10 +1,16 @@
 #include "fileops/ItemSafety.h"
 
+#include "search/Digest.h"
+
 #include <QCoreApplication>
 
 #include <cerrno>
 #include <cstring>
+#include <fcntl.h>
 #include <sys/stat.h>
+#include <unistd.h>
+
+#include <vector>
 
 namespace selfsame {
 
@@ -25,6 +31,28 @@ QString changedSinceSearch(const ResultItem &item)
     if (qint64(st.st_mtim.tv_sec) != item.modified)
         return QCoreApplication::translate("ItemSafety", "“%1” was modified since the search").arg(item.path);
     return {};
+}
+
+bool sameContent(const QString &a, const QString &b)
+{
+    const int fa = openForReading(a.toUtf8().constData());
+    const int fb = openForReading(b.toUtf8().constData());
+    bool same = fa >= 0 && fb >= 0;
+    constexpr std::size_t chunk = std::size_t(1) << 20;
+    std::vector<char> bufferA(same ? chunk : 0), bufferB(same ? chunk : 0);
+    for (off_t offset = 0; same;) {
+        const ssize_t na = readAt(fa, bufferA.data(), chunk, offset);
+        const ssize_t nb = readAt(fb, bufferB.data(), chunk, offset);
+        same = na >= 0 && na == nb && std::memcmp(bufferA.data(), bufferB.data(), std::size_t(na)) == 0;
+        if (na <= 0)
+            break;
+        offset += na;
+    }
+    if (fa >= 0)
+        close(fa);
+    if (fb >= 0)
+        close(fb);
+    return same;
 }
 
 } // namespace selfsame

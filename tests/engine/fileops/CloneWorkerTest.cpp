@@ -183,6 +183,12 @@ TEST_P(CloneWorkerOn, SkipsWhatMustNotBeClonedAndStopsOnChangesAndAborts)
     EXPECT_FALSE(cloneDuplicate(*item(0), *item(1), true, CloneSteps::real()).isEmpty());
     EXPECT_EQ(readFile(item(1)->path), patternBytes(3 << 20, 9));
     EXPECT_EQ(dedupeFile(item(0)->path, item(1)->path), kContentDiffers);
+    const timespec recorded[2] = {{0, UTIME_OMIT}, {item(1)->modified, 0}};
+    utimensat(AT_FDCWD, item(1)->path.toUtf8().constData(), recorded, 0);
+    CloneSteps noDedupe = CloneSteps::real();
+    noDedupe.dedupe = [](const QString &, const QString &) { return EOPNOTSUPP; };
+    EXPECT_FALSE(cloneDuplicate(*item(0), *item(1), true, noDedupe).isEmpty()) << "compared before moving aside";
+    EXPECT_EQ(readFile(item(1)->path), patternBytes(3 << 20, 9));
 
     // Aborting before the first reference clones nothing.
     CloneWorker w = worker(group.all());

@@ -173,6 +173,16 @@ TEST_F(DeleteActions, AFileChangedSinceTheSearchIsNotTouched)
     EXPECT_EQ(report.removalFailures, 1);
     EXPECT_TRUE(QFile::exists(duplicate->path));
 
+    // Rewritten within the second the search saw: same size and time, other bytes. Deleting
+    // it for good in favour of the reference would lose them.
+    const QByteArray rewritten = patternBytes(content.size(), 8);
+    writeFile(duplicate->path, rewritten);
+    const timespec recorded[2] = {{0, UTIME_OMIT}, {duplicate->modified, 0}};
+    utimensat(AT_FDCWD, duplicate->path.toUtf8().constData(), recorded, 0);
+    report = performDeleteAction(DeleteKind::Delete, ReplaceWithHardLink, reference, {duplicate});
+    EXPECT_EQ(report.removalFailures, 1);
+    EXPECT_EQ(readFile(duplicate->path), rewritten);
+
     // A changed reference stops the replacement too.
     group.items.clear();
     TempTree second;
