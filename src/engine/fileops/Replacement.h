@@ -19,7 +19,7 @@ enum ReplaceWithMode : int {
 QString statusImageName(bool trashed, int mode);
 
 // The menu suffix of a delete command for a mode ("" or " and Do Not Replace" for 0 on the
-// main or alternate item); nullopt-like empty plus false for values above 5.
+// main or alternate item). False for values above 5: the title is then left as it is.
 bool replaceWithMenuSuffix(int mode, bool alternate, QString *suffix);
 
 // `target` relative to `folder`: /Users/a/Pictures/x.jpg from /Users/a/Backup/old is
