@@ -1,15 +1,81 @@
 #pragma once
 
+#include "CompareFoldersWarning.h"
+#include "LaunchRequest.h"
+
+#include <QList>
 #include <QMainWindow>
+#include <QStringList>
+
+class QAction;
+class QMenu;
 
 namespace selfsame {
 
-// The main window. It will hold the search settings and locations; for now it shows
-// what Selfsame is and how to search from the command line.
+class Dupes;
+class LocationsModel;
+class LocationsView;
+class SearchOptionsPanel;
+class Settings;
+class WelcomePanel;
+
+// The main window: the search locations, the options of a search, and the results windows
+// that the searches open.
 class AppDelegate : public QMainWindow {
     Q_OBJECT
 public:
-    explicit AppDelegate(QWidget *parent = nullptr);
+    explicit AppDelegate(Settings &settings, QWidget *parent = nullptr);
+
+    LocationsModel *sources() const { return m_sources; }
+    LocationsView *sourcesTable() const { return m_sourcesTable; }
+    SearchOptionsPanel *optionsPanel() const { return m_options; }
+    const QList<Dupes *> &dupesList() const { return m_dupesList; }
+    int searchingCount() const { return int(m_searchingDupesList.size()); }
+
+    // Starts a search over the enabled locations, or asks for folders when none is enabled.
+    void searchDuplicates();
+    // Validates and saves the options, then opens a results window searching these locations.
+    // Returns the new window, or null when an option was refused.
+    Dupes *searchInFolderURLs(const QStringList &paths);
+    void addURLs(const QStringList &paths, bool enabled, bool select, bool needsSaving);
+    void addFolderWithButton(const QString &prompt, bool enable, bool search);
+    // Files handed over by the desktop or a later start of the executable.
+    void handleLaunch(const LaunchRequest &request);
+    void showInOpenWindowOrAddURLs(const QStringList &paths);
+    void welcome();
+    void showWelcomeAtStartup();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
+
+private:
+    QWidget *buildLocations();
+    void buildMenus();
+    void loadSettings();
+    void placeWindow();
+    void compareFoldersWarning();
+    void toggleFindAllDupesForSingleFiles();
+    void keepTopEdge(int heightDelta);
+    void deleteTargetRows();
+    void revealTargetRows();
+    void validateLocationActions();
+    void dupesFinishedSearching(Dupes *dupes);
+    void dupesClosed(Dupes *dupes);
+    void updateDock();
+
+    Settings &m_settings;
+    LocationsModel *m_sources;
+    LocationsView *m_sourcesTable;
+    SearchOptionsPanel *m_options;
+    WelcomePanel *m_welcomePanel = nullptr;
+    QAction *m_deleteAction;
+    QAction *m_revealAction;
+    QAction *m_resetDoNotShowAgainAction;
+    CompareFoldersWarning m_compareFoldersWarning;
+    QList<Dupes *> m_dupesList;
+    QList<Dupes *> m_searchingDupesList;
 };
 
 } // namespace selfsame

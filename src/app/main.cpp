@@ -1,13 +1,50 @@
 #include "AppDelegate.h"
+#include "LaunchRequest.h"
+#include "Settings.h"
+#include "SingleInstance.h"
 
 #include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QIcon>
+#include <QTimer>
 
 int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Selfsame"));
     QApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
-    selfsame::AppDelegate window;
+    QApplication::setDesktopFileName(QStringLiteral("selfsame"));
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("selfsame"), QIcon(QStringLiteral(":/selfsame.svg"))));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(QApplication::translate("main", "Finds duplicate files."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption searchOption(
+        QStringLiteral("search"), QApplication::translate("main", "Add the paths to the locations and search them at once."));
+    parser.addOption(searchOption);
+    parser.addPositionalArgument(QStringLiteral("paths"),
+                                 QApplication::translate("main", "Files to look up, or folders to add."),
+                                 QStringLiteral("[PATH…]"));
+    parser.process(app);
+    const selfsame::LaunchRequest launch{parser.isSet(searchOption),
+                                         selfsame::absoluteLocalPaths(parser.positionalArguments(), QDir::currentPath())};
+
+    selfsame::SingleInstance instance;
+    if (instance.handOver(launch.toMessage()))
+        return 0;
+    instance.listen();
+
+    selfsame::Settings settings;
+    selfsame::AppDelegate window(settings);
+    QObject::connect(&instance, &selfsame::SingleInstance::received, &window,
+                     [&window](const QStringList &message) {
+                         window.handleLaunch(selfsame::LaunchRequest::fromMessage(message));
+                     });
     window.show();
+    window.showWelcomeAtStartup();
+    if (!launch.paths.isEmpty())
+        QTimer::singleShot(0, &window, [&window, launch] { window.handleLaunch(launch); });
     return QApplication::exec();
 }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+namespace selfsame {
+
+// What a start of the executable asks for: open files (or just the window), or search paths.
+struct LaunchRequest {
+    bool search = false; // `selfsame --search PATH…`
+    QStringList paths;   // absolute local paths
+
+    // The form handed to a running instance, and back.
+    QStringList toMessage() const;
+    static LaunchRequest fromMessage(const QStringList &message);
+};
+
+// Reads arguments given as paths relative to `workingDirectory` or as file URLs (as file
+// managers pass them); other URLs are dropped.
+QStringList absoluteLocalPaths(const QStringList &arguments, const QString &workingDirectory);
+
+} // namespace selfsame

@@ -1,0 +1,58 @@
+#include "SearchDefaults.h"
+
+#include "Settings.h"
+#include "search/NamePatterns.h"
+
+#include <QStringList>
+
+namespace selfsame {
+
+void registerSearchDefaults(Settings &settings)
+{
+    const QStringList activeAttributes{
+        QStringLiteral("kMDItemContentCreationDate"), QStringLiteral("kMDItemRecordingDate"),
+        QStringLiteral("kMDItemFSCreationDate"),      QStringLiteral("kMDItemDurationSeconds"),
+        QStringLiteral("kMDItemAlbum"),               QStringLiteral("kMDItemTitle"),
+        QStringLiteral("kMDItemDisplayName"),         QStringLiteral("kMDItemDescription"),
+        QStringLiteral("kMDItemHeadline"),            QStringLiteral("kMDItemLatitude"),
+        QStringLiteral("kMDItemLongitude"),           QStringLiteral("kMDItemIdentifier"),
+        QStringLiteral("kMDItemOriginalSource"),      QStringLiteral("kMDItemWhereFroms"),
+        QStringLiteral("kMDItemAestheticScore")};
+    settings.registerDefaults({
+        {key::mainWindowInitialPosition, false},
+        {key::skipHiddenFiles, true},
+        {key::findAllDupesForSingleFiles, true},
+        {key::ignoreMp4Header, false},
+        {key::ignoreClones, false},
+        {key::compareFolders, false},
+        {key::limitFolderDepth, qint64(-1)},
+        {key::skipFilenameMatchingPatterns, false},
+        {key::skipFilenamePatterns, QString()},
+        {key::extensionsMode, 0},
+        {key::extensionsList, QString()},
+        {key::filterFileSize, true},
+        {key::minFileSize, qint64(1)},
+        {key::maxFileSize, qint64(0)},
+        {key::ignoreNonWritable, true},
+        {key::ignoreOtherOwner, true},
+        {key::detectionMode, 0},
+        {key::durationTolerance, 0.1},
+        {key::spotlightAttribute, QStringLiteral("kMDItemTitle")},
+        {key::spotlightTolerance, 0.0},
+        {key::activeSpotlightAttributes, activeAttributes},
+        {key::filenameIgnoreExtension, false},
+        {key::filenameIgnoreCommonSuffixes, false},
+        {key::commonSuffixes, QString(kDefaultCommonSuffixes)},
+    });
+}
+
+void migrateColumnsLayout(Settings &settings)
+{
+    if (settings.boolValue(key::columnsLayoutV2))
+        return;
+    settings.remove(key::mainListColumns);
+    settings.remove(key::cloneListColumns);
+    settings.setValue(key::columnsLayoutV2, true);
+}
+
+} // namespace selfsame
