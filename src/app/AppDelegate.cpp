@@ -398,7 +398,12 @@ void AppDelegate::updateDock()
 {
     const int count = searchingCount();
     const QString name = QApplication::applicationName();
-    setWindowTitle(count == 0 ? name : tr("%1 — %n search(es) running", nullptr, count).arg(name));
+    if (count == 0)
+        setWindowTitle(name);
+    else if (count == 1)
+        setWindowTitle(tr("%1 — 1 search running").arg(name));
+    else
+        setWindowTitle(tr("%1 — %2 searches running").arg(name).arg(count));
     showLauncherCount(count);
 }
 

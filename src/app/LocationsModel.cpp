@@ -37,9 +37,16 @@ void LocationsModel::load()
 
 QList<int> LocationsModel::addPaths(const QStringList &paths, bool enabled, bool needsSaving)
 {
-    beginResetModel();
-    const QList<int> touched = mergeLocations(m_locations, paths, enabled);
-    endResetModel();
+    // Rows are appended, never reset, so that the selection survives.
+    QList<Location> merged = m_locations;
+    const QList<int> touched = mergeLocations(merged, paths, enabled);
+    if (merged.size() > m_locations.size()) {
+        beginInsertRows({}, int(m_locations.size()), int(merged.size()) - 1);
+        m_locations = std::move(merged);
+        endInsertRows();
+    } else {
+        m_locations = std::move(merged);
+    }
     refresh(needsSaving);
     return touched;
 }

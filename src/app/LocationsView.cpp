@@ -28,6 +28,7 @@ LocationsView::LocationsView(QWidget *parent) : QTableView(parent)
     setShowGrid(false);
     setWordWrap(false);
     setAcceptDrops(true);
+    viewport()->setAcceptDrops(true);
     setDropIndicatorShown(false);
     setDragDropMode(DropOnly);
     setEditTriggers(NoEditTriggers);

@@ -224,6 +224,11 @@ QWidget *SearchOptionsPanel::buildFilters()
     m_findAllDupesForSingleFilesBtn->setToolTip(
         tr("When a location is a single file, its duplicates are searched for across its whole drive."));
     grid->addWidget(m_findAllDupesForSingleFilesBtn, row++, 0, 1, 2);
+    // Named like their settings, for tests and style sheets.
+    m_compareFoldersChk->setObjectName(QStringLiteral("compareFoldersChk"));
+    m_extensionChk->setObjectName(QStringLiteral("extensionChk"));
+    m_filterFileSizeChk->setObjectName(QStringLiteral("filterFileSizeChk"));
+    m_findAllDupesForSingleFilesBtn->setObjectName(QStringLiteral("findAllDupesForSingleFilesBtn"));
     return filters;
 }
 

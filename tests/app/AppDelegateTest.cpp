@@ -1,0 +1,278 @@
+#include "AppDelegate.h"
+#include "Dupes.h"
+#include "LocationsModel.h"
+#include "LocationsView.h"
+#include "SearchDefaults.h"
+#include "SearchOptionsPanel.h"
+#include "Settings.h"
+#include "support/TempTree.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QMessageBox>
+#include <QMimeData>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+using namespace selfsame;
+
+namespace {
+
+struct MainWindow {
+    QTemporaryDir dir;
+    Settings settings{dir.filePath(QStringLiteral("Selfsame.conf"))};
+    std::unique_ptr<AppDelegate> window;
+
+    AppDelegate &open()
+    {
+        window = std::make_unique<AppDelegate>(settings);
+        window->show();
+        QApplication::processEvents();
+        return *window;
+    }
+    ~MainWindow()
+    {
+        for (Dupes *dupes : QList<Dupes *>(window ? window->dupesList() : QList<Dupes *>()))
+            dupes->close();
+    }
+    QList<bool> savedFlags()
+    {
+        QList<bool> flags;
+        for (const QVariantMap &row : settings.recordList(key::searchLocations))
+            flags.append(row.value(QStringLiteral("enabled")).toBool());
+        return flags;
+    }
+};
+
+QList<QMessageBox *> openAlerts()
+{
+    QApplication::processEvents();
+    QList<QMessageBox *> boxes;
+    for (QWidget *w : QApplication::topLevelWidgets()) {
+        if (auto *box = qobject_cast<QMessageBox *>(w); box && box->isVisible())
+            boxes.append(box);
+    }
+    return boxes;
+}
+
+void closeAlerts()
+{
+    for (QMessageBox *box : openAlerts())
+        box->done(0);
+    QApplication::processEvents();
+}
+
+bool waitForSearches(const AppDelegate &window)
+{
+    return QTest::qWaitFor([&] { return window.searchingCount() == 0; }, 20000);
+}
+
+} // namespace
+
+TEST(AppDelegate, FirstLaunchPlacesTheWindowOnceAndWritesNoDefaults)
+{
+    MainWindow m;
+    AppDelegate &w = m.open();
+    EXPECT_EQ(w.windowTitle(), QStringLiteral("Selfsame"));
+    EXPECT_TRUE(m.settings.boolValue(key::mainWindowInitialPosition));
+    EXPECT_TRUE(m.settings.boolValue(key::columnsLayoutV2));
+    EXPECT_TRUE(m.settings.boolValue(key::welcomeShowAtStartup));
+    EXPECT_FALSE(m.settings.isStored(key::welcomeShowAtStartup));
+    EXPECT_FALSE(m.settings.isStored(key::skipHiddenFiles));
+    EXPECT_TRUE(openAlerts().isEmpty());
+}
+
+TEST(AppDelegate, KeysInTheLocationsTableToggleRemoveAndSearch)
+{
+    TempTree tree;
+    tree.build({"a/", "b/", "c.jpg"});
+    MainWindow m;
+    AppDelegate &w = m.open();
+    w.addURLs({tree.path(QStringLiteral("a")), tree.path(QStringLiteral("b")), tree.path(QStringLiteral("c.jpg"))},
+              true, true, true);
+    LocationsView *table = w.sourcesTable();
+    EXPECT_EQ(table->targetRows(), (QList<int>{0, 1, 2}));
+    EXPECT_EQ(m.savedFlags(), (QList<bool>{true, true, true}));
+
+    QTest::keyClick(table, Qt::Key_Space);
+    EXPECT_EQ(m.savedFlags(), (QList<bool>{false, false, false})) << "the last row decides for all";
+    table->selectRows({0, 2});
+    w.sources()->addPaths({tree.path(QStringLiteral("c.jpg"))}, true, true);
+    QTest::keyClick(table, Qt::Key_Space);
+    EXPECT_EQ(m.savedFlags(), (QList<bool>{false, false, false}));
+
+    table->selectRows({1});
+    QTest::keyClick(table, Qt::Key_Delete);
+    ASSERT_EQ(w.sources()->locations().size(), 2);
+    EXPECT_EQ(m.settings.recordList(key::searchLocations).size(), 2);
+    EXPECT_EQ(w.sources()->locations()[1].path, tree.path(QStringLiteral("c.jpg")));
+
+    table->selectRows({0});
+    QTest::keyClick(table, Qt::Key_Space);
+    QTest::keyClick(table, Qt::Key_Return);
+    EXPECT_EQ(w.dupesList().size(), 1);
+    EXPECT_TRUE(waitForSearches(w));
+}
+
+TEST(AppDelegate, NestedLocationsAndTheSingleFileOption)
+{
+    TempTree tree;
+    tree.build({"photos/2023/", "photos/.hidden/x/", "one.jpg"});
+    MainWindow m;
+    AppDelegate &w = m.open();
+    auto *singleFiles = w.findChild<QCheckBox *>(QStringLiteral("findAllDupesForSingleFilesBtn"));
+    ASSERT_TRUE(singleFiles);
+    w.addURLs({tree.path(QStringLiteral("photos/2023")), tree.path(QStringLiteral("photos/.hidden/x"))}, true, true,
+              true);
+    w.addURLs({tree.path(QStringLiteral("photos"))}, true, true, true);
+    EXPECT_EQ(m.savedFlags(), (QList<bool>{false, true, true})) << "the hidden step keeps x enabled";
+    EXPECT_FALSE(singleFiles->isEnabled());
+
+    w.addURLs({tree.path(QStringLiteral("one.jpg"))}, true, false, true);
+    EXPECT_TRUE(singleFiles->isEnabled());
+    w.addURLs({tree.path(QStringLiteral("one.jpg"))}, false, false, true);
+    EXPECT_FALSE(singleFiles->isEnabled());
+}
+
+TEST(AppDelegate, DroppedItemsAreAppendedEnabledAndSelected)
+{
+    TempTree tree;
+    tree.build({"a/", "b/", "c/"});
+    MainWindow m;
+    AppDelegate &w = m.open();
+    w.addURLs({tree.path(QStringLiteral("a"))}, false, false, true);
+    QMimeData mime;
+    mime.setUrls({QUrl::fromLocalFile(tree.path(QStringLiteral("c"))), QUrl::fromLocalFile(tree.path(QStringLiteral("b"))),
+                  QUrl(QStringLiteral("https://example.org/"))});
+    QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(w.sourcesTable()->viewport(), &enter);
+    QDropEvent drop(QPointF(2, 2), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(w.sourcesTable()->viewport(), &drop);
+    ASSERT_EQ(w.sources()->locations().size(), 3);
+    EXPECT_EQ(w.sources()->locations()[1].path, tree.path(QStringLiteral("c")));
+    EXPECT_EQ(w.sources()->locations()[2].path, tree.path(QStringLiteral("b")));
+    EXPECT_EQ(w.sourcesTable()->targetRows(), (QList<int>{1, 2}));
+    EXPECT_EQ(m.savedFlags(), (QList<bool>{false, true, true}));
+}
+
+TEST(AppDelegate, LocationsComeBackAtTheNextStart)
+{
+    TempTree tree;
+    tree.build({"a/", "b/"});
+    MainWindow m;
+    m.open().addURLs({tree.path(QStringLiteral("a")), tree.path(QStringLiteral("b"))}, true, false, true);
+    m.window->addURLs({tree.path(QStringLiteral("b"))}, false, false, true);
+    AppDelegate &again = m.open();
+    ASSERT_EQ(again.sources()->locations().size(), 2);
+    EXPECT_EQ(again.sources()->enabledPaths(), QStringList{tree.path(QStringLiteral("a"))});
+}
+
+TEST(AppDelegate, EachSearchOpensAResultsWindowCountedInTheTitle)
+{
+    TempTree tree;
+    tree.build({"x/a:3", "x/b:3", "x/c:4", "y/d:5", "y/e:5"});
+    MainWindow m;
+    AppDelegate &w = m.open();
+    Dupes *first = w.searchInFolderURLs({tree.path(QStringLiteral("x"))});
+    Dupes *second = w.searchInFolderURLs({tree.path(QStringLiteral("y"))});
+    ASSERT_TRUE(first && second);
+    EXPECT_EQ(w.dupesList().size(), 2);
+    // searchDone is queued to this thread, so both are still searching here.
+    EXPECT_EQ(w.searchingCount(), 2);
+    EXPECT_TRUE(w.windowTitle().contains(QStringLiteral("2 searches running"))) << w.windowTitle().toStdString();
+    ASSERT_TRUE(waitForSearches(w));
+    EXPECT_EQ(w.windowTitle(), QStringLiteral("Selfsame"));
+
+    // A file that a results window holds is shown there, not added to the locations.
+    w.showInOpenWindowOrAddURLs({tree.path(QStringLiteral("x/a"))});
+    EXPECT_TRUE(w.sources()->locations().isEmpty());
+    EXPECT_TRUE(openAlerts().isEmpty());
+    // Several files are added without asking.
+    w.showInOpenWindowOrAddURLs({tree.path(QStringLiteral("x/c")), tree.path(QStringLiteral("y/d"))});
+    EXPECT_EQ(w.sources()->locations().size(), 2);
+
+    first->close();
+    EXPECT_EQ(w.dupesList(), QList<Dupes *>{second});
+}
+
+TEST(AppDelegate, ClosingARunningSearchAbortsItAndForgetsTheWindow)
+{
+    TempTree tree;
+    for (int i = 0; i < 300; ++i)
+        tree.file(QStringLiteral("f/%1").arg(i), patternBytes(200'000, i % 150));
+    MainWindow m;
+    AppDelegate &w = m.open();
+    Dupes *dupes = w.searchInFolderURLs({tree.path(QStringLiteral("f"))});
+    ASSERT_TRUE(dupes);
+    dupes->close();
+    EXPECT_TRUE(w.dupesList().isEmpty());
+    EXPECT_EQ(w.searchingCount(), 0);
+    EXPECT_EQ(w.windowTitle(), QStringLiteral("Selfsame"));
+}
+
+TEST(AppDelegate, AnInvalidSkipPatternRefusesTheSearchWithAnAlert)
+{
+    MainWindow m;
+    m.settings.setValue(key::skipFilenameMatchingPatterns, true);
+    m.settings.setValue(key::skipFilenamePatterns, QStringLiteral("*.tmp\n/(/"));
+    AppDelegate &w = m.open();
+    EXPECT_EQ(w.searchInFolderURLs({m.dir.path()}), nullptr);
+    const QList<QMessageBox *> alerts = openAlerts();
+    ASSERT_EQ(alerts.size(), 1);
+    EXPECT_EQ(alerts[0]->text(), QStringLiteral("Invalid regular expression:\n^($"));
+    EXPECT_EQ(alerts[0]->buttons().size(), 2);
+    closeAlerts();
+    EXPECT_TRUE(w.dupesList().isEmpty());
+}
+
+TEST(AppDelegate, SavedRiskySettingsWarnOnceAtLoading)
+{
+    MainWindow m;
+    m.settings.setValue(key::compareFolders, true);
+    AppDelegate &w = m.open();
+    QList<QMessageBox *> alerts = openAlerts();
+    ASSERT_EQ(alerts.size(), 1) << "content mode, compare folders and the default size filter";
+    EXPECT_EQ(alerts[0]->text(),
+              QStringLiteral("Skipping some files or subfolders while comparing folders can lead to false positives"));
+    closeAlerts();
+
+    auto *extensions = w.findChild<QCheckBox *>(QStringLiteral("extensionChk"));
+    auto *sizes = w.findChild<QCheckBox *>(QStringLiteral("filterFileSizeChk"));
+    extensions->click();
+    EXPECT_TRUE(openAlerts().isEmpty()) << "still the same risky combination";
+    extensions->click();
+    sizes->click();
+    EXPECT_TRUE(openAlerts().isEmpty()) << "safe now";
+    sizes->click();
+    EXPECT_EQ(openAlerts().size(), 1) << "risky again";
+    closeAlerts();
+}
+
+TEST(AppDelegate, ModeChangesAreSavedAtOnce)
+{
+    MainWindow m;
+    AppDelegate &w = m.open();
+    auto *modes = qobject_cast<QComboBox *>(w.optionsPanel()->modeSelector());
+    ASSERT_TRUE(modes);
+    modes->setCurrentIndex(2);
+    Q_EMIT modes->activated(2);
+    EXPECT_EQ(m.settings.integerValue(key::detectionMode), 2);
+    EXPECT_TRUE(m.settings.isStored(key::detectionMode));
+}
+
+TEST(AppDelegate, SearchRequestsFromOutsideAddTheLocationsAndSearch)
+{
+    TempTree tree;
+    tree.build({"here/a:1", "here/b:1"});
+    MainWindow m;
+    AppDelegate &w = m.open();
+    w.handleLaunch({true, {tree.path(QStringLiteral("here"))}});
+    EXPECT_EQ(w.sources()->enabledPaths(), QStringList{tree.path(QStringLiteral("here"))});
+    EXPECT_EQ(w.dupesList().size(), 1);
+    EXPECT_TRUE(waitForSearches(w));
+}
