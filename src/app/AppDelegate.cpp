@@ -32,14 +32,15 @@ namespace selfsame {
 
 AppDelegate::AppDelegate(Settings &settings, QWidget *parent) : QMainWindow(parent), m_settings(settings)
 {
-    m_options = new SearchOptionsPanel;
     m_sources = new LocationsModel(
         m_settings,
         [this] { return NestingRule{m_options->skipHiddenFiles(), m_options->depthLimit(), deviceOf}; }, this);
 
     auto *central = new QWidget;
     auto *layout = new QVBoxLayout(central);
+    // Created top to bottom, so that Tab follows the window from the locations down.
     layout->addWidget(buildLocations(), 1);
+    m_options = new SearchOptionsPanel;
     layout->addSpacing(style()->pixelMetric(QStyle::PM_LayoutVerticalSpacing));
     layout->addWidget(m_options);
     auto *searchBtn = new QPushButton(QIcon::fromTheme(QStringLiteral("edit-find")), tr("&Search"));

@@ -68,7 +68,7 @@ private:
     Settings &m_settings;
     LocationsModel *m_sources;
     LocationsView *m_sourcesTable;
-    SearchOptionsPanel *m_options;
+    SearchOptionsPanel *m_options = nullptr;
     WelcomePanel *m_welcomePanel = nullptr;
     QAction *m_deleteAction;
     QAction *m_revealAction;

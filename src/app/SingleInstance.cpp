@@ -3,6 +3,7 @@
 #include <QDataStream>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QStandardPaths>
 
 #include <unistd.h>
 
@@ -19,7 +20,11 @@ SingleInstance::SingleInstance(const QString &serverName, QObject *parent)
 
 QString SingleInstance::defaultServerName()
 {
-    return QStringLiteral("selfsame-%1").arg(getuid());
+    // The user's runtime folder is private to the user and to the session.
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    if (runtime.isEmpty())
+        return QStringLiteral("selfsame-%1").arg(getuid());
+    return runtime + QStringLiteral("/selfsame-instance");
 }
 
 bool SingleInstance::handOver(const QStringList &message)

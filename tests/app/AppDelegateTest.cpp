@@ -5,11 +5,14 @@
 #include "SearchDefaults.h"
 #include "SearchOptionsPanel.h"
 #include "Settings.h"
+#include "WelcomePanel.h"
 #include "support/TempTree.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QSignalSpy>
@@ -275,4 +278,50 @@ TEST(AppDelegate, SearchRequestsFromOutsideAddTheLocationsAndSearch)
     EXPECT_EQ(w.sources()->enabledPaths(), QStringList{tree.path(QStringLiteral("here"))});
     EXPECT_EQ(w.dupesList().size(), 1);
     EXPECT_TRUE(waitForSearches(w));
+}
+
+TEST(AppDelegate, TheWelcomePanelRemembersItsCheckBoxWhenClosed)
+{
+    MainWindow m;
+    AppDelegate &w = m.open();
+    w.showWelcomeAtStartup();
+    auto *panel = w.findChild<WelcomePanel *>();
+    ASSERT_TRUE(panel && panel->isVisible());
+    EXPECT_TRUE(panel->windowTitle().contains(QStringLiteral("Selfsame")));
+    panel->findChild<QCheckBox *>()->setChecked(false);
+    panel->reject();
+    EXPECT_FALSE(m.settings.boolValue(key::welcomeShowAtStartup));
+    panel->reject();
+    EXPECT_TRUE(m.settings.isStored(key::welcomeShowAtStartup));
+
+    AppDelegate &again = m.open();
+    again.showWelcomeAtStartup();
+    EXPECT_EQ(again.findChild<WelcomePanel *>(), nullptr);
+}
+
+TEST(AppDelegate, ResetDoNotShowAgainIsOfferedOnlyWithSomethingToReset)
+{
+    MainWindow m;
+    AppDelegate &w = m.open();
+    QMenu *help = nullptr;
+    for (QAction *action : w.menuBar()->actions()) {
+        if (action->text() == QStringLiteral("&Help"))
+            help = action->menu();
+    }
+    ASSERT_TRUE(help);
+    QAction *reset = nullptr;
+    for (QAction *action : help->actions()) {
+        if (action->text().contains(QStringLiteral("Not Show Again")))
+            reset = action;
+    }
+    ASSERT_TRUE(reset);
+    Q_EMIT help->aboutToShow();
+    EXPECT_FALSE(reset->isEnabled());
+    m.settings.setDictionaryValue(key::doNotShowAgain, QStringLiteral("some alert"), 1000);
+    Q_EMIT help->aboutToShow();
+    ASSERT_TRUE(reset->isEnabled());
+    reset->trigger();
+    EXPECT_TRUE(m.settings.dictionary(key::doNotShowAgain).isEmpty());
+    Q_EMIT help->aboutToShow();
+    EXPECT_FALSE(reset->isEnabled());
 }
