@@ -32,6 +32,7 @@ WelcomePanel::WelcomePanel(Settings &settings, QWidget *parent) : QDialog(parent
         "<i>Find Duplicates Here</i> on a folder searches it at once.</p>")));
     text->setWordWrap(true);
     text->setTextFormat(Qt::RichText);
+    text->setFixedWidth(text->fontMetrics().averageCharWidth() * 64);
     layout->addWidget(text);
 
     m_welcomeShowAtStartupChk = new QCheckBox(withAppName(tr("&Show this window when [NSApp] starts")));
@@ -42,7 +43,8 @@ WelcomePanel::WelcomePanel(Settings &settings, QWidget *parent) : QDialog(parent
     bottom->addWidget(m_welcomeShowAtStartupChk, 1);
     bottom->addWidget(buttons);
     layout->addLayout(bottom);
-    setMaximumWidth(fontMetrics().averageCharWidth() * 70);
+    // Sized by the wrapped text, so that no line is cut off.
+    layout->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 void WelcomePanel::showCentered()
