@@ -4,8 +4,9 @@
 
 namespace selfsame {
 
-void showAlert(QWidget *parent, QMessageBox::Icon icon, const QString &message, const QString &informativeText,
-               const QStringList &buttons, std::function<void(int answer)> answered)
+void showAlert(QWidget *parent, QMessageBox::Icon icon, const QString &message,
+               const QString &informativeText, const QStringList &buttons,
+               std::function<void(int answer)> answered)
 {
     auto *box = new QMessageBox(icon, QString(), message, QMessageBox::NoButton, parent);
     box->setAttribute(Qt::WA_DeleteOnClose);

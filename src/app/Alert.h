@@ -2,7 +2,6 @@
 
 #include <QMessageBox>
 #include <QStringList>
-
 #include <functional>
 
 namespace selfsame {
@@ -13,7 +12,8 @@ inline constexpr int kFirstButtonAnswer = 1000;
 // Opens a message box modal to the parent's window (to the application without a parent),
 // with the buttons in the given order; the first is the default, the last of several answers
 // Escape. `answered` receives the answer code once the box has closed.
-void showAlert(QWidget *parent, QMessageBox::Icon icon, const QString &message, const QString &informativeText,
-               const QStringList &buttons, std::function<void(int answer)> answered = {});
+void showAlert(QWidget *parent, QMessageBox::Icon icon, const QString &message,
+               const QString &informativeText, const QStringList &buttons,
+               std::function<void(int answer)> answered = {});
 
 } // namespace selfsame

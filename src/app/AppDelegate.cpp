@@ -34,7 +34,10 @@ AppDelegate::AppDelegate(Settings &settings, QWidget *parent) : QMainWindow(pare
 {
     m_sources = new LocationsModel(
         m_settings,
-        [this] { return NestingRule{m_options->skipHiddenFiles(), m_options->depthLimit(), deviceOf}; }, this);
+        [this] {
+            return NestingRule{m_options->skipHiddenFiles(), m_options->depthLimit(), deviceOf};
+        },
+        this);
 
     auto *central = new QWidget;
     auto *layout = new QVBoxLayout(central);
@@ -54,7 +57,8 @@ AppDelegate::AppDelegate(Settings &settings, QWidget *parent) : QMainWindow(pare
     setAcceptDrops(true);
     buildMenus();
 
-    connect(m_options, &SearchOptionsPanel::compareFoldersCheckDue, this, &AppDelegate::compareFoldersWarning);
+    connect(m_options, &SearchOptionsPanel::compareFoldersCheckDue, this,
+            &AppDelegate::compareFoldersWarning);
     connect(m_options, &SearchOptionsPanel::nestingRuleChanged, this, [this] { m_sources->refresh(true); });
     connect(m_options, &SearchOptionsPanel::findAllDupesForSingleFilesTurnedOn, this,
             &AppDelegate::toggleFindAllDupesForSingleFiles);
@@ -93,7 +97,8 @@ QWidget *AppDelegate::buildLocations()
     connect(removeBtn, &QPushButton::clicked, this, &AppDelegate::deleteTargetRows);
     connect(m_sourcesTable->selectionModel(), &QItemSelectionModel::selectionChanged, removeBtn,
             [this, removeBtn] { removeBtn->setEnabled(m_sourcesTable->selectionModel()->hasSelection()); });
-    connect(m_sources, &QAbstractItemModel::modelReset, removeBtn, [removeBtn] { removeBtn->setEnabled(false); });
+    connect(m_sources, &QAbstractItemModel::modelReset, removeBtn,
+            [removeBtn] { removeBtn->setEnabled(false); });
     auto *hint = new QLabel(tr("Drop folders or files here to add them."));
     hint->setForegroundRole(QPalette::PlaceholderText);
     auto *buttons = new QHBoxLayout;
@@ -108,20 +113,26 @@ QWidget *AppDelegate::buildLocations()
 void AppDelegate::buildMenus()
 {
     QMenu *fileMenu = menuBar()->addMenu(tr("&File"));
-    QAction *add = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("list-add")), tr("&Add Location…"), this,
+    QAction *add = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("list-add")), tr("&Add Folder…"), this,
                                        [this] { addFolderWithButton(tr("Add"), true, false); });
     add->setShortcut(QKeySequence::Open);
-    QAction *search = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("edit-find")), tr("&Search for Duplicates"),
-                                          this, &AppDelegate::searchDuplicates);
+    // Folder choosers pick one folder; single files, several at once, come from their own chooser.
+    QAction *addFiles = fileMenu->addAction(tr("Add &Files…"), this, [this] {
+        chooseLocations(QFileDialog::ExistingFiles, tr("Choose Files to Find Duplicates Of"), tr("Add"), true,
+                        false);
+    });
+    addFiles->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_O));
+    QAction *search = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("edit-find")),
+                                          tr("&Search for Duplicates"), this, &AppDelegate::searchDuplicates);
     search->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return));
     fileMenu->addSeparator();
-    m_deleteAction = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("list-remove")), tr("&Remove from List"),
-                                         this, &AppDelegate::deleteTargetRows);
+    m_deleteAction = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("list-remove")),
+                                         tr("&Remove from List"), this, &AppDelegate::deleteTargetRows);
     m_revealAction = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("document-open-folder")),
                                          tr("Show in File &Manager"), this, &AppDelegate::revealTargetRows);
     fileMenu->addSeparator();
-    QAction *quit = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("application-exit")), tr("&Quit"), qApp,
-                                        &QApplication::closeAllWindows);
+    QAction *quit = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("application-exit")), tr("&Quit"),
+                                        qApp, &QApplication::closeAllWindows);
     quit->setShortcut(QKeySequence::Quit);
     connect(fileMenu, &QMenu::aboutToShow, this, &AppDelegate::validateLocationActions);
 
@@ -139,16 +150,18 @@ void AppDelegate::buildMenus()
     helpMenu->addAction(tr("&Welcome to [NSApp]"), this, &AppDelegate::welcome);
     m_resetDoNotShowAgainAction = helpMenu->addAction(tr("Reset &Do Not Show Again"), this,
                                                       [this] { m_settings.remove(key::doNotShowAgain); });
-    helpMenu->addAction(QIcon::fromTheme(QStringLiteral("mail-send")), tr("Send &Feedback…"), this, composeFeedback);
+    helpMenu->addAction(QIcon::fromTheme(QStringLiteral("mail-send")), tr("Send &Feedback…"), this,
+                        composeFeedback);
     helpMenu->addSeparator();
     helpMenu->addAction(QIcon::fromTheme(QStringLiteral("help-about")), tr("&About [NSApp]"), this, [this] {
         QMessageBox::about(
             this, withAppName(tr("About [NSApp]")),
-            withAppName(tr("<h3>[NSApp] %1</h3>"
-                           "<p>Finds duplicate files by content, duration, name or metadata, and helps you "
-                           "keep one copy.</p>"
-                           "<p><b>Credits</b><br>Built with Qt, OpenSSL (SHA-512) and xxHash. Icons follow your "
-                           "desktop's theme.</p>"))
+            withAppName(
+                tr("<h3>[NSApp] %1</h3>"
+                   "<p>Finds duplicate files by content, duration, name or metadata, and helps you "
+                   "keep one copy.</p>"
+                   "<p><b>Credits</b><br>Built with Qt, OpenSSL (SHA-512) and xxHash. Icons follow your "
+                   "desktop's theme.</p>"))
                 .arg(QApplication::applicationVersion()));
     });
     connect(helpMenu, &QMenu::aboutToShow, this, [this] {
@@ -194,28 +207,32 @@ void AppDelegate::compareFoldersWarning()
         return;
     // Queued, so that a warning due while the window is built opens over the shown window.
     QTimer::singleShot(0, this, [this] {
-        showAlert(this, QMessageBox::Warning,
-                  tr("Skipping some files or subfolders while comparing folders can lead to false positives"),
-                  tr("You may however choose to ignore .app extensions if you don’t want to compare applications "
-                     "(which are actually file packages)."),
-                  {tr("Got It!")});
+        showAlert(
+            this, QMessageBox::Warning,
+            tr("Skipping some files or subfolders while comparing folders can lead to false positives"),
+            tr("You may however choose to ignore .app extensions if you don’t want to compare applications "
+               "(which are actually file packages)."),
+            {tr("Got It!")});
     });
 }
 
 void AppDelegate::toggleFindAllDupesForSingleFiles()
 {
-    showAlert(this, QMessageBox::Information,
-              tr("Please select the folder or drive in which to search for duplicates of individual files."),
-              tr("Note that you should not enable this location in the list (leave the checkbox unticked); however, "
-                 "macOS security rules require that you designate the folder in order to grant the app access.\n\n"
-                 "You can manually grant access to additional folders by adding them to the folder list and leaving "
-                 "their checkboxes unticked."),
-              {tr("Grant Access…"), tr("Cancel")}, [this](int answer) {
-                  if (answer == kFirstButtonAnswer)
-                      addFolderWithButton(tr("Grant Access"), false, false);
-                  else
-                      m_options->turnFindAllDupesForSingleFilesOff();
-              });
+    showAlert(
+        this, QMessageBox::Information,
+        tr("Please select the folder or drive in which to search for duplicates of individual files."),
+        tr("Note that you should not enable this location in the list (leave the checkbox unticked); "
+           "however, "
+           "macOS security rules require that you designate the folder in order to grant the app access.\n\n"
+           "You can manually grant access to additional folders by adding them to the folder list and "
+           "leaving "
+           "their checkboxes unticked."),
+        {tr("Grant Access…"), tr("Cancel")}, [this](int answer) {
+            if (answer == kFirstButtonAnswer)
+                addFolderWithButton(tr("Grant Access"), false, false);
+            else
+                m_options->turnFindAllDupesForSingleFilesOff();
+        });
 }
 
 void AppDelegate::keepTopEdge(int heightDelta)
@@ -241,7 +258,8 @@ Dupes *AppDelegate::searchInFolderURLs(const QStringList &paths)
         showAlert(this, QMessageBox::Warning, invalidRegexMessage(start.invalidPattern.pattern),
                   start.invalidPattern.message, {tr("OK"), tr("Test Online…")}, [](int answer) {
                       if (answer == kFirstButtonAnswer + 1)
-                          QDesktopServices::openUrl(QUrl(QStringLiteral("https://regex101.com/?flavor=pcre2")));
+                          QDesktopServices::openUrl(
+                              QUrl(QStringLiteral("https://regex101.com/?flavor=pcre2")));
                   });
         return nullptr;
     }
@@ -268,12 +286,18 @@ void AppDelegate::addURLs(const QStringList &paths, bool enabled, bool select, b
 
 void AppDelegate::addFolderWithButton(const QString &prompt, bool enable, bool search)
 {
+    chooseLocations(QFileDialog::Directory, tr("Choose a Folder to Search"), prompt, enable, search);
+}
+
+void AppDelegate::chooseLocations(QFileDialog::FileMode fileMode, const QString &title, const QString &prompt,
+                                  bool enable, bool search)
+{
     show();
     raise();
     activateWindow();
-    auto *dialog = new QFileDialog(this, tr("Choose a Folder to Search"));
+    auto *dialog = new QFileDialog(this, title);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setFileMode(fileMode);
     dialog->setLabelText(QFileDialog::Accept, prompt);
     const QString previous = m_settings.stringValue(key::previousDirectory);
     if (!previous.isEmpty())

@@ -3,6 +3,7 @@
 #include "CompareFoldersWarning.h"
 #include "LaunchRequest.h"
 
+#include <QFileDialog>
 #include <QList>
 #include <QMainWindow>
 #include <QStringList>
@@ -55,6 +56,9 @@ private:
     void buildMenus();
     void loadSettings();
     void placeWindow();
+    // Opens a chooser modal to the window; the chosen items are added.
+    void chooseLocations(QFileDialog::FileMode fileMode, const QString &title, const QString &prompt,
+                         bool enable, bool search);
     void compareFoldersWarning();
     void toggleFindAllDupesForSingleFiles();
     void keepTopEdge(int heightDelta);

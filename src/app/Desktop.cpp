@@ -36,7 +36,8 @@ void showLauncherCount(int count)
                                                      QStringLiteral("com.canonical.Unity.LauncherEntry"),
                                                      QStringLiteral("Update"));
     update << QStringLiteral("application://selfsame.desktop")
-           << QVariantMap{{QStringLiteral("count"), qint64(count)}, {QStringLiteral("count-visible"), count > 0}};
+           << QVariantMap{{QStringLiteral("count"), qint64(count)},
+                          {QStringLiteral("count-visible"), count > 0}};
     bus.send(update);
 }
 

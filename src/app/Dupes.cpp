@@ -14,7 +14,6 @@
 #include <QPushButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
-
 #include <map>
 
 namespace selfsame {
@@ -67,7 +66,6 @@ void Dupes::searchInFolderURLs(const SearchRequest &request)
     setWindowTitle(tr("Duplicates in %1").arg(QLocale().createSeparatedList(names)));
     m_statusLbl->setText(tr("Starting the search…"));
     m_progressBar->setRange(0, 0);
-    m_searching = true;
     m_search.searchInFolderURLs(request);
 }
 
@@ -84,16 +82,17 @@ void Dupes::showProgress(const QString &status, double progress)
 
 void Dupes::searchDone()
 {
-    m_searching = false;
     m_progressBar->hide();
     m_abortBtn->hide();
     const QList<ResultItem> &items = m_search.mainItems();
     if (m_search.aborted()) {
         m_statusLbl->setText(tr("The search was stopped."));
     } else if (items.isEmpty()) {
-        const EmptyResultMessage empty = emptyResultMessage(m_search.request().detectionMode, m_search.statistics());
-        m_statusLbl->setText(empty.informativeText.isEmpty() ? empty.message
-                                                            : empty.message + QLatin1Char('\n') + empty.informativeText);
+        const EmptyResultMessage empty =
+            emptyResultMessage(m_search.request().detectionMode, m_search.statistics());
+        m_statusLbl->setText(empty.informativeText.isEmpty()
+                                 ? empty.message
+                                 : empty.message + QLatin1Char('\n') + empty.informativeText);
     }
     if (!items.isEmpty())
         fillList(items);
@@ -114,10 +113,10 @@ void Dupes::fillList(const QList<ResultItem> &items)
         auto *groupRow = new QTreeWidgetItem({tr("%n duplicates", nullptr, int(members.size())), QString(),
                                               formatByteCount(members.first()->size)});
         for (const ResultItem *item : members) {
-            auto *row = new QTreeWidgetItem(groupRow, {item->name(), QFileInfo(item->path).path(),
-                                                       formatByteCount(item->size),
-                                                       QLocale().toString(QDateTime::fromSecsSinceEpoch(item->modified),
-                                                                          QLocale::ShortFormat)});
+            auto *row = new QTreeWidgetItem(
+                groupRow,
+                {item->name(), QFileInfo(item->path).path(), formatByteCount(item->size),
+                 QLocale().toString(QDateTime::fromSecsSinceEpoch(item->modified), QLocale::ShortFormat)});
             row->setData(NameColumn, kPathRole, item->path);
             row->setToolTip(NameColumn, item->path);
             row->setTextAlignment(SizeColumn, Qt::AlignRight | Qt::AlignVCenter);

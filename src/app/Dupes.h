@@ -18,7 +18,6 @@ public:
     explicit Dupes(QWidget *parent = nullptr);
 
     void searchInFolderURLs(const SearchRequest &request);
-    bool isSearching() const { return m_searching; }
 
     // Selects and shows the item with this path; false when the results do not hold it.
     bool selectAndRevealInTopList(const QString &path);
@@ -36,7 +35,6 @@ private:
     void fillList(const QList<ResultItem> &items);
 
     DuplicateSearch m_search;
-    bool m_searching = false;
     QLabel *m_statusLbl;
     QProgressBar *m_progressBar;
     QPushButton *m_abortBtn;

@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-
 #include <algorithm>
 #include <sys/stat.h>
 
@@ -78,7 +77,8 @@ bool applyNestingRule(QList<Location> &locations, const NestingRule &rule)
                 locations[b].enabled = false;
         }
     }
-    return std::any_of(locations.begin(), locations.end(), [](const Location &l) { return l.enabled && l.regular; });
+    return std::any_of(locations.begin(), locations.end(),
+                       [](const Location &l) { return l.enabled && l.regular; });
 }
 
 bool toggleTogether(QList<Location> &locations, QList<int> rows)

@@ -3,7 +3,6 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
-
 #include <functional>
 #include <optional>
 
@@ -13,9 +12,9 @@ class Settings;
 
 // One row of the search locations.
 struct Location {
-    QString path;          // absolute
-    bool enabled = true;   // takes part in the next search
-    bool regular = false;  // a single file rather than a folder (or its status could not be read)
+    QString path;         // absolute
+    bool enabled = true;  // takes part in the next search
+    bool regular = false; // a single file rather than a folder (or its status could not be read)
 };
 
 // Whether a path is a single file: not a folder, without following a symbolic link; true when

@@ -1,7 +1,6 @@
 #include "LocationsModel.h"
 
 #include <QFileInfo>
-
 #include <algorithm>
 
 namespace selfsame {
@@ -98,7 +97,8 @@ QVariant LocationsModel::data(const QModelIndex &index, int role) const
     if (role == Qt::ToolTipRole)
         return location.path;
     if (index.column() == CheckboxColumn)
-        return role == Qt::CheckStateRole ? QVariant(location.enabled ? Qt::Checked : Qt::Unchecked) : QVariant();
+        return role == Qt::CheckStateRole ? QVariant(location.enabled ? Qt::Checked : Qt::Unchecked)
+                                          : QVariant();
     switch (role) {
     case Qt::DisplayRole:
         return displayName(location.path);

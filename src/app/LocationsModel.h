@@ -6,7 +6,6 @@
 #include <QFileIconProvider>
 #include <QHash>
 #include <QIcon>
-
 #include <functional>
 
 namespace selfsame {

@@ -6,7 +6,6 @@
 #include <QHeaderView>
 #include <QMenu>
 #include <QMimeData>
-
 #include <algorithm>
 
 namespace selfsame {
@@ -122,7 +121,7 @@ void LocationsView::dropEvent(QDropEvent *event)
 }
 
 QItemSelectionModel::SelectionFlags LocationsView::selectionCommand(const QModelIndex &index,
-                                                                     const QEvent *event) const
+                                                                    const QEvent *event) const
 {
     // Ticking a check box leaves the selection alone.
     if (event && index.column() == LocationsModel::CheckboxColumn &&

@@ -9,15 +9,21 @@ namespace selfsame {
 
 void registerSearchDefaults(Settings &settings)
 {
-    const QStringList activeAttributes{
-        QStringLiteral("kMDItemContentCreationDate"), QStringLiteral("kMDItemRecordingDate"),
-        QStringLiteral("kMDItemFSCreationDate"),      QStringLiteral("kMDItemDurationSeconds"),
-        QStringLiteral("kMDItemAlbum"),               QStringLiteral("kMDItemTitle"),
-        QStringLiteral("kMDItemDisplayName"),         QStringLiteral("kMDItemDescription"),
-        QStringLiteral("kMDItemHeadline"),            QStringLiteral("kMDItemLatitude"),
-        QStringLiteral("kMDItemLongitude"),           QStringLiteral("kMDItemIdentifier"),
-        QStringLiteral("kMDItemOriginalSource"),      QStringLiteral("kMDItemWhereFroms"),
-        QStringLiteral("kMDItemAestheticScore")};
+    const QStringList activeAttributes{QStringLiteral("kMDItemContentCreationDate"),
+                                       QStringLiteral("kMDItemRecordingDate"),
+                                       QStringLiteral("kMDItemFSCreationDate"),
+                                       QStringLiteral("kMDItemDurationSeconds"),
+                                       QStringLiteral("kMDItemAlbum"),
+                                       QStringLiteral("kMDItemTitle"),
+                                       QStringLiteral("kMDItemDisplayName"),
+                                       QStringLiteral("kMDItemDescription"),
+                                       QStringLiteral("kMDItemHeadline"),
+                                       QStringLiteral("kMDItemLatitude"),
+                                       QStringLiteral("kMDItemLongitude"),
+                                       QStringLiteral("kMDItemIdentifier"),
+                                       QStringLiteral("kMDItemOriginalSource"),
+                                       QStringLiteral("kMDItemWhereFroms"),
+                                       QStringLiteral("kMDItemAestheticScore")};
     settings.registerDefaults({
         {key::mainWindowInitialPosition, false},
         {key::skipHiddenFiles, true},

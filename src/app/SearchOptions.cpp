@@ -80,7 +80,8 @@ SearchStart startSearch(const SearchOptions &options, const QStringList &locatio
     settings.setValue(key::extensionsMode, extensionsMode);
 
     if (options.skipFilenames) {
-        auto compiled = compileSkipPatterns(skipPatternLines(options.skipFilenamesText), &start.invalidPattern);
+        auto compiled =
+            compileSkipPatterns(skipPatternLines(options.skipFilenamesText), &start.invalidPattern);
         if (!compiled)
             return start;
         r.skipFilenameRegexes = *compiled;

@@ -5,7 +5,6 @@
 
 #include <QString>
 #include <QStringList>
-
 #include <optional>
 
 namespace selfsame {
@@ -20,11 +19,11 @@ struct SearchOptions {
     bool ignoreClones = false;
     bool compareFolders = false;
     bool limitFolderDepth = false;
-    int folderDepthField = 1;          // levels shown in the field, 1 = direct children only
+    int folderDepthField = 1; // levels shown in the field, 1 = direct children only
     bool skipFilenames = false;
-    QString skipFilenamesText;         // one pattern per line
+    QString skipFilenamesText; // one pattern per line
     bool extensionsOn = false;
-    int extensionsPopupTag = 1;        // 1 only the listed extensions, 2 all but them
+    int extensionsPopupTag = 1; // 1 only the listed extensions, 2 all but them
     QString extensionsText;
     bool filterFileSize = true;
     QString minFileSizeText;

@@ -12,11 +12,10 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPlainTextEdit>
-#include <QSpinBox>
 #include <QSpacerItem>
+#include <QSpinBox>
 #include <QStyle>
 #include <QVBoxLayout>
-
 #include <pwd.h>
 #include <unistd.h>
 
@@ -57,7 +56,8 @@ void setLineHeight(QPlainTextEdit *edit, int lines)
 QString userFullName()
 {
     if (const passwd *account = getpwuid(getuid())) {
-        const QString gecos = QString::fromLocal8Bit(account->pw_gecos).section(QLatin1Char(','), 0, 0).trimmed();
+        const QString gecos =
+            QString::fromLocal8Bit(account->pw_gecos).section(QLatin1Char(','), 0, 0).trimmed();
         return gecos.isEmpty() ? QString::fromLocal8Bit(account->pw_name) : gecos;
     }
     return qEnvironmentVariable("USER");
@@ -91,7 +91,8 @@ SearchOptionsPanel::SearchOptionsPanel(QWidget *parent) : QWidget(parent)
     connect(m_skipFilenamesChk, &QCheckBox::clicked, this, [this] { toggleSkipFilenames(true); });
     connect(m_extensionChk, &QCheckBox::clicked, this, [this] { toggleExtensions(true); });
     connect(m_filterFileSizeChk, &QCheckBox::clicked, this, [this] { toggleFilterFileSize(true); });
-    connect(m_filenameIgnoreCommonSuffixesChk, &QCheckBox::clicked, this, [this] { toggleFilenameSuffix(true); });
+    connect(m_filenameIgnoreCommonSuffixesChk, &QCheckBox::clicked, this,
+            [this] { toggleFilenameSuffix(true); });
     connect(m_findAllDupesForSingleFilesBtn, &QCheckBox::clicked, this, [this](bool on) {
         if (on)
             Q_EMIT findAllDupesForSingleFilesTurnedOn();
@@ -122,7 +123,8 @@ QWidget *SearchOptionsPanel::buildModeGroups()
     m_durationToleranceFld->setSingleStep(0.1);
     auto *durationLabel = new QLabel(tr("&Tolerance:"));
     durationLabel->setBuddy(m_durationToleranceFld);
-    groupLayout(duration, indent)->addWidget(inRow({durationLabel, m_durationToleranceFld, new QLabel(tr("seconds"))}));
+    groupLayout(duration, indent)
+        ->addWidget(inRow({durationLabel, m_durationToleranceFld, new QLabel(tr("seconds"))}));
 
     auto *filename = new QWidget;
     auto *filenameLayout = groupLayout(filename, 0);
@@ -205,7 +207,8 @@ QWidget *SearchOptionsPanel::buildFilters()
     m_minFileSizeFld = new QLineEdit;
     m_maxFileSizeFld = new QLineEdit;
     m_maxFileSizeFld->setPlaceholderText(tr("no limit"));
-    const int sizeWidth = m_minFileSizeFld->fontMetrics().horizontalAdvance(QStringLiteral("0000 MiB")) * 3 / 2;
+    const int sizeWidth =
+        m_minFileSizeFld->fontMetrics().horizontalAdvance(QStringLiteral("0000 MiB")) * 3 / 2;
     for (QLineEdit *field : {m_minFileSizeFld, m_maxFileSizeFld}) {
         field->setMinimumWidth(sizeWidth);
         field->setMaximumWidth(sizeWidth * 2);
@@ -220,7 +223,8 @@ QWidget *SearchOptionsPanel::buildFilters()
     grid->addWidget(m_ignoreNonWritableChk, row++, 0, 1, 2);
     m_ignoreOtherOwnerChk = new QCheckBox(tr("Skip files not owned by %1").arg(userFullName()));
     grid->addWidget(m_ignoreOtherOwnerChk, row++, 0, 1, 2);
-    m_findAllDupesForSingleFilesBtn = new QCheckBox(tr("Find duplicates of single &files anywhere on their drive"));
+    m_findAllDupesForSingleFilesBtn =
+        new QCheckBox(tr("Find duplicates of single &files anywhere on their drive"));
     m_findAllDupesForSingleFilesBtn->setToolTip(
         tr("When a location is a single file, its duplicates are searched for across its whole drive."));
     grid->addWidget(m_findAllDupesForSingleFilesBtn, row++, 0, 1, 2);
@@ -318,8 +322,8 @@ void SearchOptionsPanel::applyToggles()
 CompareFoldersWarning::State SearchOptionsPanel::warningState() const
 {
     return {m_modePopupBtn->currentData().toInt() == 0, m_compareFoldersChk->isChecked(),
-            m_extensionChk->isChecked() || m_filterFileSizeChk->isChecked() || m_limitFolderDepthChk->isChecked() ||
-                m_skipFilenamesChk->isChecked()};
+            m_extensionChk->isChecked() || m_filterFileSizeChk->isChecked() ||
+                m_limitFolderDepthChk->isChecked() || m_skipFilenamesChk->isChecked()};
 }
 
 bool SearchOptionsPanel::skipHiddenFiles() const
@@ -388,7 +392,8 @@ void SearchOptionsPanel::toggleFilterFileSize(bool byUser)
 
 void SearchOptionsPanel::toggleFilenameSuffix(bool byUser)
 {
-    enableAndSelect(m_filenameIgnoreCommonSuffixesChk->isChecked(), m_filenameIgnoreCommonSuffixesFld, byUser);
+    enableAndSelect(m_filenameIgnoreCommonSuffixesChk->isChecked(), m_filenameIgnoreCommonSuffixesFld,
+                    byUser);
 }
 
 void SearchOptionsPanel::toggleMode(bool byUser)

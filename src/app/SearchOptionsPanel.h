@@ -4,7 +4,6 @@
 #include "SearchOptions.h"
 
 #include <QWidget>
-
 #include <optional>
 
 class QCheckBox;

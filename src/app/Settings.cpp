@@ -7,7 +7,10 @@ Settings::Settings()
 {
 }
 
-Settings::Settings(const QString &iniFile) : m_store(std::make_unique<QSettings>(iniFile, QSettings::IniFormat)) {}
+Settings::Settings(const QString &iniFile)
+    : m_store(std::make_unique<QSettings>(iniFile, QSettings::IniFormat))
+{
+}
 
 void Settings::registerDefaults(const QVariantMap &defaults)
 {

@@ -4,7 +4,6 @@
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QStandardPaths>
-
 #include <unistd.h>
 
 namespace selfsame {

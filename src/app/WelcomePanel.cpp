@@ -18,18 +18,18 @@ WelcomePanel::WelcomePanel(Settings &settings, QWidget *parent) : QDialog(parent
 {
     setWindowTitle(withAppName(tr("Welcome to [NSApp]")));
     auto *layout = new QVBoxLayout(this);
-    auto *text = new QLabel(withAppName(tr(
-        "<h3>Welcome to [NSApp]</h3>"
-        "<p>[NSApp] finds files with the same content in the folders and drives you choose, "
-        "and helps you decide which copies to keep.</p>"
-        "<ol>"
-        "<li>Add folders to the list: drag them from your file manager, or click <b>Add…</b>.</li>"
-        "<li>Tick the ones to search and choose what makes two files duplicates.</li>"
-        "<li>Click <b>Search</b>. Each search opens its own window; several can run at once.</li>"
-        "</ol>"
-        "<p>Searching only reads your files. Nothing is changed until you say so in a results window.</p>"
-        "<p>From a file manager, <i>Open With [NSApp]</i> on a file shows its duplicates, and "
-        "<i>Find Duplicates Here</i> on a folder searches it at once.</p>")));
+    auto *text = new QLabel(withAppName(
+        tr("<h3>Welcome to [NSApp]</h3>"
+           "<p>[NSApp] finds files with the same content in the folders and drives you choose, "
+           "and helps you decide which copies to keep.</p>"
+           "<ol>"
+           "<li>Add folders to the list: drag them from your file manager, or click <b>Add…</b>.</li>"
+           "<li>Tick the ones to search and choose what makes two files duplicates.</li>"
+           "<li>Click <b>Search</b>. Each search opens its own window; several can run at once.</li>"
+           "</ol>"
+           "<p>Searching only reads your files. Nothing is changed until you say so in a results window.</p>"
+           "<p>From a file manager, <i>Open With [NSApp]</i> on a file shows its duplicates, and "
+           "<i>Find Duplicates Here</i> on a folder searches it at once.</p>")));
     text->setWordWrap(true);
     text->setTextFormat(Qt::RichText);
     text->setFixedWidth(text->fontMetrics().averageCharWidth() * 64);

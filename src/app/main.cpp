@@ -15,21 +15,24 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("Selfsame"));
     QApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("selfsame"));
-    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("selfsame"), QIcon(QStringLiteral(":/selfsame.svg"))));
+    QApplication::setWindowIcon(
+        QIcon::fromTheme(QStringLiteral("selfsame"), QIcon(QStringLiteral(":/selfsame.svg"))));
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QApplication::translate("main", "Finds duplicate files."));
     parser.addHelpOption();
     parser.addVersionOption();
     const QCommandLineOption searchOption(
-        QStringLiteral("search"), QApplication::translate("main", "Add the paths to the locations and search them at once."));
+        QStringLiteral("search"),
+        QApplication::translate("main", "Add the paths to the locations and search them at once."));
     parser.addOption(searchOption);
     parser.addPositionalArgument(QStringLiteral("paths"),
                                  QApplication::translate("main", "Files to look up, or folders to add."),
                                  QStringLiteral("[PATH…]"));
     parser.process(app);
-    const selfsame::LaunchRequest launch{parser.isSet(searchOption),
-                                         selfsame::absoluteLocalPaths(parser.positionalArguments(), QDir::currentPath())};
+    const selfsame::LaunchRequest launch{
+        parser.isSet(searchOption),
+        selfsame::absoluteLocalPaths(parser.positionalArguments(), QDir::currentPath())};
 
     selfsame::SingleInstance instance;
     if (instance.handOver(launch.toMessage()))

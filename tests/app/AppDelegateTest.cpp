@@ -1,4 +1,5 @@
 #include "AppDelegate.h"
+
 #include "Dupes.h"
 #include "LocationsModel.h"
 #include "LocationsView.h"
@@ -19,7 +20,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QUrl>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
@@ -96,8 +96,9 @@ TEST(AppDelegate, KeysInTheLocationsTableToggleRemoveAndSearch)
     tree.build({"a/", "b/", "c.jpg"});
     MainWindow m;
     AppDelegate &w = m.open();
-    w.addURLs({tree.path(QStringLiteral("a")), tree.path(QStringLiteral("b")), tree.path(QStringLiteral("c.jpg"))},
-              true, true, true);
+    w.addURLs(
+        {tree.path(QStringLiteral("a")), tree.path(QStringLiteral("b")), tree.path(QStringLiteral("c.jpg"))},
+        true, true, true);
     LocationsView *table = w.sourcesTable();
     EXPECT_EQ(table->targetRows(), (QList<int>{0, 1, 2}));
     EXPECT_EQ(m.savedFlags(), (QList<bool>{true, true, true}));
@@ -130,8 +131,8 @@ TEST(AppDelegate, NestedLocationsAndTheSingleFileOption)
     AppDelegate &w = m.open();
     auto *singleFiles = w.findChild<QCheckBox *>(QStringLiteral("findAllDupesForSingleFilesBtn"));
     ASSERT_TRUE(singleFiles);
-    w.addURLs({tree.path(QStringLiteral("photos/2023")), tree.path(QStringLiteral("photos/.hidden/x"))}, true, true,
-              true);
+    w.addURLs({tree.path(QStringLiteral("photos/2023")), tree.path(QStringLiteral("photos/.hidden/x"))}, true,
+              true, true);
     w.addURLs({tree.path(QStringLiteral("photos"))}, true, true, true);
     EXPECT_EQ(m.savedFlags(), (QList<bool>{false, true, true})) << "the hidden step keeps x enabled";
     EXPECT_FALSE(singleFiles->isEnabled());
@@ -150,7 +151,8 @@ TEST(AppDelegate, DroppedItemsAreAppendedEnabledAndSelected)
     AppDelegate &w = m.open();
     w.addURLs({tree.path(QStringLiteral("a"))}, false, false, true);
     QMimeData mime;
-    mime.setUrls({QUrl::fromLocalFile(tree.path(QStringLiteral("c"))), QUrl::fromLocalFile(tree.path(QStringLiteral("b"))),
+    mime.setUrls({QUrl::fromLocalFile(tree.path(QStringLiteral("c"))),
+                  QUrl::fromLocalFile(tree.path(QStringLiteral("b"))),
                   QUrl(QStringLiteral("https://example.org/"))});
     QDragEnterEvent enter(QPoint(2, 2), Qt::CopyAction, &mime, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(w.sourcesTable()->viewport(), &enter);
@@ -187,7 +189,8 @@ TEST(AppDelegate, EachSearchOpensAResultsWindowCountedInTheTitle)
     EXPECT_EQ(w.dupesList().size(), 2);
     // searchDone is queued to this thread, so both are still searching here.
     EXPECT_EQ(w.searchingCount(), 2);
-    EXPECT_TRUE(w.windowTitle().contains(QStringLiteral("2 searches running"))) << w.windowTitle().toStdString();
+    EXPECT_TRUE(w.windowTitle().contains(QStringLiteral("2 searches running")))
+        << w.windowTitle().toStdString();
     ASSERT_TRUE(waitForSearches(w));
     EXPECT_EQ(w.windowTitle(), QStringLiteral("Selfsame"));
 
@@ -241,7 +244,8 @@ TEST(AppDelegate, SavedRiskySettingsWarnOnceAtLoading)
     QList<QMessageBox *> alerts = openAlerts();
     ASSERT_EQ(alerts.size(), 1) << "content mode, compare folders and the default size filter";
     EXPECT_EQ(alerts[0]->text(),
-              QStringLiteral("Skipping some files or subfolders while comparing folders can lead to false positives"));
+              QStringLiteral(
+                  "Skipping some files or subfolders while comparing folders can lead to false positives"));
     closeAlerts();
 
     auto *extensions = w.findChild<QCheckBox *>(QStringLiteral("extensionChk"));

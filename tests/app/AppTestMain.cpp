@@ -2,7 +2,6 @@
 // folder of their own, so that nothing touches the user's settings.
 #include <QApplication>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 int main(int argc, char **argv)

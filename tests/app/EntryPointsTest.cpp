@@ -4,11 +4,10 @@
 #include "SingleInstance.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QMenu>
 #include <QSignalSpy>
-#include <QFile>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
@@ -16,8 +15,8 @@ using namespace selfsame;
 TEST(LaunchRequest, ArgumentsBecomeAbsoluteLocalPaths)
 {
     EXPECT_EQ(absoluteLocalPaths({QStringLiteral("photos/../music"), QStringLiteral("/srv/x/"),
-                                  QStringLiteral("file:///home/u/My%20Pictures"), QStringLiteral("https://example.org/a"),
-                                  QString()},
+                                  QStringLiteral("file:///home/u/My%20Pictures"),
+                                  QStringLiteral("https://example.org/a"), QString()},
                                  QStringLiteral("/home/u")),
               (QStringList{QStringLiteral("/home/u/music"), QStringLiteral("/srv/x"),
                            QStringLiteral("/home/u/My Pictures")}));
@@ -85,7 +84,8 @@ TEST(AttributeTolerance, ShownForNumbersDatesAndUnknownTypesWithFittingUnits)
     EXPECT_FALSE(attributeToleranceShown(BooleanType));
 
     const QString latitude = QStringLiteral("kMDItemLatitude");
-    EXPECT_EQ(attributeToleranceUnits(NumberType, latitude, true), QStringLiteral("arcseconds (1″ ≈ 30\u00a0m)"));
+    EXPECT_EQ(attributeToleranceUnits(NumberType, latitude, true),
+              QStringLiteral("arcseconds (1″ ≈ 30\u00a0m)"));
     EXPECT_EQ(attributeToleranceUnits(AnyType, QStringLiteral("kMDItemLongitude"), false),
               QStringLiteral("arcseconds (1″ ≈ 100\u00a0ft on the equator)"));
     EXPECT_EQ(attributeToleranceUnits(DateType, latitude, true), QStringLiteral("seconds"));

@@ -8,7 +8,6 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QTest>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
@@ -30,7 +29,8 @@ TEST(HandOver, SearchOfALaterStartRunsInTheFirstInstance)
 {
     TempTree tree;
     tree.build({"run/", "config/Selfsame/", "photos/a:2", "photos/b:2"});
-    QFile::setPermissions(tree.path(QStringLiteral("run")), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::setPermissions(tree.path(QStringLiteral("run")),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     const QString settingsFile = tree.path(QStringLiteral("config/Selfsame/Selfsame.conf"));
     {
         Settings settings(settingsFile);
@@ -42,7 +42,8 @@ TEST(HandOver, SearchOfALaterStartRunsInTheFirstInstance)
     first.start(QStringLiteral(SELFSAME_APP_PATH), {});
     ASSERT_TRUE(first.waitForStarted());
     const QString socket = tree.path(QStringLiteral("run/selfsame-instance"));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo::exists(socket); }, 15000)) << "the first start listens";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return QFileInfo::exists(socket); }, 15000))
+        << "the first start listens";
 
     QProcess second;
     second.setProcessEnvironment(isolatedEnvironment(tree));

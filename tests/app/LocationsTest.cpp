@@ -1,10 +1,10 @@
 #include "Locations.h"
+
 #include "SearchDefaults.h"
 #include "Settings.h"
 #include "support/TempTree.h"
 
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
@@ -38,8 +38,8 @@ QList<bool> enabledFlags(const QList<Location> &locations)
 
 TEST(NestingRule, SwitchesOffWhatAnEnabledFolderAlreadyCovers)
 {
-    QList<Location> l{folder("/Users/a"), folder("/Users/a/b"), folder("/Users/ab"), folder("/mnt"),
-                      folder("/mnt/other/x"), folder("/gone/a"), folder("/gone/a/b")};
+    QList<Location> l{folder("/Users/a"),     folder("/Users/a/b"), folder("/Users/ab"), folder("/mnt"),
+                      folder("/mnt/other/x"), folder("/gone/a"),    folder("/gone/a/b")};
     applyNestingRule(l, rule());
     EXPECT_EQ(enabledFlags(l), (QList<bool>{true, false, true, true, true, true, true}))
         << "/Users/ab is no child of /Users/a; another volume or an unreadable one stays";
@@ -62,7 +62,8 @@ TEST(NestingRule, HiddenStepsAndTheDepthLimitKeepNestedFoldersEnabled)
     applyNestingRule(hidden, rule(true));
     EXPECT_EQ(enabledFlags(hidden), (QList<bool>{true, true, true}));
     applyNestingRule(hidden, rule(false));
-    EXPECT_EQ(enabledFlags(hidden), (QList<bool>{true, false, false})) << "without skipping, hidden folders are reached";
+    EXPECT_EQ(enabledFlags(hidden), (QList<bool>{true, false, false}))
+        << "without skipping, hidden folders are reached";
 
     QList<Location> depth1{folder("/d"), folder("/d/one")};
     applyNestingRule(depth1, rule(true, 1));
@@ -98,15 +99,18 @@ TEST(Locations, MergingNeverDuplicatesAPath)
     TempTree tree;
     tree.build({"photos/", "photos/a.jpg"});
     QList<Location> l;
-    EXPECT_EQ(mergeLocations(l, {tree.path(QStringLiteral("photos")), tree.path(QStringLiteral("photos/a.jpg"))}, true),
+    EXPECT_EQ(mergeLocations(
+                  l, {tree.path(QStringLiteral("photos")), tree.path(QStringLiteral("photos/a.jpg"))}, true),
               (QList<int>{0, 1}));
     EXPECT_FALSE(l[0].regular);
     EXPECT_TRUE(l[1].regular);
-    EXPECT_EQ(mergeLocations(l, {tree.path(QStringLiteral("photos/")), QStringLiteral("relative/path")}, false),
-              QList<int>{0});
+    EXPECT_EQ(
+        mergeLocations(l, {tree.path(QStringLiteral("photos/")), QStringLiteral("relative/path")}, false),
+        QList<int>{0});
     ASSERT_EQ(l.size(), 2);
     EXPECT_FALSE(l[0].enabled) << "an existing row only takes the new flag";
-    EXPECT_TRUE(isRegularLocation(tree.path(QStringLiteral("missing")))) << "an unreadable status counts as a file";
+    EXPECT_TRUE(isRegularLocation(tree.path(QStringLiteral("missing"))))
+        << "an unreadable status counts as a file";
 }
 
 TEST(Locations, PersistAsPathsWithTheirFlagAndDropWhatIsGone)
@@ -116,8 +120,10 @@ TEST(Locations, PersistAsPathsWithTheirFlagAndDropWhatIsGone)
     QTemporaryDir dir;
     Settings settings(dir.filePath(QStringLiteral("Selfsame.conf")));
     QList<Location> l;
-    mergeLocations(l, {tree.path(QStringLiteral("b")), tree.path(QStringLiteral("gone")), tree.path(QStringLiteral("a"))},
-                   true);
+    mergeLocations(
+        l,
+        {tree.path(QStringLiteral("b")), tree.path(QStringLiteral("gone")), tree.path(QStringLiteral("a"))},
+        true);
     mergeLocations(l, {tree.path(QStringLiteral("c.txt"))}, false);
     saveLocations(l, settings);
 

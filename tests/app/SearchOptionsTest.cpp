@@ -1,10 +1,10 @@
+#include "SearchOptions.h"
+
 #include "CompareFoldersWarning.h"
 #include "SearchDefaults.h"
-#include "SearchOptions.h"
 #include "Settings.h"
 
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
@@ -128,7 +128,8 @@ TEST(SearchOptions, AnInvalidSkipPatternStopsAfterTheEarlierOptionsAreSaved)
 
     const SearchStart start = startSearch(o, {QStringLiteral("/data")}, store.settings);
     EXPECT_FALSE(start.request.has_value());
-    EXPECT_EQ(start.invalidPattern.pattern, QStringLiteral("^[$")) << "the last failing expression as generated";
+    EXPECT_EQ(start.invalidPattern.pattern, QStringLiteral("^[$"))
+        << "the last failing expression as generated";
     EXPECT_FALSE(start.invalidPattern.message.isEmpty());
     EXPECT_FALSE(store.settings.boolValue(key::skipHiddenFiles));
     EXPECT_EQ(store.settings.integerValue(key::limitFolderDepth), 3);
@@ -162,7 +163,8 @@ TEST(SearchOptions, AnEmptySuffixFieldIsRefilledAndSuffixesKeepTheirBlanks)
     o.commonSuffixesText = QStringLiteral("_v##");
     start = startSearch(o, {}, store.settings);
     EXPECT_EQ(store.settings.stringValue(key::commonSuffixes), QStringLiteral("_v##"));
-    EXPECT_TRUE((*start.request->filenameIgnoreCommonSuffixRegexes)[0].match(QStringLiteral("song_v123")).hasMatch());
+    EXPECT_TRUE(
+        (*start.request->filenameIgnoreCommonSuffixRegexes)[0].match(QStringLiteral("song_v123")).hasMatch());
 }
 
 TEST(SearchOptions, AHiddenAttributeToleranceSearchesExactlyButKeepsTheField)

@@ -1,9 +1,9 @@
-#include "SearchDefaults.h"
 #include "Settings.h"
+
+#include "SearchDefaults.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
@@ -70,9 +70,11 @@ TEST(Settings, StoredValuesSurviveReopeningWithTheirTypes)
     EXPECT_EQ(settings.integerValue(key::limitFolderDepth), -1);
     EXPECT_EQ(settings.integerValue(key::maxFileSize), 5'000'000'000'000);
     EXPECT_DOUBLE_EQ(settings.doubleValue(key::durationTolerance), 2.5);
-    EXPECT_EQ(settings.stringValue(key::commonSuffixes), QStringLiteral(" copy, (#) ")) << "blanks are part of suffixes";
+    EXPECT_EQ(settings.stringValue(key::commonSuffixes), QStringLiteral(" copy, (#) "))
+        << "blanks are part of suffixes";
     EXPECT_EQ(settings.stringValue(key::skipFilenamePatterns), QStringLiteral("*.tmp\n/^~\\$/\n"));
-    EXPECT_EQ(settings.stringListValue(key::activeSpotlightAttributes), QStringList{QStringLiteral("kMDItemTitle")});
+    EXPECT_EQ(settings.stringListValue(key::activeSpotlightAttributes),
+              QStringList{QStringLiteral("kMDItemTitle")});
 }
 
 TEST(Settings, RecordListsAndDictionariesRoundTrip)
@@ -80,10 +82,10 @@ TEST(Settings, RecordListsAndDictionariesRoundTrip)
     SettingsFile file;
     {
         Settings settings(file.path);
-        settings.setRecordList(QStringLiteral("rows"), {{{QStringLiteral("path"), QStringLiteral("/a b")},
-                                                         {QStringLiteral("enabled"), true}},
-                                                        {{QStringLiteral("path"), QStringLiteral("/c")},
-                                                         {QStringLiteral("enabled"), false}}});
+        settings.setRecordList(
+            QStringLiteral("rows"),
+            {{{QStringLiteral("path"), QStringLiteral("/a b")}, {QStringLiteral("enabled"), true}},
+             {{QStringLiteral("path"), QStringLiteral("/c")}, {QStringLiteral("enabled"), false}}});
         settings.setRecordList(QStringLiteral("rows"), {{{QStringLiteral("path"), QStringLiteral("/c")},
                                                          {QStringLiteral("enabled"), false}}});
         settings.setDictionaryValue(key::doNotShowAgain, QStringLiteral("some alert"), 1001);

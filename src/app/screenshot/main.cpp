@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QIcon>
 #include <QTimer>
-
 #include <chrono>
 #include <cstdio>
 
@@ -70,8 +69,8 @@ int main(int argc, char *argv[])
         std::printf("startup_ms %.1f\n", double(nowNs - startedAtNs) / 1e6);
         std::fflush(stdout);
         auto *modes = static_cast<QComboBox *>(window.optionsPanel()->modeSelector());
-        const QStringList names{QStringLiteral("content"), QStringLiteral("duration"), QStringLiteral("filename"),
-                                QStringLiteral("attribute")};
+        const QStringList names{QStringLiteral("content"), QStringLiteral("duration"),
+                                QStringLiteral("filename"), QStringLiteral("attribute")};
         for (int mode = 0; mode < names.size(); ++mode) {
             modes->setCurrentIndex(mode);
             Q_EMIT modes->activated(mode);
