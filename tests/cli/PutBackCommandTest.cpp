@@ -3,6 +3,7 @@
 #include "fileops/Trash.h"
 #include "support/FileItems.h"
 #include "support/TempTree.h"
+#include "support/TrashHome.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -40,16 +41,12 @@ PutBackRun putBack(const QStringList &files, const QString &home)
 
 TEST(PutBackCommand, PutsBackRecordedFilesAndReportsEveryFailure)
 {
-    TempTree home, files;
-    const QByteArray oldData = qgetenv("XDG_DATA_HOME"), oldHome = qgetenv("HOME");
-    qputenv("XDG_DATA_HOME", home.path(QStringLiteral("data")).toUtf8());
-    qputenv("HOME", home.path().toUtf8());
+    TrashHome home;
+    TempTree files;
     const QString kept = files.file(QStringLiteral("photos/kept.jpg"), "kept");
     const QString taken = files.file(QStringLiteral("photos/taken.jpg"), "taken");
     const QString keptTrashed = trashItem(kept).trashedPath;
     const QString takenTrashed = trashItem(taken).trashedPath;
-    qputenv("XDG_DATA_HOME", oldData);
-    qputenv("HOME", oldHome);
     ASSERT_FALSE(keptTrashed.isEmpty());
     ASSERT_FALSE(takenTrashed.isEmpty());
     files.file(QStringLiteral("photos/taken.jpg"), "new occupant");

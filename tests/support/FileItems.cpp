@@ -86,3 +86,27 @@ bool setImmutable(const QString &path, bool on)
         close(fd);
     return ok;
 }
+
+struct stat statOf(const QString &path)
+{
+    struct stat st{};
+    lstat(path.toUtf8().constData(), &st);
+    return st;
+}
+
+QString readLinkText(const QString &path)
+{
+    char buffer[4096];
+    const ssize_t n = readlink(path.toUtf8().constData(), buffer, sizeof buffer);
+    return n < 0 ? QString() : QString::fromUtf8(buffer, n);
+}
+
+std::optional<Digest> allocDigestOf(const QString &path)
+{
+    const int fd = open(path.toUtf8().constData(), O_RDONLY);
+    std::vector<qint64> storage;
+    auto digest = fd < 0 ? std::nullopt : computeAllocDigest(fd, storage);
+    if (fd >= 0)
+        close(fd);
+    return digest;
+}

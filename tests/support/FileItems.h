@@ -7,6 +7,8 @@
 #include <QString>
 
 #include <memory>
+#include <optional>
+#include <sys/stat.h>
 #include <ostream>
 #include <vector>
 
@@ -22,6 +24,11 @@ struct ItemGroup {
 
 void writeFile(const QString &path, const QByteArray &bytes);
 QByteArray readFile(const QString &path);
+
+struct stat statOf(const QString &path); // zeroed when lstat fails
+QString readLinkText(const QString &path);
+// The allocation digest of a file: equal for files that share their extents.
+std::optional<selfsame::Digest> allocDigestOf(const QString &path);
 
 // Sets or clears FS_IMMUTABLE_FL; false where the file system or the user may not.
 bool setImmutable(const QString &path, bool on);

@@ -20,22 +20,6 @@ using namespace selfsame;
 
 namespace {
 
-std::optional<Digest> allocDigest(const QString &path)
-{
-    const int fd = open(path.toUtf8().constData(), O_RDONLY);
-    std::vector<qint64> storage;
-    auto digest = computeAllocDigest(fd, storage);
-    close(fd);
-    return digest;
-}
-
-struct stat statOf(const QString &path)
-{
-    struct stat st{};
-    lstat(path.toUtf8().constData(), &st);
-    return st;
-}
-
 // Two groups on a volume that clones: a large one of three copies and a small pair.
 class CloneWorkerOn : public ::testing::TestWithParam<const char *> {
 protected:
@@ -91,7 +75,7 @@ TEST_P(CloneWorkerOn, PlansLargestFirstThenClonesInPlaceKeepingEveryFilesMetadat
                                 item(4)->path.toUtf8() + "\n";
     EXPECT_EQ(readFile(w.logFilePath()), expected);
     EXPECT_EQ(statOf(item(1)->path).st_ino, before.st_ino) << "planning changes nothing";
-    EXPECT_NE(allocDigest(item(1)->path), allocDigest(item(0)->path));
+    EXPECT_NE(allocDigestOf(item(1)->path), allocDigestOf(item(0)->path));
     EXPECT_TRUE(cloneConfirmationAlert(plan).message.startsWith(
         QStringLiteral("Do you want to replace 3 duplicates among all found files, by clones of 2 different files?")));
 
@@ -100,10 +84,10 @@ TEST_P(CloneWorkerOn, PlansLargestFirstThenClonesInPlaceKeepingEveryFilesMetadat
     EXPECT_EQ(w.cloned().size(), 3);
     for (int i : {1, 2}) {
         EXPECT_EQ(readFile(item(i)->path), big);
-        ASSERT_TRUE(allocDigest(item(i)->path).has_value());
-        EXPECT_EQ(allocDigest(item(i)->path), allocDigest(item(0)->path)) << "shares the reference's extents";
+        ASSERT_TRUE(allocDigestOf(item(i)->path).has_value());
+        EXPECT_EQ(allocDigestOf(item(i)->path), allocDigestOf(item(0)->path)) << "shares the reference's extents";
     }
-    EXPECT_EQ(allocDigest(item(4)->path), allocDigest(item(3)->path));
+    EXPECT_EQ(allocDigestOf(item(4)->path), allocDigestOf(item(3)->path));
     const struct stat after = statOf(item(1)->path);
     EXPECT_EQ(after.st_ino, before.st_ino) << "deduplication keeps the duplicate's inode";
     EXPECT_EQ(after.st_mode, before.st_mode);
@@ -156,7 +140,7 @@ TEST_P(CloneWorkerOn, WithoutDedupeMovesAsideClonesRestoresAndRollsBackEachFaili
 
     ASSERT_EQ(cloneDuplicate(*item(0), *item(1), true, steps), QString());
     EXPECT_NE(statOf(item(1)->path).st_ino, original.st_ino) << "a new inode: the clone";
-    EXPECT_EQ(allocDigest(item(1)->path), allocDigest(item(0)->path));
+    EXPECT_EQ(allocDigestOf(item(1)->path), allocDigestOf(item(0)->path));
     EXPECT_EQ(statOf(item(1)->path).st_mtim.tv_nsec, original.st_mtim.tv_nsec);
     char note[4] = {};
     EXPECT_EQ(lgetxattr(path.constData(), "user.note", note, sizeof note), 1);
@@ -195,7 +179,7 @@ TEST_P(CloneWorkerOn, SkipsWhatMustNotBeClonedAndStopsOnChangesAndAborts)
     w.progress = [](int, int) { return false; };
     EXPECT_FALSE(w.perform(true, true, true));
     EXPECT_TRUE(w.cloned().isEmpty());
-    EXPECT_NE(allocDigest(item(4)->path), allocDigest(item(3)->path));
+    EXPECT_NE(allocDigestOf(item(4)->path), allocDigestOf(item(3)->path));
 }
 
 INSTANTIATE_TEST_SUITE_P(FileSystems, CloneWorkerOn, ::testing::Values("btrfs", "xfs"),

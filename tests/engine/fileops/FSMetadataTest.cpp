@@ -24,13 +24,6 @@ QByteArray xattr(const QString &path, const char *name)
     return n < 0 ? QByteArray("<none>") : QByteArray(value, n);
 }
 
-struct stat statOf(const QString &path)
-{
-    struct stat st{};
-    lstat(path.toUtf8().constData(), &st);
-    return st;
-}
-
 int inodeFlags(const QString &path)
 {
     const int fd = open(path.toUtf8().constData(), O_RDONLY);

@@ -3,6 +3,7 @@
 #include "support/FileItems.h"
 #include "support/MountedVolume.h"
 #include "support/TempTree.h"
+#include "support/TrashHome.h"
 
 #include <QDir>
 #include <QFile>
@@ -21,33 +22,10 @@ namespace {
 // Every test gets its own home and data folder: the user's real trash is never touched.
 class Trash : public ::testing::Test {
 protected:
-    void SetUp() override
-    {
-        m_oldData = qgetenv("XDG_DATA_HOME");
-        m_oldHome = qgetenv("HOME");
-        qputenv("XDG_DATA_HOME", home.path(QStringLiteral("data")).toUtf8());
-        qputenv("HOME", home.path().toUtf8());
-        trash = home.path(QStringLiteral("data/Trash"));
-    }
-    void TearDown() override
-    {
-        qputenv("XDG_DATA_HOME", m_oldData);
-        qputenv("HOME", m_oldHome);
-    }
-    TempTree home;
+    TrashHome home;
     TempTree files;
-    QString trash;
-
-private:
-    QByteArray m_oldData, m_oldHome;
+    const QString trash = home.trash();
 };
-
-timespec mtimeOf(const QString &path)
-{
-    struct stat st{};
-    lstat(path.toUtf8().constData(), &st);
-    return st.st_mtim;
-}
 
 } // namespace
 
@@ -75,8 +53,8 @@ TEST_F(Trash, MovesToTheHomeTrashWithARecordAndPutsBackExactly)
     item.trashedURL = result.trashedPath;
     ASSERT_TRUE(putBackItem(item).ok());
     EXPECT_EQ(readFile(path), "contents");
-    EXPECT_EQ(mtimeOf(path).tv_sec, 1100000000);
-    EXPECT_EQ(mtimeOf(path).tv_nsec, 222);
+    EXPECT_EQ(statOf(path).st_mtim.tv_sec, 1100000000);
+    EXPECT_EQ(statOf(path).st_mtim.tv_nsec, 222);
     EXPECT_FALSE(hasPutBackAttribute(path)) << "the record goes with a put back from the window";
     EXPECT_FALSE(QFile::exists(trash + QStringLiteral("/info/naïve name.txt.trashinfo")));
     EXPECT_TRUE(item.trashedURL.isEmpty());
