@@ -110,3 +110,14 @@ std::optional<Digest> allocDigestOf(const QString &path)
         close(fd);
     return digest;
 }
+
+int inodeFlagsOf(const QString &path)
+{
+    const int fd = open(path.toUtf8().constData(), O_RDONLY | O_NONBLOCK);
+    int flags = -1;
+    if (fd >= 0 && ioctl(fd, FS_IOC_GETFLAGS, &flags) != 0)
+        flags = -1;
+    if (fd >= 0)
+        close(fd);
+    return flags;
+}

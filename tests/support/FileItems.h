@@ -30,6 +30,7 @@ QString readLinkText(const QString &path);
 // The allocation digest of a file: equal for files that share their extents.
 std::optional<selfsame::Digest> allocDigestOf(const QString &path);
 
+int inodeFlagsOf(const QString &path); // FS_IOC_GETFLAGS, -1 when unreadable
 // Sets or clears FS_IMMUTABLE_FL; false where the file system or the user may not.
 bool setImmutable(const QString &path, bool on);
 

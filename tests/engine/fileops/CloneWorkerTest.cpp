@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <fcntl.h>
+#include <linux/fs.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -145,6 +146,40 @@ TEST_P(CloneWorkerOn, WithoutDedupeMovesAsideClonesRestoresAndRollsBackEachFaili
     char note[4] = {};
     EXPECT_EQ(lgetxattr(path.constData(), "user.note", note, sizeof note), 1);
     EXPECT_EQ(QDir(volume.path(QStringLiteral("a"))).entryList(QDir::Files).size(), 3);
+}
+
+TEST_P(CloneWorkerOn, WriteProtectedAndOtherOwnersFilesComeBackProtectedAndOwned)
+{
+    if (geteuid() != 0)
+        GTEST_SKIP() << "not running as root: cannot give a file to another owner";
+    CloneSteps steps = CloneSteps::real();
+    steps.dedupe = [](const QString &, const QString &) { return EOPNOTSUPP; }; // the move-aside way
+    const QString folder = volume.path(QStringLiteral("a"));
+    chmod(folder.toUtf8().constData(), 0555);
+    const QByteArray locked = item(1)->path.toUtf8();
+    chmod(locked.constData(), 0444);
+    ASSERT_TRUE(setImmutable(item(1)->path, true));
+    item(1)->set(ReadOnly);
+    const QByteArray foreign = item(2)->path.toUtf8();
+    ASSERT_EQ(chown(foreign.constData(), 1234, 4321), 0);
+    item(2)->set(OtherOwner);
+
+    EXPECT_EQ(cloneDuplicate(*item(0), *item(1), true, steps), QString());
+    EXPECT_TRUE(inodeFlagsOf(item(1)->path) & FS_IMMUTABLE_FL) << "the flag came back";
+    setImmutable(item(1)->path, false);
+    EXPECT_EQ(cloneDuplicate(*item(0), *item(2), true, steps), QString());
+    const mode_t folderMode = statOf(folder).st_mode;
+    chmod(folder.toUtf8().constData(), 0755);
+
+    for (int i : {1, 2}) {
+        EXPECT_EQ(readFile(item(i)->path), big);
+        EXPECT_EQ(allocDigestOf(item(i)->path), allocDigestOf(item(0)->path));
+    }
+    EXPECT_EQ(statOf(item(1)->path).st_mode & 07777, 0444u);
+    EXPECT_EQ(statOf(item(2)->path).st_uid, 1234u);
+    EXPECT_EQ(statOf(item(2)->path).st_gid, 4321u);
+    EXPECT_EQ(folderMode & 07777, 0555u);
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files).size(), 3) << "nothing left aside";
 }
 
 TEST_P(CloneWorkerOn, SkipsWhatMustNotBeClonedAndStopsOnChangesAndAborts)

@@ -24,15 +24,6 @@ QByteArray xattr(const QString &path, const char *name)
     return n < 0 ? QByteArray("<none>") : QByteArray(value, n);
 }
 
-int inodeFlags(const QString &path)
-{
-    const int fd = open(path.toUtf8().constData(), O_RDONLY);
-    int flags = -1;
-    ioctl(fd, FS_IOC_GETFLAGS, &flags);
-    close(fd);
-    return flags;
-}
-
 } // namespace
 
 // Everything captured from one file comes back on another made in its place, the way a
@@ -52,7 +43,7 @@ TEST(FSMetadata, ComesBackOnAFileMadeAtTheSamePath)
     if (root) {
         ASSERT_EQ(chown(p.constData(), 1234, 5678), 0);
     }
-    int flags = inodeFlags(path) | FS_NODUMP_FL;
+    int flags = inodeFlagsOf(path) | FS_NODUMP_FL;
     const int fd = open(p.constData(), O_RDONLY);
     const bool flagsSet = ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
     close(fd);
@@ -83,7 +74,7 @@ TEST(FSMetadata, ComesBackOnAFileMadeAtTheSamePath)
         EXPECT_TRUE(xattr(path, "system.posix_acl_access") != "<none>") << "the extended ACL came back";
     }
     if (flagsSet) {
-        EXPECT_TRUE(inodeFlags(path) & FS_NODUMP_FL);
+        EXPECT_TRUE(inodeFlagsOf(path) & FS_NODUMP_FL);
     }
     const struct stat parent = statOf(folder);
     EXPECT_EQ(parent.st_mtim.tv_sec, 1400000000);
