@@ -217,6 +217,19 @@ TEST_P(CloneWorkerOn, SkipsWhatMustNotBeClonedAndStopsOnChangesAndAborts)
     EXPECT_NE(allocDigestOf(item(4)->path), allocDigestOf(item(3)->path));
 }
 
+TEST_P(CloneWorkerOn, DedupesFilesLongerThanOneRequestToTheirLastByte)
+{
+    const QByteArray large = patternBytes((qsizetype(20) << 20) + 1, 4); // btrfs takes 16 MiB per request
+    const QString a = volume.path(QStringLiteral("large-a")), b = volume.path(QStringLiteral("large-b"));
+    writeFile(a, large);
+    writeFile(b, large);
+    sync();
+    ASSERT_EQ(dedupeFile(a, b), 0);
+    EXPECT_EQ(readFile(b), large);
+    ASSERT_TRUE(allocDigestOf(b).has_value());
+    EXPECT_EQ(allocDigestOf(b), allocDigestOf(a));
+}
+
 INSTANTIATE_TEST_SUITE_P(FileSystems, CloneWorkerOn, ::testing::Values("btrfs", "xfs"),
                          [](const auto &info) { return std::string(info.param); });
 
