@@ -10,13 +10,13 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QHash>
-
 #include <cstdio>
 #include <random>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 int make(const QString &root, int groups, int copies, qint64 bytes)
 {
@@ -68,11 +68,12 @@ int clone(const QString &root)
     worker.perform(true, true, true);
     const double cloneSeconds = timer.nsecsElapsed() / 1e9;
     const qsizetype cloned = worker.cloned().size();
-    std::printf("found %lld items in %d groups in %.2f s\n", qlonglong(items.size()), int(groups.size()), searchSeconds);
-    std::printf("planned %d duplicates from %d references, %lld bytes on disk, in %.3f s\n", counts.replaceDuplicates,
-                counts.byClones, qlonglong(counts.ofPhysicalSize), planSeconds);
-    std::printf("cloned %lld duplicates (%lld failed) in %.2f s: %.0f files/s, %.1f MB/s\n", qlonglong(cloned),
-                qlonglong(worker.failures().size()), cloneSeconds, cloned / cloneSeconds,
+    std::printf("found %lld items in %d groups in %.2f s\n", qlonglong(items.size()), int(groups.size()),
+                searchSeconds);
+    std::printf("planned %d duplicates from %d references, %lld bytes on disk, in %.3f s\n",
+                counts.replaceDuplicates, counts.byClones, qlonglong(counts.ofPhysicalSize), planSeconds);
+    std::printf("cloned %lld duplicates (%lld failed) in %.2f s: %.0f files/s, %.1f MB/s\n",
+                qlonglong(cloned), qlonglong(worker.failures().size()), cloneSeconds, cloned / cloneSeconds,
                 counts.ofPhysicalSize / cloneSeconds / 1e6);
     for (const CloneFailure &failure : worker.failures().mid(0, 5))
         std::fprintf(stderr, "failed: %s\n", qPrintable(failure.reason));
@@ -87,8 +88,7 @@ int main(int argc, char *argv[])
     const QStringList args = app.arguments();
     if (args.size() == 6 && args[1] == u"make")
         return make(args[2], args[3].toInt(), args[4].toInt(), args[5].toLongLong());
-    if (args.size() == 3 && args[1] == u"clone")
-        return clone(args[2]);
+    if (args.size() == 3 && args[1] == u"clone") return clone(args[2]);
     std::fprintf(stderr, "usage: selfsame-clone-bench make DIR GROUPS COPIES BYTES | clone DIR\n");
     return 2;
 }

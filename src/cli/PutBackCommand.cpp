@@ -6,9 +6,11 @@
 #include <QCoreApplication>
 #include <QFileInfo>
 
-namespace selfsame::cli {
+namespace selfsame::cli
+{
 
-namespace {
+namespace
+{
 
 QString tr(const char *text)
 {
@@ -22,7 +24,8 @@ int runPutBack(const QStringList &files, const std::function<void(const QByteArr
 {
     if (files.isEmpty()) {
         err(tr("selfsame-cli: put-back needs the files in the trash to put back\n"
-               "Usage: selfsame-cli put-back FILE...\n").toUtf8());
+               "Usage: selfsame-cli put-back FILE...\n")
+                .toUtf8());
         return 2;
     }
     int failures = 0;

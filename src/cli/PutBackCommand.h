@@ -2,10 +2,10 @@
 
 #include <QByteArray>
 #include <QStringList>
-
 #include <functional>
 
-namespace selfsame::cli {
+namespace selfsame::cli
+{
 
 // `selfsame-cli put-back FILE…`: moves files from the trash back to the paths recorded when
 // they were trashed, never over an existing file. Prints one line per file and a summary;

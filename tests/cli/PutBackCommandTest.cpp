@@ -9,12 +9,12 @@
 #include <QFile>
 #include <QProcess>
 #include <QProcessEnvironment>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 struct PutBackRun {
     int exitCode = -1;
@@ -25,8 +25,7 @@ PutBackRun putBack(const QStringList &files, const QString &home)
 {
     static int argc = 1;
     static char name[] = "cli-tests", *argv[] = {name, nullptr};
-    if (!QCoreApplication::instance())
-        new QCoreApplication(argc, argv);
+    if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
     QProcess process;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("HOME"), home);

@@ -3,11 +3,10 @@
 #include "search/Digest.h"
 
 #include <QFile>
-
 #include <fcntl.h>
 #include <linux/fs.h>
-#include <sys/ioctl.h>
 #include <stdexcept>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -16,7 +15,8 @@ using namespace selfsame;
 ResultItem *ItemGroup::add(const QString &path, int group)
 {
     auto item = std::make_unique<ResultItem>();
-    struct stat st{};
+    struct stat st {
+    };
     if (lstat(path.toUtf8().constData(), &st) != 0)
         throw std::runtime_error("no such file " + path.toStdString());
     item->path = path;
@@ -26,12 +26,9 @@ ResultItem *ItemGroup::add(const QString &path, int group)
     item->device = st.st_dev;
     item->inode = st.st_ino;
     item->group = group;
-    if (S_ISDIR(st.st_mode))
-        item->set(IsFolder);
-    if (access(path.toUtf8().constData(), W_OK) != 0)
-        item->set(ReadOnly);
-    if (st.st_uid != geteuid())
-        item->set(OtherOwner);
+    if (S_ISDIR(st.st_mode)) item->set(IsFolder);
+    if (access(path.toUtf8().constData(), W_OK) != 0) item->set(ReadOnly);
+    if (st.st_uid != geteuid()) item->set(OtherOwner);
     if (S_ISREG(st.st_mode)) {
         const int fd = open(path.toUtf8().constData(), O_RDONLY);
         std::vector<qint64> storage;
@@ -57,8 +54,7 @@ QList<ResultItem *> ItemGroup::duplicatesFor(const ResultItem &item) const
 {
     QList<ResultItem *> result;
     for (const auto &other : items)
-        if (other->group == item.group)
-            result.append(other.get());
+        if (other->group == item.group) result.append(other.get());
     return result;
 }
 
@@ -82,14 +78,14 @@ bool setImmutable(const QString &path, bool on)
     bool ok = fd >= 0 && ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
     flags = on ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
     ok = ok && ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
-    if (fd >= 0)
-        close(fd);
+    if (fd >= 0) close(fd);
     return ok;
 }
 
 struct stat statOf(const QString &path)
 {
-    struct stat st{};
+    struct stat st {
+    };
     lstat(path.toUtf8().constData(), &st);
     return st;
 }
@@ -106,8 +102,7 @@ std::optional<Digest> allocDigestOf(const QString &path)
     const int fd = open(path.toUtf8().constData(), O_RDONLY);
     std::vector<qint64> storage;
     auto digest = fd < 0 ? std::nullopt : computeAllocDigest(fd, storage);
-    if (fd >= 0)
-        close(fd);
+    if (fd >= 0) close(fd);
     return digest;
 }
 
@@ -115,9 +110,7 @@ int inodeFlagsOf(const QString &path)
 {
     const int fd = open(path.toUtf8().constData(), O_RDONLY | O_NONBLOCK);
     int flags = -1;
-    if (fd >= 0 && ioctl(fd, FS_IOC_GETFLAGS, &flags) != 0)
-        flags = -1;
-    if (fd >= 0)
-        close(fd);
+    if (fd >= 0 && ioctl(fd, FS_IOC_GETFLAGS, &flags) != 0) flags = -1;
+    if (fd >= 0) close(fd);
     return flags;
 }

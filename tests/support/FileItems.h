@@ -5,11 +5,10 @@
 #include <QByteArray>
 #include <QList>
 #include <QString>
-
 #include <memory>
 #include <optional>
-#include <sys/stat.h>
 #include <ostream>
+#include <sys/stat.h>
 #include <vector>
 
 // Result items for files made by a test, filled from lstat as a search would, with their
@@ -35,4 +34,7 @@ int inodeFlagsOf(const QString &path); // FS_IOC_GETFLAGS, -1 when unreadable
 bool setImmutable(const QString &path, bool on);
 
 // Readable QStrings in failure messages.
-inline void PrintTo(const QString &text, std::ostream *os) { *os << '"' << text.toStdString() << '"'; }
+inline void PrintTo(const QString &text, std::ostream *os)
+{
+    *os << '"' << text.toStdString() << '"';
+}

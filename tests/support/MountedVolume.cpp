@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QProcess>
-
 #include <unistd.h>
 
 bool shell(const QString &script, const QStringList &arguments)
@@ -12,28 +11,29 @@ bool shell(const QString &script, const QStringList &arguments)
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process.setStandardOutputFile(QProcess::nullDevice());
     process.start(QStringLiteral("sh"), command + arguments);
-    return process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+    return process.waitForFinished(120000) && process.exitStatus() == QProcess::NormalExit &&
+           process.exitCode() == 0;
 }
 
 QString MountedVolume::mount()
 {
-    if (geteuid() != 0)
-        return QStringLiteral("not running as root: cannot mount a %1 volume").arg(m_type);
+    if (geteuid() != 0) return QStringLiteral("not running as root: cannot mount a %1 volume").arg(m_type);
     m_mountPoint = m_tree.folder(QStringLiteral("mnt"));
     if (m_type == u"tmpfs") {
         m_mounted = shell(QStringLiteral("mount -t tmpfs -o size=64m tmpfs \"$0\""), {m_mountPoint});
     } else {
         const QString image = m_tree.file(QStringLiteral("volume.img"), {});
         const QString format = m_type == u"xfs" ? QStringLiteral("mkfs.xfs -q -m reflink=1 \"$0\"")
-                                                 : QStringLiteral("mkfs.btrfs -q \"$0\"");
+                                                : QStringLiteral("mkfs.btrfs -q \"$0\"");
         m_mounted = QFile::resize(image, qint64(320) << 20) &&
                     shell(format + QStringLiteral(" && mount -o loop \"$0\" \"$1\""), {image, m_mountPoint});
     }
-    return m_mounted ? QString() : QStringLiteral("could not make and mount a %1 volume (no mkfs or loop device?)").arg(m_type);
+    return m_mounted
+               ? QString()
+               : QStringLiteral("could not make and mount a %1 volume (no mkfs or loop device?)").arg(m_type);
 }
 
 MountedVolume::~MountedVolume()
 {
-    if (m_mounted)
-        shell(QStringLiteral("umount \"$0\" || umount -l \"$0\""), {m_mountPoint});
+    if (m_mounted) shell(QStringLiteral("umount \"$0\" || umount -l \"$0\""), {m_mountPoint});
 }

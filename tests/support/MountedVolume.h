@@ -8,7 +8,8 @@
 // A file system mounted for one test inside a temporary tree, and always unmounted:
 // "btrfs" and "xfs" on a loop-mounted image, "tmpfs" directly. mount() says why it could
 // not mount, for GTEST_SKIP.
-class MountedVolume {
+class MountedVolume
+{
 public:
     explicit MountedVolume(QString type) : m_type(std::move(type)) {}
     ~MountedVolume();
@@ -17,7 +18,10 @@ public:
 
     // Empty on success, else why not.
     QString mount();
-    QString path(const QString &rel = {}) const { return rel.isEmpty() ? m_mountPoint : m_mountPoint + u'/' + rel; }
+    QString path(const QString &rel = {}) const
+    {
+        return rel.isEmpty() ? m_mountPoint : m_mountPoint + u'/' + rel;
+    }
 
 private:
     QString m_type;

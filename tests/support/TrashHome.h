@@ -7,7 +7,8 @@
 
 // Points HOME and XDG_DATA_HOME at a temporary folder for as long as it lives, so that
 // nothing a test moves to the trash ever reaches the user's own trash.
-class TrashHome {
+class TrashHome
+{
 public:
     TrashHome();
     ~TrashHome();

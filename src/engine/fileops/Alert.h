@@ -3,7 +3,8 @@
 #include <QString>
 #include <QStringList>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // What a window needs to show one alert. Answer codes are 1000 + the button's index.
 struct Alert {

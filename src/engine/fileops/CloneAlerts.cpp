@@ -5,9 +5,11 @@
 
 #include <QCoreApplication>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QString tr(const char *text)
 {
@@ -24,19 +26,25 @@ QString count(qint64 n)
 Alert compareFoldersCloneAlert()
 {
     Alert alert{tr("Folder comparison was enabled"),
-                tr("You might clone more duplicate files if folder comparison is turned off in the initial search.\n\n"
+                tr("You might clone more duplicate files if folder comparison is turned off in the initial "
+                   "search.\n\n"
                    "For example, a file that exists in a duplicate folder might also exist separately."),
-                {tr("Continue"), tr("Cancel")}, 0, 1};
+                {tr("Continue"), tr("Cancel")},
+                0,
+                1};
     alert.suppressible = true;
     return alert;
 }
 
 Alert noClonableFileAlert()
 {
-    return Alert{tr("No file among the selection can be cloned"),
-                 tr("The selection should contain at least two duplicate files.\n\nThe files should have write "
-                    "permission, they should not already be clone files, and they should be on the same APFS volume."),
-                 {tr("Cancel")}, 0, 0};
+    return Alert{
+        tr("No file among the selection can be cloned"),
+        tr("The selection should contain at least two duplicate files.\n\nThe files should have write "
+           "permission, they should not already be clone files, and they should be on the same APFS volume."),
+        {tr("Cancel")},
+        0,
+        0};
 }
 
 Alert cloneConfirmationAlert(const CloneCounts &c)
@@ -46,7 +54,8 @@ Alert cloneConfirmationAlert(const CloneCounts &c)
         what = c.singleFilenameToReplace.isEmpty() ? tr("1 duplicate among the selected files")
                                                    : tr("“%1”").arg(c.singleFilenameToReplace);
     else
-        what = (c.onAllFoundFiles ? tr("%1 duplicates among all found files") : tr("%1 duplicates among the selected files"))
+        what = (c.onAllFoundFiles ? tr("%1 duplicates among all found files")
+                                  : tr("%1 duplicates among the selected files"))
                    .arg(count(c.replaceDuplicates));
     const QString clones = c.replaceDuplicates == 1 ? tr("a clone") : tr("clones");
     QString of;
@@ -54,30 +63,39 @@ Alert cloneConfirmationAlert(const CloneCounts &c)
         of = c.singleFilenameToClone.isEmpty() ? tr("1 file") : tr("“%1”").arg(c.singleFilenameToClone);
     else
         of = tr("%1 different files").arg(count(c.byClones));
-    return Alert{tr("Do you want to replace %1, by %2 of %3? %4 on disk will be reclaimed.")
-                     .arg(what, clones, of, formatByteCount(c.ofPhysicalSize)),
-                 tr("Creation and modification dates, Finder tags and comments, and other metadata will be preserved. "
-                    "Clone files do not use disk space, until their contents gets changed."),
-                 {tr("Clone"), tr("Cancel"), tr("View Cloning Plan")}, 0, 1};
+    return Alert{
+        tr("Do you want to replace %1, by %2 of %3? %4 on disk will be reclaimed.")
+            .arg(what, clones, of, formatByteCount(c.ofPhysicalSize)),
+        tr("Creation and modification dates, Finder tags and comments, and other metadata will be preserved. "
+           "Clone files do not use disk space, until their contents gets changed."),
+        {tr("Clone"), tr("Cancel"), tr("View Cloning Plan")},
+        0,
+        1};
 }
 
 Alert writeProtectedCloneAlert(int n)
 {
     Alert alert{tr("Warning: write-protected files"),
                 tr("%1 files to be cloned are write-protected. As you own these files, you may bypass "
-                   "write-protection.\n\nDo you want to clone them anyway?").arg(count(n)),
-                {tr("Skip Them"), tr("Clone Them"), tr("Cancel")}, 0, 2};
+                   "write-protection.\n\nDo you want to clone them anyway?")
+                    .arg(count(n)),
+                {tr("Skip Them"), tr("Clone Them"), tr("Cancel")},
+                0,
+                2};
     alert.suppressible = true;
     return alert;
 }
 
 Alert otherOwnerCloneAlert(int n)
 {
-    return Alert{tr("Warning: other file owner"),
-                 tr("%1 files are owned by another user account. File permissions allow you to modify them, but "
-                    "replacing them by clones will set you as the file owner.\n\nDo you want to clone them anyway?")
-                     .arg(count(n)),
-                 {tr("Skip Them"), tr("Clone and Change Owner"), tr("Cancel")}, 0, 2};
+    return Alert{
+        tr("Warning: other file owner"),
+        tr("%1 files are owned by another user account. File permissions allow you to modify them, but "
+           "replacing them by clones will set you as the file owner.\n\nDo you want to clone them anyway?")
+            .arg(count(n)),
+        {tr("Skip Them"), tr("Clone and Change Owner"), tr("Cancel")},
+        0,
+        2};
 }
 
 QString cloneProgressText(bool perform)

@@ -3,7 +3,8 @@
 #include "fileops/Alert.h"
 #include "fileops/CloneWorker.h"
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The texts around replacing duplicates by clones, built from the planning pass's counts.
 Alert compareFoldersCloneAlert();

@@ -1,30 +1,29 @@
 #include "fileops/CloneItem.h"
 
 #include <cerrno>
+#include <cstring>
 #include <dirent.h>
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <string>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
-#include <cstring>
-#include <string>
 #include <vector>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 int copyData(int from, int to, off_t size)
 {
     off_t done = 0;
     while (done < size) {
         const ssize_t n = copy_file_range(from, nullptr, to, nullptr, std::size_t(size - done), 0);
-        if (n < 0)
-            return errno;
-        if (n == 0)
-            return EIO; // the source shrank under us
+        if (n < 0) return errno;
+        if (n == 0) return EIO; // the source shrank under us
         done += n;
     }
     return 0;
@@ -34,43 +33,37 @@ int copyData(int from, int to, off_t size)
 int cloneFileAt(int sourceDir, const char *sourceName, int destDir, const char *destName, bool allowCopy)
 {
     const int from = openat(sourceDir, sourceName, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
-    if (from < 0)
-        return errno;
-    struct stat st{};
+    if (from < 0) return errno;
+    struct stat st {
+    };
     if (fstat(from, &st) != 0 || !S_ISREG(st.st_mode)) {
         const int error = errno ? errno : EINVAL;
         close(from);
         return error;
     }
-    const int to = openat(destDir, destName, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC,
-                          st.st_mode & 07777);
+    const int to =
+        openat(destDir, destName, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, st.st_mode & 07777);
     if (to < 0) {
         const int error = errno;
         close(from);
         return error;
     }
     int error = ioctl(to, FICLONE, from) == 0 ? 0 : errno;
-    if (error && allowCopy)
-        error = copyData(from, to, st.st_size);
+    if (error && allowCopy) error = copyData(from, to, st.st_size);
     if (!error && fchmod(to, st.st_mode & 07777) != 0) // the umask may have cut the bits
         error = errno;
     close(from);
-    if (close(to) != 0 && !error)
-        error = errno;
-    if (error)
-        unlinkat(destDir, destName, 0);
+    if (close(to) != 0 && !error) error = errno;
+    if (error) unlinkat(destDir, destName, 0);
     return error;
 }
 
 int removeAt(int dir, const char *name)
 {
-    if (unlinkat(dir, name, 0) == 0)
-        return 0;
-    if (errno != EISDIR && errno != EPERM)
-        return errno;
+    if (unlinkat(dir, name, 0) == 0) return 0;
+    if (errno != EISDIR && errno != EPERM) return errno;
     const int fd = openat(dir, name, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    if (fd < 0)
-        return errno;
+    if (fd < 0) return errno;
     DIR *d = fdopendir(fd);
     if (!d) {
         const int error = errno;
@@ -85,21 +78,19 @@ int removeAt(int dir, const char *name)
     }
     for (const std::string &child : names) {
         const int e = removeAt(dirfd(d), child.c_str());
-        if (e && !error)
-            error = e;
+        if (e && !error) error = e;
     }
     closedir(d);
-    if (!error && unlinkat(dir, name, AT_REMOVEDIR) != 0)
-        error = errno;
+    if (!error && unlinkat(dir, name, AT_REMOVEDIR) != 0) error = errno;
     return error;
 }
 
 int cloneFolderAt(int sourceDir, const char *sourceName, int destDir, const char *destName)
 {
     const int from = openat(sourceDir, sourceName, O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-    if (from < 0)
-        return errno;
-    struct stat st{};
+    if (from < 0) return errno;
+    struct stat st {
+    };
     fstat(from, &st);
     if (mkdirat(destDir, destName, 0700) != 0) {
         const int error = errno;
@@ -116,9 +107,9 @@ int cloneFolderAt(int sourceDir, const char *sourceName, int destDir, const char
             error = errno;
             break;
         }
-        if (std::strcmp(e->d_name, ".") == 0 || std::strcmp(e->d_name, "..") == 0)
-            continue;
-        struct stat child{};
+        if (std::strcmp(e->d_name, ".") == 0 || std::strcmp(e->d_name, "..") == 0) continue;
+        struct stat child {
+        };
         if (fstatat(from, e->d_name, &child, AT_SYMLINK_NOFOLLOW) != 0) {
             error = errno;
         } else if (S_ISDIR(child.st_mode)) {
@@ -133,16 +124,13 @@ int cloneFolderAt(int sourceDir, const char *sourceName, int destDir, const char
             error = ENOTSUP; // devices, sockets and pipes are not content
         }
     }
-    if (!error && fchmod(to, st.st_mode & 07777) != 0)
-        error = errno;
+    if (!error && fchmod(to, st.st_mode & 07777) != 0) error = errno;
     if (d)
         closedir(d);
     else
         close(from);
-    if (to >= 0)
-        close(to);
-    if (error)
-        removeAt(destDir, destName);
+    if (to >= 0) close(to);
+    if (error) removeAt(destDir, destName);
     return error;
 }
 
@@ -160,15 +148,13 @@ int renameNoReplace(const QString &from, const QString &to)
 {
     const QByteArray f = from.toUtf8();
     const QByteArray t = to.toUtf8();
-    if (renameat2(AT_FDCWD, f.constData(), AT_FDCWD, t.constData(), RENAME_NOREPLACE) == 0)
-        return 0;
-    if (errno != EINVAL && errno != ENOSYS)
-        return errno;
+    if (renameat2(AT_FDCWD, f.constData(), AT_FDCWD, t.constData(), RENAME_NOREPLACE) == 0) return 0;
+    if (errno != EINVAL && errno != ENOSYS) return errno;
     // A file system without RENAME_NOREPLACE: check, then rename (a narrow race, never a
     // silent overwrite of something that was already there).
-    struct stat st{};
-    if (lstat(t.constData(), &st) == 0)
-        return EEXIST;
+    struct stat st {
+    };
+    if (lstat(t.constData(), &st) == 0) return EEXIST;
     return rename(f.constData(), t.constData()) == 0 ? 0 : errno;
 }
 

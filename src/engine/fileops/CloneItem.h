@@ -2,7 +2,8 @@
 
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // Makes `destination` (which must not exist) a copy-on-write clone of `source` with FICLONE.
 // A file is cloned or nothing is made; a folder is cloned file by file, falling back to a

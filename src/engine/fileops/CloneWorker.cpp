@@ -10,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QSet>
-
 #include <algorithm>
 #include <cstring>
 #include <fcntl.h>
@@ -20,9 +19,11 @@
 #include <sys/vfs.h>
 #include <unistd.h>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QString tr(const char *text)
 {
@@ -37,8 +38,7 @@ QString errorText(int error)
 void clearInodeFlags(const QString &path)
 {
     const int fd = open(path.toUtf8().constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (fd < 0)
-        return;
+    if (fd < 0) return;
     int flags = 0;
     ioctl(fd, FS_IOC_SETFLAGS, &flags);
     close(fd);
@@ -48,11 +48,11 @@ void clearInodeFlags(const QString &path)
 // writable folder when it is ours. The snapshot puts everything back.
 void liftWriteProtection(const QString &path, const FSMetadata &snapshot)
 {
-    if (snapshot.permissions)
-        chmod(path.toUtf8().constData(), (*snapshot.permissions | 0200) & 07777);
+    if (snapshot.permissions) chmod(path.toUtf8().constData(), (*snapshot.permissions | 0200) & 07777);
     clearInodeFlags(path);
     const QByteArray folder = parentFolder(path).toUtf8();
-    struct stat st{};
+    struct stat st {
+    };
     if (stat(folder.constData(), &st) == 0 && st.st_uid == geteuid())
         chmod(folder.constData(), (st.st_mode | 0200) & 07777);
 }
@@ -64,8 +64,7 @@ QString cloneByMovingAside(const ResultItem &reference, const ResultItem &duplic
     if (!duplicate.has(IsFolder) && !sameContent(reference.path, path))
         return tr("“%1” no longer has the content of “%2”").arg(path, reference.path);
     const FSMetadata snapshot = captureFSMetadata(path);
-    if (duplicate.has(ReadOnly))
-        liftWriteProtection(path, snapshot);
+    if (duplicate.has(ReadOnly)) liftWriteProtection(path, snapshot);
     const QString aside = besidePath(path);
     if (const int error = steps.moveAside(path, aside)) {
         restoreFSMetadata(path, snapshot);
@@ -73,7 +72,8 @@ QString cloneByMovingAside(const ResultItem &reference, const ResultItem &duplic
     }
     // The original is safe aside only if it is really there; never remove what holds its path otherwise.
     auto asideExists = [&] {
-        struct stat st{};
+        struct stat st {
+        };
         return lstat(aside.toUtf8().constData(), &st) == 0;
     };
     auto rollBack = [&] {
@@ -87,20 +87,22 @@ QString cloneByMovingAside(const ResultItem &reference, const ResultItem &duplic
         }
         return tr("“%1” could not be cloned from “%2”: %3").arg(path, reference.path, errorText(error));
     }
-    struct stat st{};
+    struct stat st {
+    };
     if (stat(path.toUtf8().constData(), &st) == 0)
         chmod(path.toUtf8().constData(), (st.st_mode | 0200) & 07777);
     unsigned failed = steps.restore(path, snapshot);
     // Another owner's file becomes ours when we may not give it back: the user accepted that.
-    if (changeOwner && duplicate.has(OtherOwner))
-        failed &= ~unsigned(RestoreOwner);
+    if (changeOwner && duplicate.has(OtherOwner)) failed &= ~unsigned(RestoreOwner);
     if (failed && asideExists()) {
         removeItem(path);
         rollBack();
-        return tr("The metadata of “%1” could not be carried over to its clone; it was left as it was").arg(path);
+        return tr("The metadata of “%1” could not be carried over to its clone; it was left as it was")
+            .arg(path);
     }
     if (const int error = removeItem(aside))
-        return tr("“%1” was cloned, but its former copy “%2” could not be removed: %3").arg(path, aside, errorText(error));
+        return tr("“%1” was cloned, but its former copy “%2” could not be removed: %3")
+            .arg(path, aside, errorText(error));
     restoreParentFolder(path, snapshot);
     return {};
 }
@@ -118,22 +120,24 @@ QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, cons
 {
     QList<ResultItem *> kept;
     const QByteArray ref = reference.path.toUtf8();
-    struct statfs fs{};
-    struct stat rs{};
-    if (statfs(ref.constData(), &fs) != 0 || !isCloneCapableFileSystem(long(fs.f_type)) || lstat(ref.constData(), &rs) != 0)
+    struct statfs fs {
+    };
+    struct stat rs {
+    };
+    if (statfs(ref.constData(), &fs) != 0 || !isCloneCapableFileSystem(long(fs.f_type)) ||
+        lstat(ref.constData(), &rs) != 0)
         return kept;
     for (ResultItem *d : duplicates) {
-        if (d->has(ReadOnly) && (!overideReadOnlyIfSameOwner || d->has(OtherOwner)))
+        if (d->has(ReadOnly) && (!overideReadOnlyIfSameOwner || d->has(OtherOwner))) continue;
+        if (d->has(OtherOwner) && !changeOwner) continue;
+        struct stat ds {
+        };
+        if (d->path == reference.path || lstat(d->path.toUtf8().constData(), &ds) != 0 ||
+            ds.st_dev != rs.st_dev || ds.st_ino == rs.st_ino)
             continue;
-        if (d->has(OtherOwner) && !changeOwner)
-            continue;
-        struct stat ds{};
-        if (d->path == reference.path || lstat(d->path.toUtf8().constData(), &ds) != 0 || ds.st_dev != rs.st_dev ||
-            ds.st_ino == rs.st_ino)
-            continue;
-        if (d->has(HasAllocDigest) && reference.has(HasAllocDigest) && d->allocDigest == reference.allocDigest) {
-            if (!previousClones.contains(d))
-                previousClones.append(d);
+        if (d->has(HasAllocDigest) && reference.has(HasAllocDigest) &&
+            d->allocDigest == reference.allocDigest) {
+            if (!previousClones.contains(d)) previousClones.append(d);
             continue;
         }
         kept.append(d);
@@ -141,28 +145,29 @@ QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, cons
     return kept;
 }
 
-QString cloneDuplicate(const ResultItem &reference, const ResultItem &duplicate, bool changeOwner, const CloneSteps &steps)
+QString cloneDuplicate(const ResultItem &reference, const ResultItem &duplicate, bool changeOwner,
+                       const CloneSteps &steps)
 {
-    if (QString changed = changedSinceSearch(duplicate); !changed.isEmpty())
-        return changed;
-    if (QString changed = changedSinceSearch(reference); !changed.isEmpty())
-        return changed;
+    if (QString changed = changedSinceSearch(duplicate); !changed.isEmpty()) return changed;
+    if (QString changed = changedSinceSearch(reference); !changed.isEmpty()) return changed;
     if (!duplicate.has(IsFolder)) {
         const int shared = steps.dedupe(reference.path, duplicate.path);
-        if (shared == 0)
-            return {};
+        if (shared == 0) return {};
         if (shared == kContentDiffers)
             return tr("“%1” no longer has the content of “%2”").arg(duplicate.path, reference.path);
     }
     return cloneByMovingAside(reference, duplicate, changeOwner, steps);
 }
 
-CloneWorker::CloneWorker(QList<ResultItem *> targets, QList<ResultItem *> mainItems, DuplicatesFor duplicatesFor)
-    : m_targets(std::move(targets)), m_mainItems(std::move(mainItems)), m_duplicatesFor(std::move(duplicatesFor))
+CloneWorker::CloneWorker(QList<ResultItem *> targets, QList<ResultItem *> mainItems,
+                         DuplicatesFor duplicatesFor)
+    : m_targets(std::move(targets)), m_mainItems(std::move(mainItems)),
+      m_duplicatesFor(std::move(duplicatesFor))
 {
 }
 
-bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool changeOwner, CloneCounts *counts)
+bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool changeOwner,
+                          CloneCounts *counts)
 {
     CloneCounts local;
     CloneCounts &c = counts ? *counts : local;
@@ -174,7 +179,8 @@ bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool ch
         items = m_mainItems;
         c.onAllFoundFiles = true;
     }
-    std::stable_sort(items.begin(), items.end(), [](const ResultItem *a, const ResultItem *b) { return a->size > b->size; });
+    std::stable_sort(items.begin(), items.end(),
+                     [](const ResultItem *a, const ResultItem *b) { return a->size > b->size; });
     const QSet<ResultItem *> among(items.begin(), items.end());
 
     QFile plan;
@@ -185,31 +191,27 @@ bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool ch
             const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
             const QString base = runtime.isEmpty() || !QDir(runtime).exists() ? QDir::tempPath() : runtime;
             m_planFolder = std::make_unique<QTemporaryDir>(base + QStringLiteral("/Selfsame-XXXXXX"));
-            if (m_planFolder->isValid())
-                path = m_planFolder->filePath(QStringLiteral("Selfsame.log"));
+            if (m_planFolder->isValid()) path = m_planFolder->filePath(QStringLiteral("Selfsame.log"));
         }
         plan.setFileName(path);
-        if (!path.isEmpty() && plan.open(QIODevice::WriteOnly | QIODevice::Truncate))
-            m_logFilePath = path;
+        if (!path.isEmpty() && plan.open(QIODevice::WriteOnly | QIODevice::Truncate)) m_logFilePath = path;
     }
 
     QSet<ResultItem *> done;
     QList<ResultItem *> alreadyClones;
     for (qsizetype i = 0; i < items.size(); ++i) {
-        if (progress && !progress(int(i), int(items.size())))
-            return false;
+        if (progress && !progress(int(i), int(items.size()))) return false;
         ResultItem *r = items[i];
-        if (done.contains(r) || alreadyClones.contains(r))
-            continue;
+        if (done.contains(r) || alreadyClones.contains(r)) continue;
         const QList<ResultItem *> candidates =
             filterDuplicates(m_duplicatesFor(*r), *r, overideReadOnlyIfSameOwner, changeOwner, alreadyClones);
         bool produced = false;
         for (ResultItem *d : candidates) {
-            if (done.contains(d) || !among.contains(d))
-                continue;
+            if (done.contains(d) || !among.contains(d)) continue;
             if (!perform && plan.isOpen()) {
                 if (!produced)
-                    plan.write(QString::asprintf("%s (%s on disk) will be cloned to:\n", r->path.toUtf8().constData(),
+                    plan.write(QString::asprintf("%s (%s on disk) will be cloned to:\n",
+                                                 r->path.toUtf8().constData(),
                                                  formatByteCount(r->physicalSize).toUtf8().constData())
                                    .toUtf8());
                 const bool writeProtected = d->has(ReadOnly) && !d->has(OtherOwner);

@@ -7,11 +7,11 @@
 #include <QList>
 #include <QString>
 #include <QTemporaryDir>
-
 #include <functional>
 #include <memory>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // What a pass of the worker planned or did.
 struct CloneCounts {
@@ -19,8 +19,8 @@ struct CloneCounts {
     int replaceDuplicates = 0;
     qint64 ofPhysicalSize = 0;
     int byClones = 0;
-    int writeProtected = 0; // counted only while a plan file is written
-    int otherOwner = 0;     // likewise
+    int writeProtected = 0;          // counted only while a plan file is written
+    int otherOwner = 0;              // likewise
     QString singleFilenameToReplace; // when replaceDuplicates is 1
     QString singleFilenameToClone;   // when byClones is 1
 };
@@ -54,7 +54,8 @@ QString cloneDuplicate(const ResultItem &reference, const ResultItem &duplicate,
                        const CloneSteps &steps);
 
 // Replaces duplicates by clones in two passes: planning (counts and a plan file) and cloning.
-class CloneWorker {
+class CloneWorker
+{
 public:
     CloneWorker(QList<ResultItem *> targets, QList<ResultItem *> mainItems, DuplicatesFor duplicatesFor);
 
@@ -66,9 +67,10 @@ public:
     QString planPath;
 
     // Returns false when aborted. The planning pass (perform false) changes no file.
-    bool perform(bool perform, bool overideReadOnlyIfSameOwner, bool changeOwner, CloneCounts *counts = nullptr);
+    bool perform(bool perform, bool overideReadOnlyIfSameOwner, bool changeOwner,
+                 CloneCounts *counts = nullptr);
 
-    QString logFilePath() const { return m_logFilePath; } // plan of the last planning pass
+    QString logFilePath() const { return m_logFilePath; }          // plan of the last planning pass
     const QList<ResultItem *> &cloned() const { return m_cloned; } // items to show as "cloned"
     const QList<CloneFailure> &failures() const { return m_failures; }
 

@@ -1,20 +1,20 @@
 #include "fileops/Dedupe.h"
 
+#include <QtGlobal>
+#include <algorithm>
 #include <cerrno>
+#include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include <QtGlobal>
+namespace selfsame
+{
 
-#include <algorithm>
-#include <cstring>
-
-namespace selfsame {
-
-namespace {
+namespace
+{
 
 // btrfs takes at most 16 MiB per request; others take more, but not less.
 constexpr off_t kDedupeChunk = off_t(16) << 20;
@@ -22,7 +22,8 @@ constexpr off_t kDedupeChunk = off_t(16) << 20;
 int dedupeOpen(int source, int dest, off_t size)
 {
     // The request ends in a flexible array: room for one destination.
-    alignas(file_dedupe_range) unsigned char buffer[sizeof(file_dedupe_range) + sizeof(file_dedupe_range_info)];
+    alignas(
+        file_dedupe_range) unsigned char buffer[sizeof(file_dedupe_range) + sizeof(file_dedupe_range_info)];
     for (off_t offset = 0; offset < size;) {
         std::memset(buffer, 0, sizeof buffer);
         auto *range = reinterpret_cast<file_dedupe_range *>(buffer);
@@ -32,14 +33,10 @@ int dedupeOpen(int source, int dest, off_t size)
         file_dedupe_range_info &info = range->info[0];
         info.dest_fd = dest;
         info.dest_offset = quint64(offset);
-        if (ioctl(source, FIDEDUPERANGE, range) != 0)
-            return errno;
-        if (info.status == FILE_DEDUPE_RANGE_DIFFERS)
-            return kContentDiffers;
-        if (info.status < 0)
-            return -info.status;
-        if (info.bytes_deduped == 0)
-            return EINVAL;
+        if (ioctl(source, FIDEDUPERANGE, range) != 0) return errno;
+        if (info.status == FILE_DEDUPE_RANGE_DIFFERS) return kContentDiffers;
+        if (info.status < 0) return -info.status;
+        if (info.bytes_deduped == 0) return EINVAL;
         offset += off_t(info.bytes_deduped);
     }
     return 0;
@@ -50,8 +47,7 @@ int dedupeOpen(int source, int dest, off_t size)
 int dedupeFile(const QString &reference, const QString &duplicate)
 {
     const int source = open(reference.toUtf8().constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
-    if (source < 0)
-        return errno;
+    if (source < 0) return errno;
     // Read-only is enough for the owner; the kernel checks the right to share.
     const int dest = open(duplicate.toUtf8().constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
     if (dest < 0) {
@@ -59,18 +55,20 @@ int dedupeFile(const QString &reference, const QString &duplicate)
         close(source);
         return error;
     }
-    struct stat from{}, to{};
+    struct stat from {
+    }, to{};
     int error = fstat(source, &from) != 0 || fstat(dest, &to) != 0 ? errno : 0;
     if (!error && (!S_ISREG(from.st_mode) || !S_ISREG(to.st_mode)))
         error = EINVAL;
     else if (!error && from.st_size != to.st_size)
         error = kContentDiffers;
-    if (!error)
-        error = dedupeOpen(source, dest, to.st_size);
+    if (!error) error = dedupeOpen(source, dest, to.st_size);
     // Sharing is no change of content: the dates stay as they were.
-    struct stat after{};
-    if (fstat(dest, &after) == 0 && (after.st_mtim.tv_sec != to.st_mtim.tv_sec || after.st_mtim.tv_nsec != to.st_mtim.tv_nsec ||
-                                     after.st_atim.tv_sec != to.st_atim.tv_sec || after.st_atim.tv_nsec != to.st_atim.tv_nsec)) {
+    struct stat after {
+    };
+    if (fstat(dest, &after) == 0 &&
+        (after.st_mtim.tv_sec != to.st_mtim.tv_sec || after.st_mtim.tv_nsec != to.st_mtim.tv_nsec ||
+         after.st_atim.tv_sec != to.st_atim.tv_sec || after.st_atim.tv_nsec != to.st_atim.tv_nsec)) {
         const timespec times[2] = {to.st_atim, to.st_mtim};
         futimens(dest, times);
     }

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // dedupeFile's answer when the kernel found the bytes different.
 inline constexpr int kContentDiffers = -1;

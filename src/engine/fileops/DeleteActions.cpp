@@ -9,12 +9,13 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QUuid>
-
 #include <cstring>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QString errorText(int error)
 {
@@ -26,15 +27,12 @@ QString removeOnly(DeleteKind kind, ResultItem &item, int mode, DeleteOutcome &o
 {
     if (kind == DeleteKind::Trash) {
         const TrashResult trashed = trashItem(item.path);
-        if (trashed.trashedPath.isEmpty())
-            return trashed.errorText;
+        if (trashed.trashedPath.isEmpty()) return trashed.errorText;
         outcome.status = statusImageName(true, mode);
-        if (outcome.status == QStringLiteral("trashed"))
-            item.trashedURL = trashed.trashedPath;
+        if (outcome.status == QStringLiteral("trashed")) item.trashedURL = trashed.trashedPath;
         return {};
     }
-    if (const int error = removeItem(item.path))
-        return errorText(error);
+    if (const int error = removeItem(item.path)) return errorText(error);
     item.set(Deleted);
     outcome.status = statusImageName(false, mode);
     return {};
@@ -72,7 +70,8 @@ QString besidePath(const QString &path)
     return path + u'_' + QUuid::createUuid().toString(QUuid::WithoutBraces);
 }
 
-DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference, const QList<ResultItem *> &targets)
+DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference,
+                                 const QList<ResultItem *> &targets)
 {
     DeleteReport report;
     const bool replacing = reference && mode >= ReplaceWithAlias && mode <= ReplaceWithClone;
@@ -88,8 +87,7 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
             outcome.error = why;
             ++report.removalFailures;
             report.lastErrorText = why;
-            if (report.firstFailedPath.isEmpty())
-                report.firstFailedPath = item->path;
+            if (report.firstFailedPath.isEmpty()) report.firstFailedPath = item->path;
         };
         auto replacementFailed = [&](const QString &why) {
             outcome.error = why;
@@ -98,8 +96,7 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
             report.lastDeleted = item->path;
         };
         QString changed = changedSinceSearch(*item);
-        if (changed.isEmpty() && replacing)
-            changed = changedSinceSearch(*reference);
+        if (changed.isEmpty() && replacing) changed = changedSinceSearch(*reference);
         // Deleted for good and replaced: the bytes must really be the reference's.
         if (changed.isEmpty() && replacing && kind == DeleteKind::Delete && !item->has(IsFolder) &&
             !sameContent(reference->path, item->path))
@@ -111,31 +108,34 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
             if (const QString error = removeOnly(kind, *item, mode, outcome); !error.isEmpty())
                 removalFailed(error);
         } else {
-            const FSMetadata snapshot = mode == ReplaceWithClone ? captureFSMetadata(item->path) : FSMetadata{};
+            const FSMetadata snapshot =
+                mode == ReplaceWithClone ? captureFSMetadata(item->path) : FSMetadata{};
             const QString staged = besidePath(item->path);
             QString error;
             QString away;
             if (const int e = makeReplacement(mode, reference->path, staged, reference->has(IsFolder))) {
-                replacementFailed(QCoreApplication::translate("DeleteActions", "The replacement could not be made: %1")
-                                      .arg(errorText(e)));
+                replacementFailed(
+                    QCoreApplication::translate("DeleteActions", "The replacement could not be made: %1")
+                        .arg(errorText(e)));
             } else if (away = takeAway(kind, item->path, &error); away.isEmpty()) {
                 removeItem(staged);
                 removalFailed(error);
             } else if (const int e = renameNoReplace(staged, item->path)) {
                 bringBack(kind, away, item->path);
                 removeItem(staged);
-                replacementFailed(QCoreApplication::translate("DeleteActions", "The replacement could not be put in place: %1")
+                replacementFailed(QCoreApplication::translate("DeleteActions",
+                                                              "The replacement could not be put in place: %1")
                                       .arg(errorText(e)));
             } else {
                 if (kind == DeleteKind::Delete) {
                     if (const int e = removeItem(away))
-                        outcome.error = QCoreApplication::translate("DeleteActions", "“%1” could not be removed: %2")
-                                            .arg(away, errorText(e));
+                        outcome.error =
+                            QCoreApplication::translate("DeleteActions", "“%1” could not be removed: %2")
+                                .arg(away, errorText(e));
                     item->set(Deleted);
                 }
                 // Last, so that the folder's modification time is the one from before.
-                if (mode == ReplaceWithClone)
-                    restoreFSMetadata(item->path, snapshot);
+                if (mode == ReplaceWithClone) restoreFSMetadata(item->path, snapshot);
                 outcome.status = statusImageName(kind == DeleteKind::Trash, mode);
             }
         }

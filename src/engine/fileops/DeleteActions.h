@@ -5,21 +5,22 @@
 #include <QList>
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 enum class DeleteKind { Trash, Delete };
 
 struct DeleteOutcome {
     ResultItem *item = nullptr;
-    QString status;  // status image name to show; empty when the item was not touched
-    QString error;   // why it failed, when it did
+    QString status;       // status image name to show; empty when the item was not touched
+    QString error;        // why it failed, when it did
     bool skipped = false; // already in the trash or deleted
 };
 
 struct DeleteReport {
     QList<DeleteOutcome> outcomes;
-    int removalFailures = 0;     // not moved to the trash, or not deleted
-    int replacementFailures = 0; // replacement not made; the file was left where it was
+    int removalFailures = 0;            // not moved to the trash, or not deleted
+    int replacementFailures = 0;        // replacement not made; the file was left where it was
     QString lastReference, lastDeleted; // paths of the last replacement failure
     QString lastErrorText;              // of the last removal failure
     QString firstFailedPath;
@@ -32,7 +33,8 @@ struct DeleteReport {
 // first, then swapped in: when any step fails the file stays where it was, unchanged.
 // Marks the items: trashedURL for a plain move to the trash, the Deleted flag after deletion.
 // Without a reference the items are removed and given the mode's status, as asked.
-DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference, const QList<ResultItem *> &targets);
+DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference,
+                                 const QList<ResultItem *> &targets);
 
 // A path beside `path` that nothing uses: "path_UNIQUE".
 QString besidePath(const QString &path);

@@ -6,13 +6,14 @@
 
 #include <QCoreApplication>
 #include <QSet>
-
 #include <linux/magic.h>
 #include <sys/vfs.h>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QString tr(const char *text)
 {
@@ -40,31 +41,40 @@ QString displayName(const QString &path)
 
 bool isCloneCapableFileSystem(long type)
 {
-    return type == long(BTRFS_SUPER_MAGIC) || type == kXfsMagic || type == kBcachefsMagic || type == kZfsMagic ||
-           type == kOcfs2Magic;
+    return type == long(BTRFS_SUPER_MAGIC) || type == kXfsMagic || type == kBcachefsMagic ||
+           type == kZfsMagic || type == kOcfs2Magic;
 }
 
 bool isLinkCapableFileSystem(long type)
 {
     return isCloneCapableFileSystem(type) || type == long(EXT4_SUPER_MAGIC) || type == long(TMPFS_MAGIC) ||
            type == kF2fsMagic || type == long(REISERFS_SUPER_MAGIC) || type == kJfsMagic ||
-           type == long(NILFS_SUPER_MAGIC) || type == long(OVERLAYFS_SUPER_MAGIC) || type == long(RAMFS_MAGIC);
+           type == long(NILFS_SUPER_MAGIC) || type == long(OVERLAYFS_SUPER_MAGIC) ||
+           type == long(RAMFS_MAGIC);
 }
 
-CheckOutcome checkReferenceItem(int mode, const ResultItem *reference, const QList<ResultItem *> &duplicatesToReplace)
+CheckOutcome checkReferenceItem(int mode, const ResultItem *reference,
+                                const QList<ResultItem *> &duplicatesToReplace)
 {
     CheckOutcome outcome;
-    if (mode == ReplaceWithNone)
-        return outcome;
-    const QString informative = tr("To replace deleted duplicates, select the reference file to preserve in the top "
-                                   "list, and the duplicates to replace in the bottom list.");
+    if (mode == ReplaceWithNone) return outcome;
+    const QString informative =
+        tr("To replace deleted duplicates, select the reference file to preserve in the top "
+           "list, and the duplicates to replace in the bottom list.");
     if (!reference) {
-        outcome.alert = Alert{tr("No item is selected in the bottom list"), informative,
-                              {tr("Delete Without Replacing"), tr("Cancel")}, 1, 1};
+        outcome.alert = Alert{tr("No item is selected in the bottom list"),
+                              informative,
+                              {tr("Delete Without Replacing"), tr("Cancel")},
+                              1,
+                              1};
         outcome.proceedCode = kFirstButton;
     } else if (duplicatesToReplace.contains(reference)) {
-        outcome.alert = Alert{tr("Please make sure that the same item is not selected both in the top and bottom lists"),
-                              informative, {tr("Cancel")}, 0, 0};
+        outcome.alert =
+            Alert{tr("Please make sure that the same item is not selected both in the top and bottom lists"),
+                  informative,
+                  {tr("Cancel")},
+                  0,
+                  0};
     }
     return outcome;
 }
@@ -76,11 +86,15 @@ CheckOutcome doesItemsContainsAllDupesOfAnyItem(const QList<ResultItem *> &items
     const QSet<QString> chosen(urls.begin(), urls.end());
     for (const ResultItem *item : items) {
         const QList<ResultItem *> dupes = duplicatesFor(*item);
-        const bool all = std::all_of(dupes.begin(), dupes.end(), [&](const ResultItem *d) { return chosen.contains(d->path); });
+        const bool all = std::all_of(dupes.begin(), dupes.end(),
+                                     [&](const ResultItem *d) { return chosen.contains(d->path); });
         if (all) {
             outcome.alert = Alert{tr("Warning: you have selected ALL the dupes of at least one file"),
                                   tr("You should probably keep one version of this file."),
-                                  {tr("Cancel"), tr("Continue Anyway")}, 0, 0, 1};
+                                  {tr("Cancel"), tr("Continue Anyway")},
+                                  0,
+                                  0,
+                                  1};
             outcome.proceedCode = kFirstButton + 1;
             break;
         }
@@ -91,17 +105,17 @@ CheckOutcome doesItemsContainsAllDupesOfAnyItem(const QList<ResultItem *> &items
 CheckOutcome checkFilesystemForDeleteAction(int mode, const QStringList &urls)
 {
     CheckOutcome outcome;
-    if (mode == ReplaceWithNone)
-        return outcome;
+    if (mode == ReplaceWithNone) return outcome;
     for (const QString &url : urls) {
-        struct statfs fs{};
-        if (statfs(url.toUtf8().constData(), &fs) != 0)
-            continue;
+        struct statfs fs {
+        };
+        if (statfs(url.toUtf8().constData(), &fs) != 0) continue;
         QString message;
         if (mode == ReplaceWithClone && !isCloneCapableFileSystem(long(fs.f_type)))
             message = tr("Clone files may be unsupported on non APFS volumes");
         else if (mode != ReplaceWithClone && !isLinkCapableFileSystem(long(fs.f_type)))
-            message = tr("Hard links, aliases or symbolic links may be unsupported on non HFS+ or APFS volumes");
+            message =
+                tr("Hard links, aliases or symbolic links may be unsupported on non HFS+ or APFS volumes");
         if (!message.isEmpty()) {
             outcome.alert = Alert{message, {}, {tr("Cancel"), tr("Continue Anyway")}, 0, 0};
             outcome.proceedCode = kFirstButton + 1;
@@ -114,11 +128,11 @@ CheckOutcome checkFilesystemForDeleteAction(int mode, const QStringList &urls)
 std::optional<Alert> postDeleteActionFailedForCount(int failures, int mode, const QString &lastReference,
                                                     const QString &lastDeleted)
 {
-    if (failures < 1)
-        return std::nullopt;
-    const QString object = failures == 1
-                               ? tr("“%1” in “%2”").arg(displayName(lastReference), displayName(parentFolder(lastDeleted)))
-                               : tr("%1 files").arg(count(failures));
+    if (failures < 1) return std::nullopt;
+    const QString object =
+        failures == 1
+            ? tr("“%1” in “%2”").arg(displayName(lastReference), displayName(parentFolder(lastDeleted)))
+            : tr("%1 files").arg(count(failures));
     QString action;
     QString note;
     switch (mode) {
@@ -145,22 +159,25 @@ std::optional<Alert> postDeleteActionFailedForCount(int failures, int mode, cons
 
 std::optional<Alert> trashFailureAlert(const DeleteReport &report, const QList<ResultItem *> &targets)
 {
-    if (report.removalFailures == 0 || targets.isEmpty())
-        return std::nullopt;
-    const QString message = targets.size() == 1
-                                ? tr("“%1” could not be put in the Bin.").arg(displayName(targets.first()->path))
-                                : tr("%1 files could not be put in the Bin.").arg(count(report.removalFailures));
-    return Alert{message, report.lastErrorText,
-                 {tr("OK"), tr("Delete Immediately…"), tr("Grant Access to Bin…")}, 0, 0, 1};
+    if (report.removalFailures == 0 || targets.isEmpty()) return std::nullopt;
+    const QString message =
+        targets.size() == 1 ? tr("“%1” could not be put in the Bin.").arg(displayName(targets.first()->path))
+                            : tr("%1 files could not be put in the Bin.").arg(count(report.removalFailures));
+    return Alert{message,
+                 report.lastErrorText,
+                 {tr("OK"), tr("Delete Immediately…"), tr("Grant Access to Bin…")},
+                 0,
+                 0,
+                 1};
 }
 
 std::optional<Alert> deletionFailureAlert(const DeleteReport &report, const QList<ResultItem *> &targets)
 {
-    if (report.removalFailures == 0 || targets.isEmpty())
-        return std::nullopt;
-    const QString message = targets.size() == 1
-                                ? tr("“%1” could not be deleted immediately.").arg(displayName(targets.first()->path))
-                                : tr("%1 files could not be deleted immediately.").arg(count(report.removalFailures));
+    if (report.removalFailures == 0 || targets.isEmpty()) return std::nullopt;
+    const QString message =
+        targets.size() == 1
+            ? tr("“%1” could not be deleted immediately.").arg(displayName(targets.first()->path))
+            : tr("%1 files could not be deleted immediately.").arg(count(report.removalFailures));
     return Alert{message, {}, {tr("OK")}};
 }
 
@@ -168,27 +185,43 @@ Alert deleteConfirmationAlert(const QList<ResultItem *> &targets)
 {
     const QStringList buttons{tr("Delete Immediately"), tr("Cancel")};
     if (targets.size() == 1)
-        return Alert{tr("Are you sure you want to delete “%1” immediately?").arg(displayName(targets.first()->path)),
-                     tr("This item will be deleted immediately. You can’t undo this action."), buttons, 1, 1, 0};
-    return Alert{tr("Are you sure you want to delete the %1 selected items immediately?").arg(count(targets.size())),
-                 tr("%1 items will be deleted immediately. You can’t undo this action.").arg(count(targets.size())),
-                 buttons, 1, 1, 0};
+        return Alert{
+            tr("Are you sure you want to delete “%1” immediately?").arg(displayName(targets.first()->path)),
+            tr("This item will be deleted immediately. You can’t undo this action."),
+            buttons,
+            1,
+            1,
+            0};
+    return Alert{
+        tr("Are you sure you want to delete the %1 selected items immediately?").arg(count(targets.size())),
+        tr("%1 items will be deleted immediately. You can’t undo this action.").arg(count(targets.size())),
+        buttons,
+        1,
+        1,
+        0};
 }
 
 Alert putBackTipAlert()
 {
-    return Alert{tr("Note: you can’t use the Finder’s “Put Back” command to put back an item from the Bin to its "
-                    "original location, when it has been deleted by this app.\n\nHowever, you can drag it at any time "
-                    "from the Bin to this app’s icon in the Dock (even after a relaunch) to obtain the same result.\n\n"
-                    "You can also undo a recent operation by using “Put Back from Bin” from the File menu."),
-                 {}, {tr("Good to Know!")}};
+    return Alert{
+        tr("Note: you can’t use the Finder’s “Put Back” command to put back an item from the Bin to its "
+           "original location, when it has been deleted by this app.\n\nHowever, you can drag it at any time "
+           "from the Bin to this app’s icon in the Dock (even after a relaunch) to obtain the same "
+           "result.\n\n"
+           "You can also undo a recent operation by using “Put Back from Bin” from the File menu."),
+        {},
+        {tr("Good to Know!")}};
 }
 
 Alert grantTrashAccessAlert()
 {
-    return Alert{tr("Please select the drive or volume containing the files, to grant access to its Bin; then try to "
-                    "move to the Bin again"),
-                 {}, {tr("Grant Access to Bin"), tr("Cancel")}, 0, 1};
+    return Alert{
+        tr("Please select the drive or volume containing the files, to grant access to its Bin; then try to "
+           "move to the Bin again"),
+        {},
+        {tr("Grant Access to Bin"), tr("Cancel")},
+        0,
+        1};
 }
 
 } // namespace selfsame

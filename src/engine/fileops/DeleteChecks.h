@@ -6,11 +6,11 @@
 
 #include <QList>
 #include <QStringList>
-
 #include <functional>
 #include <optional>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The items of an item's duplicate group, the item itself included.
 using DuplicatesFor = std::function<QList<ResultItem *>(const ResultItem &)>;
@@ -23,7 +23,8 @@ struct CheckOutcome {
     bool proceedsWith(int answer) const { return !alert || (proceedCode != 0 && answer == proceedCode); }
 };
 
-CheckOutcome checkReferenceItem(int mode, const ResultItem *reference, const QList<ResultItem *> &duplicatesToReplace);
+CheckOutcome checkReferenceItem(int mode, const ResultItem *reference,
+                                const QList<ResultItem *> &duplicatesToReplace);
 CheckOutcome doesItemsContainsAllDupesOfAnyItem(const QList<ResultItem *> &items, const QStringList &urls,
                                                 const DuplicatesFor &duplicatesFor);
 CheckOutcome checkFilesystemForDeleteAction(int mode, const QStringList &urls);

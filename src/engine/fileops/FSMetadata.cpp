@@ -1,28 +1,27 @@
 #include "fileops/FSMetadata.h"
 
 #include <acl/libacl.h>
-#include <sys/acl.h>
-
+#include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
+#include <sys/acl.h>
 #include <sys/ioctl.h>
 #include <sys/xattr.h>
 #include <unistd.h>
-
-#include <cstring>
 #include <vector>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QList<QPair<QByteArray, QByteArray>> readUserXattrs(const char *path, bool *listed)
 {
     QList<QPair<QByteArray, QByteArray>> result;
     const ssize_t size = llistxattr(path, nullptr, 0);
     *listed = size >= 0;
-    if (size <= 0)
-        return result;
+    if (size <= 0) return result;
     std::vector<char> names(std::size_t(size) + 1, '\0');
     const ssize_t got = llistxattr(path, names.data(), names.size() - 1);
     for (ssize_t at = 0; got > 0 && at < got; at += ssize_t(std::strlen(names.data() + at)) + 1) {
@@ -30,12 +29,10 @@ QList<QPair<QByteArray, QByteArray>> readUserXattrs(const char *path, bool *list
         if (std::strncmp(name, "user.", 5) != 0)
             continue; // ACLs are kept apart; security and trusted names belong to the system
         const ssize_t length = lgetxattr(path, name, nullptr, 0);
-        if (length <= 0)
-            continue;
+        if (length <= 0) continue;
         QByteArray value(length, Qt::Uninitialized);
         const ssize_t read = lgetxattr(path, name, value.data(), std::size_t(value.size()));
-        if (read > 0)
-            result.append({QByteArray(name), value.left(read)});
+        if (read > 0) result.append({QByteArray(name), value.left(read)});
     }
     return result;
 }
@@ -43,8 +40,7 @@ QList<QPair<QByteArray, QByteArray>> readUserXattrs(const char *path, bool *list
 std::optional<QByteArray> aclText(const char *path, acl_type_t type)
 {
     acl_t acl = acl_get_file(path, type);
-    if (!acl)
-        return std::nullopt;
+    if (!acl) return std::nullopt;
     std::optional<QByteArray> text;
     // An access ACL always exists; only one beyond the mode bits is worth keeping.
     const bool extended = type == ACL_TYPE_DEFAULT ? acl_entries(acl) > 0 : acl_equiv_mode(acl, nullptr) != 0;
@@ -61,8 +57,7 @@ std::optional<QByteArray> aclText(const char *path, acl_type_t type)
 bool setAcl(const char *path, acl_type_t type, const QByteArray &text)
 {
     acl_t acl = acl_from_text(text.constData());
-    if (!acl)
-        return false;
+    if (!acl) return false;
     const bool ok = acl_set_file(path, type, acl) == 0;
     acl_free(acl);
     return ok;
@@ -71,8 +66,7 @@ bool setAcl(const char *path, acl_type_t type, const QByteArray &text)
 std::optional<int> readInodeFlags(const char *path)
 {
     const int fd = open(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (fd < 0)
-        return std::nullopt;
+    if (fd < 0) return std::nullopt;
     int flags = 0;
     const bool ok = ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
     close(fd);
@@ -82,12 +76,10 @@ std::optional<int> readInodeFlags(const char *path)
 bool writeInodeFlags(const char *path, int flags)
 {
     const int fd = open(path, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-    if (fd < 0)
-        return false;
+    if (fd < 0) return false;
     int current = 0;
     bool ok = ioctl(fd, FS_IOC_GETFLAGS, &current) == 0;
-    if (ok && current != flags)
-        ok = ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
+    if (ok && current != flags) ok = ioctl(fd, FS_IOC_SETFLAGS, &flags) == 0;
     close(fd);
     return ok;
 }
@@ -106,9 +98,9 @@ FSMetadata captureFSMetadata(const QString &path)
     const QByteArray p = path.toUtf8();
     bool listed = false;
     auto xattrs = readUserXattrs(p.constData(), &listed);
-    if (listed && !xattrs.isEmpty())
-        m.xattr = std::move(xattrs);
-    struct stat st{};
+    if (listed && !xattrs.isEmpty()) m.xattr = std::move(xattrs);
+    struct stat st {
+    };
     if (lstat(p.constData(), &st) == 0) {
         m.accessTime = st.st_atim;
         m.modificationTime = st.st_mtim;
@@ -118,11 +110,11 @@ FSMetadata captureFSMetadata(const QString &path)
         if (!S_ISLNK(st.st_mode)) {
             m.inodeFlags = readInodeFlags(p.constData());
             m.acl = aclText(p.constData(), ACL_TYPE_ACCESS);
-            if (S_ISDIR(st.st_mode))
-                m.defaultAcl = aclText(p.constData(), ACL_TYPE_DEFAULT);
+            if (S_ISDIR(st.st_mode)) m.defaultAcl = aclText(p.constData(), ACL_TYPE_DEFAULT);
         }
     }
-    struct stat parent{};
+    struct stat parent {
+    };
     if (stat(parentFolder(path).toUtf8().constData(), &parent) == 0) {
         m.parentModificationTime = parent.st_mtim;
         m.parentPermissions = parent.st_mode;
@@ -140,28 +132,25 @@ unsigned restoreFSMetadata(const QString &path, const FSMetadata &m)
             if (lsetxattr(c, name.constData(), value.constData(), std::size_t(value.size()), 0) != 0)
                 failed |= RestoreXattr;
     }
-    struct stat st{};
+    struct stat st {
+    };
     if (m.permissions && lstat(c, &st) == 0 && !S_ISLNK(st.st_mode)) {
-        if ((st.st_mode & 07777) != ((*m.permissions | 0200) & 07777) && chmod(c, (*m.permissions | 0200) & 07777) != 0)
+        if ((st.st_mode & 07777) != ((*m.permissions | 0200) & 07777) &&
+            chmod(c, (*m.permissions | 0200) & 07777) != 0)
             failed |= RestoreMode;
     }
-    if (m.acl && !setAcl(c, ACL_TYPE_ACCESS, *m.acl))
-        failed |= RestoreAcl;
-    if (m.defaultAcl && !setAcl(c, ACL_TYPE_DEFAULT, *m.defaultAcl))
-        failed |= RestoreAcl;
-    if (m.uid && m.gid && lchown(c, *m.uid, *m.gid) != 0)
-        failed |= RestoreOwner;
+    if (m.acl && !setAcl(c, ACL_TYPE_ACCESS, *m.acl)) failed |= RestoreAcl;
+    if (m.defaultAcl && !setAcl(c, ACL_TYPE_DEFAULT, *m.defaultAcl)) failed |= RestoreAcl;
+    if (m.uid && m.gid && lchown(c, *m.uid, *m.gid) != 0) failed |= RestoreOwner;
     // Exactly now: chown clears set-user-ID bits, and the owner-write bit was only lent.
     if (m.permissions && lstat(c, &st) == 0 && !S_ISLNK(st.st_mode) && st.st_mode != *m.permissions &&
         chmod(c, *m.permissions & 07777) != 0)
         failed |= RestoreMode;
     if (m.accessTime && m.modificationTime) {
         const timespec times[2] = {*m.accessTime, *m.modificationTime};
-        if (utimensat(AT_FDCWD, c, times, AT_SYMLINK_NOFOLLOW) != 0)
-            failed |= RestoreTimes;
+        if (utimensat(AT_FDCWD, c, times, AT_SYMLINK_NOFOLLOW) != 0) failed |= RestoreTimes;
     }
-    if (m.inodeFlags && !writeInodeFlags(c, *m.inodeFlags))
-        failed |= RestoreFlags;
+    if (m.inodeFlags && !writeInodeFlags(c, *m.inodeFlags)) failed |= RestoreFlags;
     return failed | restoreParentFolder(path, m);
 }
 
@@ -172,10 +161,10 @@ unsigned restoreParentFolder(const QString &path, const FSMetadata &m)
     if (m.parentModificationTime) {
         // Only the modification time: the folder's last-used date is not ours to set.
         const timespec times[2] = {{0, UTIME_OMIT}, *m.parentModificationTime};
-        if (utimensat(AT_FDCWD, parent.constData(), times, 0) != 0)
-            failed |= RestoreParent;
+        if (utimensat(AT_FDCWD, parent.constData(), times, 0) != 0) failed |= RestoreParent;
     }
-    struct stat ps{};
+    struct stat ps {
+    };
     if (m.parentPermissions && stat(parent.constData(), &ps) == 0 && ps.st_mode != *m.parentPermissions &&
         chmod(parent.constData(), *m.parentPermissions & 07777) != 0)
         failed |= RestoreParent;

@@ -4,13 +4,13 @@
 #include <QList>
 #include <QPair>
 #include <QString>
-
 #include <optional>
 #include <sys/stat.h>
 #include <sys/types.h>
 #include <time.h>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // A snapshot of one file's metadata, taken before the file is deleted or cloned over and put
 // back onto what replaces it. Every part is optional: it is absent when its read failed.

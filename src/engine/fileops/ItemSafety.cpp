@@ -3,20 +3,20 @@
 #include "search/Digest.h"
 
 #include <QCoreApplication>
-
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-
 #include <vector>
 
-namespace selfsame {
+namespace selfsame
+{
 
 QString changedSinceSearch(const ResultItem &item)
 {
-    struct stat st{};
+    struct stat st {
+    };
     if (lstat(item.path.toUtf8().constData(), &st) != 0)
         return QCoreApplication::translate("ItemSafety", "“%1” is gone: %2")
             .arg(item.path, QString::fromLocal8Bit(std::strerror(errno)));
@@ -26,8 +26,10 @@ QString changedSinceSearch(const ResultItem &item)
         return {};
     }
     if (S_ISDIR(st.st_mode) || qint64(st.st_size) != item.size)
-        return QCoreApplication::translate("ItemSafety", "“%1” changed since the search: its size is no longer %2 bytes")
-            .arg(item.path).arg(item.size);
+        return QCoreApplication::translate("ItemSafety",
+                                           "“%1” changed since the search: its size is no longer %2 bytes")
+            .arg(item.path)
+            .arg(item.size);
     if (qint64(st.st_mtim.tv_sec) != item.modified)
         return QCoreApplication::translate("ItemSafety", "“%1” was modified since the search").arg(item.path);
     return {};
@@ -44,14 +46,11 @@ bool sameContent(const QString &a, const QString &b)
         const ssize_t na = readAt(fa, bufferA.data(), chunk, offset);
         const ssize_t nb = readAt(fb, bufferB.data(), chunk, offset);
         same = na >= 0 && na == nb && std::memcmp(bufferA.data(), bufferB.data(), std::size_t(na)) == 0;
-        if (na <= 0)
-            break;
+        if (na <= 0) break;
         offset += na;
     }
-    if (fa >= 0)
-        close(fa);
-    if (fb >= 0)
-        close(fb);
+    if (fa >= 0) close(fa);
+    if (fb >= 0) close(fb);
     return same;
 }
 

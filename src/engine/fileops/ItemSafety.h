@@ -4,7 +4,8 @@
 
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // Why an item may no longer be acted on: it is gone, or its size or modification time is not
 // what the search recorded (someone changed it since). Empty when it is as recorded.

@@ -8,13 +8,14 @@
 
 #include <QCoreApplication>
 #include <QFile>
-
 #include <cerrno>
 #include <cstring>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QString tr(const char *text)
 {
@@ -25,8 +26,7 @@ PutBackResult moveBack(const QString &from, const QString &to)
 {
     PutBackResult result;
     result.error = renameNoReplace(from, to);
-    if (result.error)
-        result.errorText = QString::fromLocal8Bit(std::strerror(result.error));
+    if (result.error) result.errorText = QString::fromLocal8Bit(std::strerror(result.error));
     return result;
 }
 
@@ -58,8 +58,7 @@ PutBackResult putBackFile(const QString &trashedPath, const QString &destination
 
 std::optional<Alert> putBackFailureAlert(const PutBackSummary &summary, const QList<ResultItem *> &targets)
 {
-    if (summary.failures == 0 || targets.isEmpty())
-        return std::nullopt;
+    if (summary.failures == 0 || targets.isEmpty()) return std::nullopt;
     const QString message =
         targets.size() == 1
             ? tr("“%1” could not be put back from the Bin.").arg(displayName(targets.first()->path))
@@ -71,20 +70,22 @@ std::optional<Alert> putBackFailureAlert(const PutBackSummary &summary, const QL
 Alert putBackQuestion(const QString &trashedPath, const QString &destination, int fileCount)
 {
     QStringList buttons{tr("Put Back"), tr("Cancel")};
-    if (fileCount >= 2)
-        buttons << tr("Put Back All");
-    return Alert{tr("Do you want to put back “%1” to its original location “%2”?").arg(displayName(trashedPath), destination),
-                 {}, buttons, 0, 1};
+    if (fileCount >= 2) buttons << tr("Put Back All");
+    return Alert{tr("Do you want to put back “%1” to its original location “%2”?")
+                     .arg(displayName(trashedPath), destination),
+                 {},
+                 buttons,
+                 0,
+                 1};
 }
 
 Alert putBackErrorAlert(const QString &trashedPath, const QString &destination, const QString &errorText,
                         bool firstAttempt)
 {
     QStringList buttons{tr("Cancel")};
-    if (firstAttempt)
-        buttons << tr("Grant Access to “%1”…").arg(displayName(parentFolder(destination)));
-    return Alert{tr("Error: “%1” could not be put back to “%2”").arg(displayName(trashedPath), destination), errorText,
-                 buttons, 0, 0};
+    if (firstAttempt) buttons << tr("Grant Access to “%1”…").arg(displayName(parentFolder(destination)));
+    return Alert{tr("Error: “%1” could not be put back to “%2”").arg(displayName(trashedPath), destination),
+                 errorText, buttons, 0, 0};
 }
 
 } // namespace selfsame

@@ -5,10 +5,10 @@
 
 #include <QList>
 #include <QString>
-
 #include <optional>
 
-namespace selfsame {
+namespace selfsame
+{
 
 struct PutBackResult {
     int error = 0; // errno value; 0 on success

@@ -6,12 +6,12 @@
 #include <QCoreApplication>
 #include <QStringList>
 #include <QUrl>
-
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
 
-namespace selfsame {
+namespace selfsame
+{
 
 QString statusImageName(bool trashed, int mode)
 {
@@ -61,8 +61,7 @@ QString relativePathFromFolder(const QString &targetPath, const QString &folderP
     // Components as a path splits: a leading "/" and, for the folder, a trailing "/".
     auto components = [](const QString &path) {
         QStringList parts;
-        if (path.startsWith(u'/'))
-            parts << QStringLiteral("/");
+        if (path.startsWith(u'/')) parts << QStringLiteral("/");
         for (const QString &part : path.split(u'/', Qt::SkipEmptyParts))
             parts << part;
         return parts;
@@ -74,23 +73,23 @@ QString relativePathFromFolder(const QString &targetPath, const QString &folderP
         target.removeFirst();
         base.removeFirst();
     }
-    const QString prefix = base.size() == 1 ? QString() : QStringLiteral("../").repeated(qMax(1, int(base.size()) - 1));
+    const QString prefix =
+        base.size() == 1 ? QString() : QStringLiteral("../").repeated(qMax(1, int(base.size()) - 1));
     return prefix + target.join(u'/');
 }
 
 int writeDesktopLink(const QString &target, const QString &path)
 {
-    const int fd = open(path.toUtf8().constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
-    if (fd < 0)
-        return errno;
+    const int fd =
+        open(path.toUtf8().constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
+    if (fd < 0) return errno;
     const QString name = target.mid(target.lastIndexOf(u'/') + 1);
     const QByteArray entry = "[Desktop Entry]\nType=Link\nName=" + name.toUtf8() +
                              "\nURL=" + QUrl::fromLocalFile(target).toEncoded() + '\n';
-    int error = write(fd, entry.constData(), std::size_t(entry.size())) == entry.size() ? 0 : (errno ? errno : EIO);
-    if (close(fd) != 0 && !error)
-        error = errno;
-    if (error)
-        unlink(path.toUtf8().constData());
+    int error =
+        write(fd, entry.constData(), std::size_t(entry.size())) == entry.size() ? 0 : (errno ? errno : EIO);
+    if (close(fd) != 0 && !error) error = errno;
+    if (error) unlink(path.toUtf8().constData());
     return error;
 }
 
@@ -104,8 +103,10 @@ int makeReplacement(int mode, const QString &reference, const QString &path, boo
     case ReplaceWithSymbolicLink:
         return symlink(ref.constData(), at.constData()) == 0 ? 0 : errno;
     case ReplaceWithRelativeSymbolicLink:
-        return symlink(relativePathFromFolder(reference, parentFolder(path)).toUtf8().constData(), at.constData()) == 0
-                   ? 0 : errno;
+        return symlink(relativePathFromFolder(reference, parentFolder(path)).toUtf8().constData(),
+                       at.constData()) == 0
+                   ? 0
+                   : errno;
     case ReplaceWithHardLink:
         return link(ref.constData(), at.constData()) == 0 ? 0 : errno;
     case ReplaceWithClone:

@@ -2,11 +2,12 @@
 
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 enum ReplaceWithMode : int {
     ReplaceWithNone = 0,
-    ReplaceWithAlias = 1,             // a desktop entry of Type=Link pointing at the reference
+    ReplaceWithAlias = 1, // a desktop entry of Type=Link pointing at the reference
     ReplaceWithSymbolicLink = 2,
     ReplaceWithRelativeSymbolicLink = 3,
     ReplaceWithHardLink = 4,

@@ -8,7 +8,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QUrl>
-
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
@@ -16,21 +15,23 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QString homeTrashFolder()
 {
     QString data = qEnvironmentVariable("XDG_DATA_HOME");
-    if (data.isEmpty() || !data.startsWith(u'/'))
-        data = QDir::homePath() + QStringLiteral("/.local/share");
+    if (data.isEmpty() || !data.startsWith(u'/')) data = QDir::homePath() + QStringLiteral("/.local/share");
     return data + QStringLiteral("/Trash");
 }
 
 dev_t deviceOf(const QString &path)
 {
-    struct stat st{};
+    struct stat st {
+    };
     return lstat(path.toUtf8().constData(), &st) == 0 ? st.st_dev : dev_t(-1);
 }
 
@@ -49,8 +50,7 @@ QString topDirectory(const QString &path)
     QString top = path;
     while (top != u'/') {
         const QString up = QFileInfo(top).path();
-        if (deviceOf(up) != device)
-            break;
+        if (deviceOf(up) != device) break;
         top = up;
     }
     return top;
@@ -58,7 +58,8 @@ QString topDirectory(const QString &path)
 
 bool isOwnFolder(const QString &path)
 {
-    struct stat st{};
+    struct stat st {
+    };
     return lstat(path.toUtf8().constData(), &st) == 0 && S_ISDIR(st.st_mode) && st.st_uid == geteuid();
 }
 
@@ -69,8 +70,7 @@ bool makePrivateFolder(const QString &path)
 
 bool prepareTrash(const QString &trash, bool makeParents)
 {
-    if (makeParents && !QDir().mkpath(QFileInfo(trash).path()))
-        return false;
+    if (makeParents && !QDir().mkpath(QFileInfo(trash).path())) return false;
     return makePrivateFolder(trash) && makePrivateFolder(trash + QStringLiteral("/files")) &&
            makePrivateFolder(trash + QStringLiteral("/info"));
 }
@@ -79,16 +79,15 @@ QString volumeTrashFolder(const QString &top, bool create)
 {
     const QString uid = QString::number(geteuid());
     const QString shared = (top == u'/' ? QString() : top) + QStringLiteral("/.Trash");
-    struct stat st{};
+    struct stat st {
+    };
     // An administrator's .Trash counts only as a real sticky folder, never through a link.
     if (lstat(shared.toUtf8().constData(), &st) == 0 && S_ISDIR(st.st_mode) && (st.st_mode & S_ISVTX)) {
         const QString mine = shared + u'/' + uid;
-        if (!create || prepareTrash(mine, false))
-            return mine;
+        if (!create || prepareTrash(mine, false)) return mine;
     }
     const QString own = (top == u'/' ? QString() : top) + QStringLiteral("/.Trash-") + uid;
-    if (!create || prepareTrash(own, false))
-        return own;
+    if (!create || prepareTrash(own, false)) return own;
     return {};
 }
 
@@ -96,13 +95,11 @@ QString chooseTrash(const QString &path, bool create, QString *topForRelative)
 {
     const QString home = homeTrashFolder();
     if (deviceOf(path) == deviceOf(existingAncestor(home))) {
-        if (!create || prepareTrash(home, true))
-            return home;
+        if (!create || prepareTrash(home, true)) return home;
         return {};
     }
     const QString top = topDirectory(path);
-    if (topForRelative)
-        *topForRelative = top;
+    if (topForRelative) *topForRelative = top;
     return volumeTrashFolder(top, create);
 }
 
@@ -124,18 +121,18 @@ int claimInfoFile(const QString &trash, const QString &name, QString *chosen)
     const QString stem = splitName(name, &extension);
     for (int n = 1; n < 100000; ++n) {
         const QString candidate = n == 1 ? name : QStringLiteral("%1 %2%3").arg(stem).arg(n).arg(extension);
-        struct stat st{};
-        if (lstat((trash + QStringLiteral("/files/") + candidate).toUtf8().constData(), &st) == 0)
-            continue;
-        const QByteArray info = (trash + QStringLiteral("/info/") + candidate + QStringLiteral(".trashinfo")).toUtf8();
+        struct stat st {
+        };
+        if (lstat((trash + QStringLiteral("/files/") + candidate).toUtf8().constData(), &st) == 0) continue;
+        const QByteArray info =
+            (trash + QStringLiteral("/info/") + candidate + QStringLiteral(".trashinfo")).toUtf8();
         const int fd = open(info.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
         if (fd >= 0) {
             close(fd);
             *chosen = candidate;
             return 0;
         }
-        if (errno != EEXIST)
-            return errno;
+        if (errno != EEXIST) return errno;
     }
     return EEXIST;
 }
@@ -160,7 +157,8 @@ QString trashFolderFor(const QString &path)
 TrashResult trashItem(const QString &path)
 {
     TrashResult result;
-    struct stat st{};
+    struct stat st {
+    };
     if (lstat(path.toUtf8().constData(), &st) != 0) {
         result.error = errno;
         result.errorText = errorText(errno);
@@ -170,8 +168,9 @@ TrashResult trashItem(const QString &path)
     const QString trash = chooseTrash(path, true, &top);
     if (trash.isEmpty()) {
         result.error = EACCES;
-        result.errorText = QCoreApplication::translate("Trash", "No trash folder could be made on the volume of “%1”.")
-                               .arg(path);
+        result.errorText =
+            QCoreApplication::translate("Trash", "No trash folder could be made on the volume of “%1”.")
+                .arg(path);
         return result;
     }
     const QString name = path.mid(path.lastIndexOf(u'/') + 1);
@@ -193,8 +192,7 @@ TrashResult trashItem(const QString &path)
         !infoFile.flush())
         error = EIO;
     infoFile.close();
-    if (!error)
-        error = renameNoReplace(path, target);
+    if (!error) error = renameNoReplace(path, target);
     if (error) {
         QFile::remove(infoPath);
         result.error = error;
@@ -203,7 +201,8 @@ TrashResult trashItem(const QString &path)
     }
     const QByteArray former = path.toUtf8();
     // Where user attributes are refused, the Path= line stays the record.
-    lsetxattr(target.toUtf8().constData(), kPutBackAttribute, former.constData(), std::size_t(former.size()), 0);
+    lsetxattr(target.toUtf8().constData(), kPutBackAttribute, former.constData(), std::size_t(former.size()),
+              0);
     result.trashedPath = target;
     return result;
 }
@@ -222,8 +221,7 @@ QString trashInfoPathFor(const QString &trashedPath)
 {
     const QFileInfo file(trashedPath);
     const QString files = file.path();
-    if (!files.endsWith(QStringLiteral("/files")))
-        return {};
+    if (!files.endsWith(QStringLiteral("/files"))) return {};
     return files.chopped(5) + QStringLiteral("info/") + file.fileName() + QStringLiteral(".trashinfo");
 }
 
@@ -234,19 +232,15 @@ QString putBackPath(const QString &trashedPath)
     if (size > 0) {
         QByteArray value(size, Qt::Uninitialized);
         const ssize_t read = lgetxattr(p.constData(), kPutBackAttribute, value.data(), std::size_t(size));
-        if (read > 0)
-            return QString::fromUtf8(value.left(read));
+        if (read > 0) return QString::fromUtf8(value.left(read));
     }
     QFile info(trashInfoPathFor(trashedPath));
-    if (!info.open(QIODevice::ReadOnly))
-        return {};
+    if (!info.open(QIODevice::ReadOnly)) return {};
     const QList<QByteArray> lines = info.readAll().split('\n');
     for (const QByteArray &line : lines) {
-        if (!line.startsWith("Path="))
-            continue;
+        if (!line.startsWith("Path=")) continue;
         const QString recorded = QUrl::fromPercentEncoding(line.mid(5).trimmed());
-        if (recorded.startsWith(u'/'))
-            return recorded;
+        if (recorded.startsWith(u'/')) return recorded;
         // Relative to the volume's top folder, which holds the trash folder.
         QString trash = QFileInfo(QFileInfo(trashedPath).path()).path();
         if (QFileInfo(trash).fileName() != QStringLiteral(".Trash-") + QString::number(geteuid()))

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The extended attribute that records, on a file in the trash, the path it came from.
 inline constexpr char kPutBackAttribute[] = "user.trash_putback_path";

@@ -1,5 +1,6 @@
-#include "fileops/CloneAlerts.h"
 #include "fileops/CloneWorker.h"
+
+#include "fileops/CloneAlerts.h"
 #include "fileops/Dedupe.h"
 #include "format/ByteSize.h"
 #include "search/Digest.h"
@@ -8,10 +9,8 @@
 #include "support/TempTree.h"
 
 #include <QDir>
-
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <linux/fs.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
@@ -19,15 +18,16 @@
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 // Two groups on a volume that clones: a large one of three copies and a small pair.
-class CloneWorkerOn : public ::testing::TestWithParam<const char *> {
+class CloneWorkerOn : public ::testing::TestWithParam<const char *>
+{
 protected:
     void SetUp() override
     {
-        if (const QString why = volume.mount(); !why.isEmpty())
-            GTEST_SKIP() << why.toStdString();
+        if (const QString why = volume.mount(); !why.isEmpty()) GTEST_SKIP() << why.toStdString();
         QDir().mkpath(volume.path(QStringLiteral("a")));
         QDir().mkpath(volume.path(QStringLiteral("b")));
         for (const char *name : {"a/big1", "a/big2", "b/big3"})
@@ -42,7 +42,8 @@ protected:
     }
     CloneWorker worker(QList<ResultItem *> targets)
     {
-        return CloneWorker(targets, group.all(), [this](const ResultItem &item) { return group.duplicatesFor(item); });
+        return CloneWorker(targets, group.all(),
+                           [this](const ResultItem &item) { return group.duplicatesFor(item); });
     }
     ResultItem *item(int i) { return group.items[std::size_t(i)].get(); }
     MountedVolume volume{QString::fromUtf8(GetParam())};
@@ -69,16 +70,16 @@ TEST_P(CloneWorkerOn, PlansLargestFirstThenClonesInPlaceKeepingEveryFilesMetadat
     EXPECT_EQ(plan.ofPhysicalSize, item(1)->physicalSize + item(2)->physicalSize + item(4)->physicalSize);
     EXPECT_TRUE(plan.singleFilenameToReplace.isEmpty());
     EXPECT_EQ(QFileInfo(w.logFilePath()).fileName(), QStringLiteral("Selfsame.log"));
-    const QByteArray expected = item(0)->path.toUtf8() + " (" + formatByteCount(item(0)->physicalSize).toUtf8() +
-                                " on disk) will be cloned to:\n\t" + item(1)->path.toUtf8() + "\n\t" +
-                                item(2)->path.toUtf8() + "\n" + item(3)->path.toUtf8() + " (" +
-                                formatByteCount(item(3)->physicalSize).toUtf8() + " on disk) will be cloned to:\n\t" +
-                                item(4)->path.toUtf8() + "\n";
+    const QByteArray expected =
+        item(0)->path.toUtf8() + " (" + formatByteCount(item(0)->physicalSize).toUtf8() +
+        " on disk) will be cloned to:\n\t" + item(1)->path.toUtf8() + "\n\t" + item(2)->path.toUtf8() + "\n" +
+        item(3)->path.toUtf8() + " (" + formatByteCount(item(3)->physicalSize).toUtf8() +
+        " on disk) will be cloned to:\n\t" + item(4)->path.toUtf8() + "\n";
     EXPECT_EQ(readFile(w.logFilePath()), expected);
     EXPECT_EQ(statOf(item(1)->path).st_ino, before.st_ino) << "planning changes nothing";
     EXPECT_NE(allocDigestOf(item(1)->path), allocDigestOf(item(0)->path));
-    EXPECT_TRUE(cloneConfirmationAlert(plan).message.startsWith(
-        QStringLiteral("Do you want to replace 3 duplicates among all found files, by clones of 2 different files?")));
+    EXPECT_TRUE(cloneConfirmationAlert(plan).message.startsWith(QStringLiteral(
+        "Do you want to replace 3 duplicates among all found files, by clones of 2 different files?")));
 
     ASSERT_TRUE(w.perform(true, true, true));
     EXPECT_TRUE(w.failures().isEmpty()) << w.failures().value(0).reason.toStdString();
@@ -86,7 +87,8 @@ TEST_P(CloneWorkerOn, PlansLargestFirstThenClonesInPlaceKeepingEveryFilesMetadat
     for (int i : {1, 2}) {
         EXPECT_EQ(readFile(item(i)->path), big);
         ASSERT_TRUE(allocDigestOf(item(i)->path).has_value());
-        EXPECT_EQ(allocDigestOf(item(i)->path), allocDigestOf(item(0)->path)) << "shares the reference's extents";
+        EXPECT_EQ(allocDigestOf(item(i)->path), allocDigestOf(item(0)->path))
+            << "shares the reference's extents";
     }
     EXPECT_EQ(allocDigestOf(item(4)->path), allocDigestOf(item(3)->path));
     const struct stat after = statOf(item(1)->path);
@@ -101,7 +103,8 @@ TEST_P(CloneWorkerOn, PlansLargestFirstThenClonesInPlaceKeepingEveryFilesMetadat
     ItemGroup again;
     for (int i = 0; i < 5; ++i)
         again.add(item(i)->path, i < 3 ? 0 : 1);
-    CloneWorker second(again.all(), again.all(), [&](const ResultItem &it) { return again.duplicatesFor(it); });
+    CloneWorker second(again.all(), again.all(),
+                       [&](const ResultItem &it) { return again.duplicatesFor(it); });
     CloneCounts none;
     ASSERT_TRUE(second.perform(false, true, true, &none));
     EXPECT_EQ(none.replaceDuplicates, 0);
@@ -123,7 +126,8 @@ TEST_P(CloneWorkerOn, WithoutDedupeMovesAsideClonesRestoresAndRollsBackEachFaili
         EXPECT_EQ(now.st_mode, original.st_mode);
         EXPECT_EQ(now.st_mtim.tv_nsec, original.st_mtim.tv_nsec);
         EXPECT_EQ(readFile(item(1)->path), big);
-        EXPECT_EQ(QDir(volume.path(QStringLiteral("a"))).entryList(QDir::Files).size(), 3) << "nothing left aside";
+        EXPECT_EQ(QDir(volume.path(QStringLiteral("a"))).entryList(QDir::Files).size(), 3)
+            << "nothing left aside";
         EXPECT_EQ(statOf(volume.path(QStringLiteral("a"))).st_mtim.tv_nsec, folder.st_mtim.tv_nsec);
     };
     CloneSteps failing = steps;
@@ -150,8 +154,7 @@ TEST_P(CloneWorkerOn, WithoutDedupeMovesAsideClonesRestoresAndRollsBackEachFaili
 
 TEST_P(CloneWorkerOn, WriteProtectedAndOtherOwnersFilesComeBackProtectedAndOwned)
 {
-    if (geteuid() != 0)
-        GTEST_SKIP() << "not running as root: cannot give a file to another owner";
+    if (geteuid() != 0) GTEST_SKIP() << "not running as root: cannot give a file to another owner";
     CloneSteps steps = CloneSteps::real();
     steps.dedupe = [](const QString &, const QString &) { return EOPNOTSUPP; }; // the move-aside way
     const QString folder = volume.path(QStringLiteral("a"));
@@ -185,11 +188,13 @@ TEST_P(CloneWorkerOn, WriteProtectedAndOtherOwnersFilesComeBackProtectedAndOwned
 TEST_P(CloneWorkerOn, SkipsWhatMustNotBeClonedAndStopsOnChangesAndAborts)
 {
     // A hard link of the reference and a write-protected copy.
-    ::link(item(0)->path.toUtf8().constData(), volume.path(QStringLiteral("a/hardlink")).toUtf8().constData());
+    ::link(item(0)->path.toUtf8().constData(),
+           volume.path(QStringLiteral("a/hardlink")).toUtf8().constData());
     ResultItem *hard = group.add(volume.path(QStringLiteral("a/hardlink")), 0);
     item(2)->set(ReadOnly);
     QList<ResultItem *> previous;
-    QList<ResultItem *> kept = filterDuplicates(group.duplicatesFor(*item(0)), *item(0), false, true, previous);
+    QList<ResultItem *> kept =
+        filterDuplicates(group.duplicatesFor(*item(0)), *item(0), false, true, previous);
     EXPECT_EQ(kept, (QList<ResultItem *>{item(1)}));
     kept = filterDuplicates(group.duplicatesFor(*item(0)), *item(0), true, true, previous);
     EXPECT_EQ(kept, (QList<ResultItem *>{item(1), item(2)}));
@@ -206,7 +211,8 @@ TEST_P(CloneWorkerOn, SkipsWhatMustNotBeClonedAndStopsOnChangesAndAborts)
     utimensat(AT_FDCWD, item(1)->path.toUtf8().constData(), recorded, 0);
     CloneSteps noDedupe = CloneSteps::real();
     noDedupe.dedupe = [](const QString &, const QString &) { return EOPNOTSUPP; };
-    EXPECT_FALSE(cloneDuplicate(*item(0), *item(1), true, noDedupe).isEmpty()) << "compared before moving aside";
+    EXPECT_FALSE(cloneDuplicate(*item(0), *item(1), true, noDedupe).isEmpty())
+        << "compared before moving aside";
     EXPECT_EQ(readFile(item(1)->path), patternBytes(3 << 20, 9));
 
     // Aborting before the first reference clones nothing.
@@ -257,12 +263,16 @@ TEST(CloneAlerts, ConfirmationNamesSingleFilesAndCounts)
     c.singleFilenameToReplace = QStringLiteral("copy.mov");
     c.singleFilenameToClone = QStringLiteral("film.mov");
     EXPECT_EQ(cloneConfirmationAlert(c).message,
-              QStringLiteral("Do you want to replace “copy.mov”, by a clone of “film.mov”? 2.5 MB on disk will be reclaimed."));
+              QStringLiteral("Do you want to replace “copy.mov”, by a clone of “film.mov”? 2.5 MB on disk "
+                             "will be reclaimed."));
     c.replaceDuplicates = 1200;
     c.byClones = 3;
     EXPECT_TRUE(cloneConfirmationAlert(c).message.startsWith(
-        QStringLiteral("Do you want to replace 1,200 duplicates among the selected files, by clones of 3 different files?")));
+        QStringLiteral("Do you want to replace 1,200 duplicates among the selected files, by clones of 3 "
+                       "different files?")));
     EXPECT_EQ(cloneConfirmationAlert(c).buttons,
-              (QStringList{QStringLiteral("Clone"), QStringLiteral("Cancel"), QStringLiteral("View Cloning Plan")}));
-    EXPECT_TRUE(writeProtectedCloneAlert(2).informative.startsWith(QStringLiteral("2 files to be cloned are write-protected.")));
+              (QStringList{QStringLiteral("Clone"), QStringLiteral("Cancel"),
+                           QStringLiteral("View Cloning Plan")}));
+    EXPECT_TRUE(writeProtectedCloneAlert(2).informative.startsWith(
+        QStringLiteral("2 files to be cloned are write-protected.")));
 }

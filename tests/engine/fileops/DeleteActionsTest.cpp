@@ -1,4 +1,5 @@
 #include "fileops/DeleteActions.h"
+
 #include "fileops/Replacement.h"
 #include "fileops/Trash.h"
 #include "search/Digest.h"
@@ -10,19 +11,19 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <sys/xattr.h>
 #include <unistd.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
-class DeleteActions : public ::testing::Test {
+class DeleteActions : public ::testing::Test
+{
 protected:
     // A reference and one duplicate of it, in two folders under `root`.
     void makePair(const QString &root)
@@ -46,17 +47,21 @@ protected:
 
 TEST(RelativePath, FromAFolderToATarget)
 {
-    EXPECT_EQ(relativePathFromFolder(QStringLiteral("/Users/a/Pictures/x.jpg"), QStringLiteral("/Users/a/Backup/old")),
+    EXPECT_EQ(relativePathFromFolder(QStringLiteral("/Users/a/Pictures/x.jpg"),
+                                     QStringLiteral("/Users/a/Backup/old")),
               QStringLiteral("../../Pictures/x.jpg"));
-    EXPECT_EQ(relativePathFromFolder(QStringLiteral("/a/x.jpg"), QStringLiteral("/a/")), QStringLiteral("x.jpg"));
+    EXPECT_EQ(relativePathFromFolder(QStringLiteral("/a/x.jpg"), QStringLiteral("/a/")),
+              QStringLiteral("x.jpg"));
     EXPECT_EQ(relativePathFromFolder(QStringLiteral("/a/b/x"), QStringLiteral("/a")), QStringLiteral("b/x"));
-    EXPECT_EQ(relativePathFromFolder(QStringLiteral("/x"), QStringLiteral("/a/b")), QStringLiteral("../../x"));
+    EXPECT_EQ(relativePathFromFolder(QStringLiteral("/x"), QStringLiteral("/a/b")),
+              QStringLiteral("../../x"));
 }
 
 TEST_F(DeleteActions, TrashWithReplacementKeepsThePutBackRecordAndPlainTrashMarksTheItem)
 {
     makePair(tree.path());
-    const DeleteReport replaced = performDeleteAction(DeleteKind::Trash, ReplaceWithSymbolicLink, reference, {duplicate});
+    const DeleteReport replaced =
+        performDeleteAction(DeleteKind::Trash, ReplaceWithSymbolicLink, reference, {duplicate});
     EXPECT_EQ(replaced.outcomes[0].status, QStringLiteral("aliased"));
     EXPECT_TRUE(duplicate->trashedURL.isEmpty()) << "a replaced item has no trashedURL";
     const QString trashed = home.path(QStringLiteral("data/Trash/files/dup.bin"));
@@ -73,7 +78,8 @@ TEST_F(DeleteActions, TrashWithReplacementKeepsThePutBackRecordAndPlainTrashMark
 
     // Without a reference, a replacement mode only names the status; nothing is made.
     ResultItem *third = group.add(tree.file(QStringLiteral("third.bin"), content));
-    const DeleteReport noReference = performDeleteAction(DeleteKind::Trash, ReplaceWithHardLink, nullptr, {third});
+    const DeleteReport noReference =
+        performDeleteAction(DeleteKind::Trash, ReplaceWithHardLink, nullptr, {third});
     EXPECT_EQ(noReference.outcomes[0].status, QStringLiteral("hard linked"));
     EXPECT_TRUE(third->trashedURL.isEmpty());
     EXPECT_FALSE(QFile::exists(third->path));
@@ -83,7 +89,8 @@ TEST_F(DeleteActions, AFileChangedSinceTheSearchIsNotTouched)
 {
     makePair(tree.path());
     writeFile(duplicate->path, content + "more");
-    DeleteReport report = performDeleteAction(DeleteKind::Delete, ReplaceWithHardLink, reference, {duplicate});
+    DeleteReport report =
+        performDeleteAction(DeleteKind::Delete, ReplaceWithHardLink, reference, {duplicate});
     EXPECT_EQ(report.removalFailures, 1);
     EXPECT_TRUE(report.outcomes[0].error.contains(QStringLiteral("changed since the search")));
     EXPECT_EQ(readFile(duplicate->path), content + "more");
@@ -125,7 +132,8 @@ TEST_F(DeleteActions, FailedReplacementsLeaveTheFileWhereItWas)
 
     // Reference removed after the search.
     ASSERT_TRUE(QFile::rename(reference->path, reference->path + QStringLiteral(".moved")));
-    DeleteReport report = performDeleteAction(DeleteKind::Delete, ReplaceWithHardLink, reference, {duplicate});
+    DeleteReport report =
+        performDeleteAction(DeleteKind::Delete, ReplaceWithHardLink, reference, {duplicate});
     EXPECT_EQ(report.removalFailures, 1);
     QFile::rename(reference->path + QStringLiteral(".moved"), reference->path);
 
@@ -164,8 +172,7 @@ TEST_F(DeleteActions, FailedReplacementsLeaveTheFileWhereItWas)
 TEST_F(DeleteActions, CloneReplacementSharesStorageAndCarriesTheDeletedFilesMetadata)
 {
     MountedVolume volume(QStringLiteral("btrfs"));
-    if (const QString why = volume.mount(); !why.isEmpty())
-        GTEST_SKIP() << why.toStdString();
+    if (const QString why = volume.mount(); !why.isEmpty()) GTEST_SKIP() << why.toStdString();
     makePair(volume.path());
     const QByteArray dup = duplicate->path.toUtf8();
     lsetxattr(dup.constData(), "user.comment", "keep me", 7, 0);
@@ -174,15 +181,19 @@ TEST_F(DeleteActions, CloneReplacementSharesStorageAndCarriesTheDeletedFilesMeta
     utimensat(AT_FDCWD, dup.constData(), times, 0);
     duplicate->modified = 1300000000;
 
-    const DeleteReport report = performDeleteAction(DeleteKind::Trash, ReplaceWithClone, reference, {duplicate});
-    ASSERT_EQ(report.replacementFailures + report.removalFailures, 0) << report.outcomes[0].error.toStdString();
+    const DeleteReport report =
+        performDeleteAction(DeleteKind::Trash, ReplaceWithClone, reference, {duplicate});
+    ASSERT_EQ(report.replacementFailures + report.removalFailures, 0)
+        << report.outcomes[0].error.toStdString();
     EXPECT_EQ(report.outcomes[0].status, QStringLiteral("cloned"));
     EXPECT_EQ(readFile(duplicate->path), content);
     ASSERT_TRUE(allocDigestOf(duplicate->path).has_value());
-    EXPECT_EQ(allocDigestOf(duplicate->path), allocDigestOf(reference->path)) << "the clone shares the reference's extents";
+    EXPECT_EQ(allocDigestOf(duplicate->path), allocDigestOf(reference->path))
+        << "the clone shares the reference's extents";
     char value[16] = {};
     EXPECT_EQ(lgetxattr(dup.constData(), "user.comment", value, sizeof value), 7);
-    struct stat st{};
+    struct stat st {
+    };
     lstat(dup.constData(), &st);
     EXPECT_EQ(st.st_mode & 07777, 0604u);
     EXPECT_EQ(st.st_mtim.tv_sec, 1300000000);

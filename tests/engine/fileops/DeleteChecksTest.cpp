@@ -1,4 +1,5 @@
 #include "fileops/DeleteChecks.h"
+
 #include "fileops/Replacement.h"
 #include "support/FileItems.h"
 #include "support/MountedVolume.h"
@@ -33,7 +34,8 @@ TEST(DeleteChecks, ReferenceAndAllDupesChecksTellWhetherToGoOn)
     ASSERT_TRUE(all.alert);
     EXPECT_TRUE(all.proceedsWith(kFirstButton + 1)) << "Continue Anyway";
     EXPECT_FALSE(all.proceedsWith(kFirstButton));
-    EXPECT_TRUE(doesItemsContainsAllDupesOfAnyItem({lone}, {lone->path}, dupes).alert) << "a lone item qualifies";
+    EXPECT_TRUE(doesItemsContainsAllDupesOfAnyItem({lone}, {lone->path}, dupes).alert)
+        << "a lone item qualifies";
 }
 
 TEST(DeleteChecks, FileSystemWarningsFollowTheVolumeType)
@@ -46,7 +48,8 @@ TEST(DeleteChecks, FileSystemWarningsFollowTheVolumeType)
     ASSERT_TRUE(clone.alert);
     EXPECT_EQ(clone.alert->message, QStringLiteral("Clone files may be unsupported on non APFS volumes"));
     EXPECT_TRUE(clone.proceedsWith(kFirstButton + 1));
-    EXPECT_FALSE(checkFilesystemForDeleteAction(ReplaceWithClone, {tree.path(QStringLiteral("missing"))}).alert);
+    EXPECT_FALSE(
+        checkFilesystemForDeleteAction(ReplaceWithClone, {tree.path(QStringLiteral("missing"))}).alert);
 
     MountedVolume btrfs(QStringLiteral("btrfs"));
     if (btrfs.mount().isEmpty()) {
@@ -70,9 +73,12 @@ TEST(DeleteChecks, FailureTextsNameOneFileOrCount)
     a.path = QStringLiteral("/x/a.txt");
     DeleteReport report;
     report.removalFailures = 1;
-    EXPECT_EQ(trashFailureAlert(report, {&a})->message, QStringLiteral("“a.txt” could not be put in the Bin."));
-    EXPECT_EQ(trashFailureAlert(report, {&a, &b})->message, QStringLiteral("1 files could not be put in the Bin."));
-    EXPECT_EQ(deletionFailureAlert(report, {&a, &b})->message, QStringLiteral("1 files could not be deleted immediately."));
+    EXPECT_EQ(trashFailureAlert(report, {&a})->message,
+              QStringLiteral("“a.txt” could not be put in the Bin."));
+    EXPECT_EQ(trashFailureAlert(report, {&a, &b})->message,
+              QStringLiteral("1 files could not be put in the Bin."));
+    EXPECT_EQ(deletionFailureAlert(report, {&a, &b})->message,
+              QStringLiteral("1 files could not be deleted immediately."));
     EXPECT_FALSE(deletionFailureAlert(DeleteReport{}, {&a}));
     EXPECT_EQ(deleteConfirmationAlert({&a, &b}).informative,
               QStringLiteral("2 items will be deleted immediately. You can’t undo this action."));

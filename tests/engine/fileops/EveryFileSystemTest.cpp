@@ -10,18 +10,18 @@
 #include "support/TrashHome.h"
 
 #include <QDir>
-
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
-class OnEveryFileSystem : public ::testing::TestWithParam<const char *> {
+class OnEveryFileSystem : public ::testing::TestWithParam<const char *>
+{
 protected:
     void SetUp() override
     {
@@ -29,8 +29,7 @@ protected:
             root = tree.path();
             return;
         }
-        if (const QString why = volume.mount(); !why.isEmpty())
-            GTEST_SKIP() << why.toStdString();
+        if (const QString why = volume.mount(); !why.isEmpty()) GTEST_SKIP() << why.toStdString();
         root = volume.path();
     }
     // A reference and one duplicate of it in two folders of a fresh folder under the root.
@@ -44,7 +43,10 @@ protected:
         reference = group.add(base + QStringLiteral("/keep/ref.bin"));
         duplicate = group.add(base + QStringLiteral("/old/sub/dup.bin"));
     }
-    bool clones() const { return QString::fromUtf8(GetParam()) == u"btrfs" || QString::fromUtf8(GetParam()) == u"xfs"; }
+    bool clones() const
+    {
+        return QString::fromUtf8(GetParam()) == u"btrfs" || QString::fromUtf8(GetParam()) == u"xfs";
+    }
 
     TrashHome home;
     TempTree tree;
@@ -63,15 +65,18 @@ TEST_P(OnEveryFileSystem, LinkReplacementsPointAtTheReferenceFromTheDeletedPath)
     const struct {
         int mode;
         const char *status;
-    } cases[] = {{ReplaceWithAlias, "aliased"}, {ReplaceWithSymbolicLink, "aliased"},
-                 {ReplaceWithRelativeSymbolicLink, "aliased"}, {ReplaceWithHardLink, "hard linked"}};
+    } cases[] = {{ReplaceWithAlias, "aliased"},
+                 {ReplaceWithSymbolicLink, "aliased"},
+                 {ReplaceWithRelativeSymbolicLink, "aliased"},
+                 {ReplaceWithHardLink, "hard linked"}};
     for (const auto &c : cases) {
         SCOPED_TRACE(c.mode);
         makePair(QStringLiteral("mode%1").arg(c.mode));
         const DeleteReport report = performDeleteAction(DeleteKind::Delete, c.mode, reference, {duplicate});
         ASSERT_EQ(report.outcomes.size(), 1);
         EXPECT_EQ(report.outcomes[0].status, QString::fromUtf8(c.status));
-        EXPECT_EQ(report.removalFailures + report.replacementFailures, 0) << report.outcomes[0].error.toStdString();
+        EXPECT_EQ(report.removalFailures + report.replacementFailures, 0)
+            << report.outcomes[0].error.toStdString();
         EXPECT_TRUE(duplicate->has(Deleted));
         const QDir folder(QFileInfo(duplicate->path).path());
         EXPECT_EQ(folder.entryList(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::System).size(), 1)
@@ -120,7 +125,8 @@ TEST_P(OnEveryFileSystem, CloneReplacementWorksWhereTheFileSystemClonesAndLosesN
 {
     makePair(QStringLiteral("pair"));
     const ino_t before = statOf(duplicate->path).st_ino;
-    const DeleteReport report = performDeleteAction(DeleteKind::Delete, ReplaceWithClone, reference, {duplicate});
+    const DeleteReport report =
+        performDeleteAction(DeleteKind::Delete, ReplaceWithClone, reference, {duplicate});
     EXPECT_EQ(readFile(duplicate->path), content);
     if (clones()) {
         EXPECT_EQ(report.replacementFailures, 0) << report.outcomes[0].error.toStdString();

@@ -1,12 +1,12 @@
-#include "fileops/CloneItem.h"
 #include "fileops/FSMetadata.h"
+
+#include "fileops/CloneItem.h"
 #include "support/FileItems.h"
 #include "support/MountedVolume.h"
 #include "support/TempTree.h"
 
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -15,7 +15,8 @@
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 QByteArray xattr(const QString &path, const char *name)
 {

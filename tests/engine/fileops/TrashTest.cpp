@@ -1,5 +1,6 @@
-#include "fileops/PutBack.h"
 #include "fileops/Trash.h"
+
+#include "fileops/PutBack.h"
 #include "support/FileItems.h"
 #include "support/MountedVolume.h"
 #include "support/TempTree.h"
@@ -8,19 +9,19 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 // Every test gets its own home and data folder: the user's real trash is never touched.
-class Trash : public ::testing::Test {
+class Trash : public ::testing::Test
+{
 protected:
     TrashHome home;
     TempTree files;
@@ -43,8 +44,10 @@ TEST_F(Trash, MovesToTheHomeTrashWithARecordAndPutsBackExactly)
     const QByteArray info = readFile(trash + QStringLiteral("/info/naïve name.txt.trashinfo"));
     EXPECT_TRUE(info.startsWith("[Trash Info]\nPath=" + encodeTrashInfoPath(path) + "\nDeletionDate="));
     EXPECT_TRUE(encodeTrashInfoPath(path).contains("a%20b%25/na%C3%AFve%20name.txt"));
-    EXPECT_TRUE(QRegularExpression(QStringLiteral("DeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n$"))
-                    .match(QString::fromUtf8(info)).hasMatch());
+    EXPECT_TRUE(
+        QRegularExpression(QStringLiteral("DeletionDate=\\d{4}-\\d\\d-\\d\\dT\\d\\d:\\d\\d:\\d\\d\n$"))
+            .match(QString::fromUtf8(info))
+            .hasMatch());
     EXPECT_TRUE(hasPutBackAttribute(result.trashedPath));
     EXPECT_EQ(putBackPath(result.trashedPath), path);
 
@@ -66,7 +69,8 @@ TEST_F(Trash, CollisionsGetFreeNamesAndPuttingBackNeverOverwrites)
     const QString second = files.file(QStringLiteral("two/report.pdf"), "second");
     const QString third = files.file(QStringLiteral("three/report"), "third");
     const QString fourth = files.file(QStringLiteral("four/report"), "fourth");
-    const TrashResult a = trashItem(first), b = trashItem(second), c = trashItem(third), d = trashItem(fourth);
+    const TrashResult a = trashItem(first), b = trashItem(second), c = trashItem(third),
+                      d = trashItem(fourth);
     EXPECT_EQ(a.trashedPath, trash + QStringLiteral("/files/report.pdf"));
     EXPECT_EQ(b.trashedPath, trash + QStringLiteral("/files/report 2.pdf"));
     EXPECT_EQ(d.trashedPath, trash + QStringLiteral("/files/report 2"));
@@ -98,8 +102,7 @@ TEST_F(Trash, CollisionsGetFreeNamesAndPuttingBackNeverOverwrites)
 TEST_F(Trash, OtherVolumesUseTheirOwnTrashWithRelativePaths)
 {
     MountedVolume volume(QStringLiteral("tmpfs"));
-    if (const QString why = volume.mount(); !why.isEmpty())
-        GTEST_SKIP() << why.toStdString();
+    if (const QString why = volume.mount(); !why.isEmpty()) GTEST_SKIP() << why.toStdString();
     QDir().mkpath(volume.path(QStringLiteral("photos")));
     const QString path = volume.path(QStringLiteral("photos/x.jpg"));
     writeFile(path, "jpeg");
@@ -107,9 +110,11 @@ TEST_F(Trash, OtherVolumesUseTheirOwnTrashWithRelativePaths)
     ASSERT_EQ(result.error, 0) << result.errorText.toStdString();
     const QString volumeTrash = volume.path(QStringLiteral(".Trash-%1").arg(geteuid()));
     EXPECT_EQ(result.trashedPath, volumeTrash + QStringLiteral("/files/x.jpg"));
-    EXPECT_TRUE(readFile(volumeTrash + QStringLiteral("/info/x.jpg.trashinfo")).contains("\nPath=photos/x.jpg\n"));
+    EXPECT_TRUE(
+        readFile(volumeTrash + QStringLiteral("/info/x.jpg.trashinfo")).contains("\nPath=photos/x.jpg\n"));
     EXPECT_FALSE(QDir(trash).exists()) << "nothing went through the home trash";
-    struct stat st{};
+    struct stat st {
+    };
     lstat(volumeTrash.toUtf8().constData(), &st);
     EXPECT_EQ(st.st_mode & 0777, 0700u);
 
@@ -125,8 +130,7 @@ TEST_F(Trash, AFailedMoveLeavesTheFileAndNoRecord)
     EXPECT_EQ(trashItem(files.path(QStringLiteral("never-existed"))).error, ENOENT);
     const QString path = files.file(QStringLiteral("locked/keep.txt"), "keep");
     const QString folder = files.path(QStringLiteral("locked"));
-    if (!setImmutable(folder, true))
-        GTEST_SKIP() << "cannot make a folder immutable here";
+    if (!setImmutable(folder, true)) GTEST_SKIP() << "cannot make a folder immutable here";
     const TrashResult result = trashItem(path);
     setImmutable(folder, false);
     EXPECT_NE(result.error, 0);
