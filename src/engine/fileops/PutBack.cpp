@@ -56,6 +56,21 @@ PutBackResult putBackFile(const QString &trashedPath, const QString &destination
     return result;
 }
 
+PutBackSummary putBackItems(const QList<ResultItem *> &targets)
+{
+    PutBackSummary summary;
+    for (ResultItem *item : targets) {
+        if (item->trashedURL.isEmpty() || item->has(Deleted)) continue;
+        if (const PutBackResult result = putBackItem(*item); result.ok()) {
+            summary.putBack.append(item);
+        } else {
+            ++summary.failures;
+            summary.lastErrorText = result.errorText;
+        }
+    }
+    return summary;
+}
+
 std::optional<Alert> putBackFailureAlert(const PutBackSummary &summary, const QList<ResultItem *> &targets)
 {
     if (summary.failures == 0 || targets.isEmpty()) return std::nullopt;

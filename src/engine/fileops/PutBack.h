@@ -27,9 +27,12 @@ PutBackResult putBackItem(ResultItem &item);
 PutBackResult putBackFile(const QString &trashedPath, const QString &destination);
 
 struct PutBackSummary {
+    QList<ResultItem *> putBack; // their icon goes back to the file's own
     int failures = 0;
     QString lastErrorText;
 };
+// Puts back, in order, the targets that are in the trash and not deleted; passes over the rest.
+PutBackSummary putBackItems(const QList<ResultItem *> &targets);
 // The alert after putting back items from a window; nullopt when nothing failed.
 std::optional<Alert> putBackFailureAlert(const PutBackSummary &summary, const QList<ResultItem *> &targets);
 // The question before putting back a file handed over, and the error after it failed.

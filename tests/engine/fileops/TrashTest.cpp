@@ -139,3 +139,30 @@ TEST_F(Trash, AFailedMoveLeavesTheFileAndNoRecord)
     EXPECT_EQ(QDir(trash + QStringLiteral("/info")).entryList(QDir::Files).size(), 0);
     EXPECT_EQ(QDir(trash + QStringLiteral("/files")).entryList(QDir::Files).size(), 0);
 }
+
+TEST_F(Trash, PuttingBackItemsPassesOverTheOthersAndCountsFailures)
+{
+    ResultItem moved, occupied, deleted, present;
+    moved.path = files.file(QStringLiteral("moved"), "1");
+    occupied.path = files.file(QStringLiteral("occupied"), "2");
+    present.path = files.file(QStringLiteral("present"), "3");
+    deleted.path = files.path(QStringLiteral("deleted"));
+    deleted.trashedURL = trashItem(files.file(QStringLiteral("deleted"), "4")).trashedPath;
+    deleted.set(Deleted);
+    moved.trashedURL = trashItem(moved.path).trashedPath;
+    occupied.trashedURL = trashItem(occupied.path).trashedPath;
+    files.file(QStringLiteral("occupied"), "new");
+
+    const PutBackSummary summary = putBackItems({&moved, &occupied, &deleted, &present});
+    EXPECT_EQ(summary.putBack, (QList<ResultItem *>{&moved}));
+    EXPECT_EQ(summary.failures, 1);
+    EXPECT_FALSE(summary.lastErrorText.isEmpty());
+    EXPECT_EQ(readFile(moved.path), "1");
+    EXPECT_EQ(readFile(occupied.path), "new");
+    EXPECT_FALSE(occupied.trashedURL.isEmpty()) << "still marked as trashed";
+    EXPECT_FALSE(QFile::exists(deleted.path));
+    EXPECT_EQ(putBackFailureAlert(summary, {&occupied})->message,
+              QStringLiteral("“occupied” could not be put back from the Bin."));
+    EXPECT_EQ(putBackFailureAlert(summary, {&moved, &occupied})->message,
+              QStringLiteral("1 could not be put back from the Bin."));
+}
