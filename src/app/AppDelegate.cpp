@@ -6,6 +6,7 @@
 #include "Dupes.h"
 #include "LocationsModel.h"
 #include "LocationsView.h"
+#include "PutBackDialogue.h"
 #include "SearchDefaults.h"
 #include "SearchOptionsPanel.h"
 #include "Settings.h"
@@ -228,7 +229,7 @@ void AppDelegate::toggleFindAllDupesForSingleFiles()
            "leaving "
            "their checkboxes unticked."),
         {tr("Grant Access…"), tr("Cancel")}, [this](int answer) {
-            if (answer == kFirstButtonAnswer)
+            if (answer == kFirstButton)
                 addFolderWithButton(tr("Grant Access"), false, false);
             else
                 m_options->turnFindAllDupesForSingleFilesOff();
@@ -257,7 +258,7 @@ Dupes *AppDelegate::searchInFolderURLs(const QStringList &paths)
     if (!start.request) {
         showAlert(this, QMessageBox::Warning, invalidRegexMessage(start.invalidPattern.pattern),
                   start.invalidPattern.message, {tr("OK"), tr("Test Online…")}, [](int answer) {
-                      if (answer == kFirstButtonAnswer + 1)
+                      if (answer == kFirstButton + 1)
                           QDesktopServices::openUrl(
                               QUrl(QStringLiteral("https://regex101.com/?flavor=pcre2")));
                   });
@@ -321,6 +322,9 @@ void AppDelegate::handleLaunch(const LaunchRequest &request)
     } else if (request.search) {
         addURLs(request.paths, true, true, true);
         searchInFolderURLs(request.paths);
+    } else if (const QStringList trashed = PutBackDialogue::trashedFiles(request.paths); !trashed.isEmpty()) {
+        // Files from the trash are put back; the others opened with them are left alone.
+        (new PutBackDialogue(this, trashed, int(request.paths.size())))->start();
     } else {
         showInOpenWindowOrAddURLs(request.paths);
     }
@@ -347,7 +351,7 @@ void AppDelegate::showInOpenWindowOrAddURLs(const QStringList &paths)
                   tr("No duplicate found for “%1” in the current results").arg(displayName(paths.first())),
                   tr("Do you want to add this file to the list of locations to search?"),
                   {tr("Add Serarch Location"), tr("Cancel")}, [addAndShow](int answer) {
-                      if (answer == kFirstButtonAnswer)
+                      if (answer == kFirstButton)
                           addAndShow();
                   });
         return;

@@ -7,11 +7,13 @@
 #include "SearchOptionsPanel.h"
 #include "Settings.h"
 #include "WelcomePanel.h"
+#include "fileops/Trash.h"
 #include "support/TempTree.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
@@ -328,4 +330,98 @@ TEST(AppDelegate, ResetDoNotShowAgainIsOfferedOnlyWithSomethingToReset)
     EXPECT_TRUE(m.settings.dictionary(key::doNotShowAgain).isEmpty());
     Q_EMIT help->aboutToShow();
     EXPECT_FALSE(reset->isEnabled());
+}
+
+namespace {
+
+// A home and data folder of the test's own, so that trashing never reaches the user's trash.
+class OpeningTrashedFiles : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        m_oldData = qgetenv("XDG_DATA_HOME");
+        m_oldHome = qgetenv("HOME");
+        qputenv("XDG_DATA_HOME", home.path(QStringLiteral("data")).toUtf8());
+        qputenv("HOME", home.path().toUtf8());
+    }
+    void TearDown() override
+    {
+        qputenv("XDG_DATA_HOME", m_oldData);
+        qputenv("HOME", m_oldHome);
+    }
+    QString trashed(const QString &rel)
+    {
+        const TrashResult result = trashItem(home.file(rel, "contents"));
+        EXPECT_FALSE(result.trashedPath.isEmpty()) << result.errorText.toStdString();
+        return result.trashedPath;
+    }
+    static void answer(const QString &buttonText)
+    {
+        const QList<QMessageBox *> alerts = openAlerts();
+        ASSERT_EQ(alerts.size(), 1);
+        for (QAbstractButton *button : alerts[0]->buttons()) {
+            if (button->text() == buttonText)
+                return button->click();
+        }
+        FAIL() << "no button " << buttonText.toStdString();
+    }
+    TempTree home;
+
+private:
+    QByteArray m_oldData, m_oldHome;
+};
+
+} // namespace
+
+TEST_F(OpeningTrashedFiles, PutsThemBackAndOpensNothingElse)
+{
+    const QString first = trashed(QStringLiteral("docs/first.txt"));
+    const QString second = trashed(QStringLiteral("docs/second.txt"));
+    const QString other = home.file(QStringLiteral("other.txt"), "x");
+    MainWindow m;
+    AppDelegate &w = m.open();
+    w.handleLaunch({false, {first, other, second}});
+    ASSERT_EQ(openAlerts().size(), 1);
+    EXPECT_TRUE(openAlerts()[0]->text().contains(QStringLiteral("first.txt")));
+    EXPECT_EQ(openAlerts()[0]->buttons().size(), 3) << "Put Back All is offered for several files";
+    answer(QStringLiteral("Cancel"));
+    ASSERT_EQ(openAlerts().size(), 1) << "the next file is asked about";
+    answer(QStringLiteral("Put Back"));
+    EXPECT_TRUE(openAlerts().isEmpty());
+    EXPECT_FALSE(QFileInfo::exists(home.path(QStringLiteral("docs/first.txt"))));
+    EXPECT_TRUE(QFileInfo::exists(first));
+    EXPECT_TRUE(QFileInfo::exists(home.path(QStringLiteral("docs/second.txt"))));
+    EXPECT_TRUE(w.sources()->locations().isEmpty()) << "the ordinary file is not added";
+}
+
+TEST_F(OpeningTrashedFiles, PutBackAllAsksNoMore)
+{
+    const QString first = trashed(QStringLiteral("a.txt"));
+    const QString second = trashed(QStringLiteral("b.txt"));
+    MainWindow m;
+    AppDelegate &w = m.open();
+    w.handleLaunch({false, {first, second}});
+    answer(QStringLiteral("Put Back All"));
+    EXPECT_TRUE(openAlerts().isEmpty());
+    EXPECT_TRUE(QFileInfo::exists(home.path(QStringLiteral("a.txt"))));
+    EXPECT_TRUE(QFileInfo::exists(home.path(QStringLiteral("b.txt"))));
+}
+
+TEST_F(OpeningTrashedFiles, AnOccupiedPlaceIsReportedAndNothingIsOverwritten)
+{
+    const QString first = trashed(QStringLiteral("a.txt"));
+    home.file(QStringLiteral("a.txt"), "newer");
+    MainWindow m;
+    AppDelegate &w = m.open();
+    w.handleLaunch({false, {first}});
+    EXPECT_EQ(openAlerts()[0]->buttons().size(), 2) << "no Put Back All for one file";
+    answer(QStringLiteral("Put Back"));
+    ASSERT_EQ(openAlerts().size(), 1);
+    EXPECT_TRUE(openAlerts()[0]->text().startsWith(QStringLiteral("Error:")));
+    answer(QStringLiteral("Cancel"));
+    EXPECT_TRUE(openAlerts().isEmpty());
+    QFile kept(home.path(QStringLiteral("a.txt")));
+    ASSERT_TRUE(kept.open(QIODevice::ReadOnly));
+    EXPECT_EQ(kept.readAll(), QByteArray("newer"));
+    EXPECT_TRUE(QFileInfo::exists(first));
 }
