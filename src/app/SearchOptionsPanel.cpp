@@ -107,8 +107,8 @@ QWidget *SearchOptionsPanel::buildModeGroups()
 
     auto *content = new QWidget;
     auto *contentLayout = groupLayout(content, 0);
-    m_ignoreMp4HeaderChk = new QCheckBox(tr("Ignore the &header of MP4 files (compare the media only)"));
-    m_compareFoldersChk = new QCheckBox(tr("Also find duplicate &folders"));
+    m_ignoreMp4HeaderChk = new QCheckBox(tr("Ignore the header of &MP4 files (compare the media only)"));
+    m_compareFoldersChk = new QCheckBox(tr("Also find duplicate f&olders"));
     m_ignoreClonesChk = new QCheckBox(tr("Ignore files that already share their storage (&clones)"));
     contentLayout->addWidget(m_ignoreMp4HeaderChk);
     contentLayout->addWidget(m_compareFoldersChk);
@@ -129,7 +129,7 @@ QWidget *SearchOptionsPanel::buildModeGroups()
     auto *filename = new QWidget;
     auto *filenameLayout = groupLayout(filename, 0);
     m_filenameIgnoreExtensionChk = new QCheckBox(tr("Ignore &extensions"));
-    m_filenameIgnoreCommonSuffixesChk = new QCheckBox(tr("Ignore &suffixes:"));
+    m_filenameIgnoreCommonSuffixesChk = new QCheckBox(tr("Ignore s&uffixes:"));
     m_filenameIgnoreCommonSuffixesFld = new QLineEdit;
     m_filenameIgnoreCommonSuffixesFld->setToolTip(
         tr("Comma-separated endings left out of names before comparing; # stands for a number from 1 to 99, "
@@ -171,7 +171,7 @@ QWidget *SearchOptionsPanel::buildFilters()
     grid->setColumnStretch(1, 1);
     int row = 0;
 
-    m_skipHiddenFilesChk = new QCheckBox(tr("Skip &hidden files and folders"));
+    m_skipHiddenFilesChk = new QCheckBox(tr("Skip hidde&n files and folders"));
     grid->addWidget(m_skipHiddenFilesChk, row++, 0, 1, 2);
 
     m_limitFolderDepthChk = new QCheckBox(tr("&Limit folder depth to"));
@@ -219,12 +219,12 @@ QWidget *SearchOptionsPanel::buildFilters()
     grid->addWidget(m_filterFileSizeChk, row, 0);
     grid->addWidget(inRow({m_minFileSizeFld, toLabel, m_maxFileSizeFld}), row++, 1);
 
-    m_ignoreNonWritableChk = new QCheckBox(tr("Skip files that I cannot &modify or delete"));
+    m_ignoreNonWritableChk = new QCheckBox(tr("Skip files that I cannot modify or &delete"));
     grid->addWidget(m_ignoreNonWritableChk, row++, 0, 1, 2);
-    m_ignoreOtherOwnerChk = new QCheckBox(tr("Skip files not owned by %1").arg(userFullName()));
+    m_ignoreOtherOwnerChk = new QCheckBox(tr("Skip files not o&wned by %1").arg(userFullName()));
     grid->addWidget(m_ignoreOtherOwnerChk, row++, 0, 1, 2);
     m_findAllDupesForSingleFilesBtn =
-        new QCheckBox(tr("Find duplicates of single &files anywhere on their drive"));
+        new QCheckBox(tr("Find duplicates of single files anywhere on their dri&ve"));
     m_findAllDupesForSingleFilesBtn->setToolTip(
         tr("When a location is a single file, its duplicates are searched for across its whole drive."));
     grid->addWidget(m_findAllDupesForSingleFilesBtn, row++, 0, 1, 2);
