@@ -6,15 +6,15 @@ namespace selfsame {
 
 bool attributeToleranceShown(int typeId)
 {
-    return typeId == DateType || typeId == NumberType || typeId == AnyType;
+    return typeId == attribute::kDateType || typeId == attribute::kNumberType || typeId == attribute::kAnyType;
 }
 
 QString attributeToleranceUnits(int typeId, const QString &attributeKey, bool metricLocale)
 {
     auto tr = [](const char *text) { return QCoreApplication::translate("AttributeTolerance", text); };
-    if (typeId == DateType)
+    if (typeId == attribute::kDateType)
         return tr("seconds");
-    if (typeId != NumberType && typeId != AnyType)
+    if (typeId != attribute::kNumberType && typeId != attribute::kAnyType)
         return {};
     // One arcsecond is about 30 metres of latitude.
     const QString arcsecond = metricLocale ? tr("30\u00a0m") : tr("100\u00a0ft");

@@ -412,7 +412,7 @@ void SearchOptionsPanel::updateAttributeTolerance()
 {
     // Until the attribute catalogue describes the attribute, its type is unknown, and an
     // unknown type keeps the tolerance.
-    const int typeId = AnyType;
+    const int typeId = attribute::kAnyType;
     const bool shown = attributeToleranceShown(typeId);
     m_spotlightToleranceLabel->setVisible(shown);
     m_spotlightToleranceFld->setVisible(shown);
