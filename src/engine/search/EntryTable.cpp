@@ -37,6 +37,19 @@ void EntryTable::append(const EntryBatch &batch)
     }
 }
 
+void EntryTable::keepWithMetadata(std::vector<std::optional<ItemMetadata>> metadata)
+{
+    std::size_t kept = 0;
+    m_metadata.clear();
+    for (std::size_t i = 0; i < m_entries.size(); ++i) {
+        if (!metadata[i])
+            continue;
+        m_entries[kept++] = m_entries[i];
+        m_metadata.push_back(std::move(*metadata[i]));
+    }
+    m_entries.resize(kept);
+}
+
 std::string EntryTable::path(const FileEntry &e) const
 {
     const std::string &folder = m_folders[e.folder];

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "results/ResultItem.h"
+#include "search/ItemMetadata.h"
 
 #include <QString>
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -48,15 +50,20 @@ public:
     quint32 addFolder(std::string path);
     void add(FileEntry entry, std::string_view name);
     void append(const EntryBatch &batch);
+    // Keeps the entries that have metadata, each with its own; the others are dropped.
+    void keepWithMetadata(std::vector<std::optional<ItemMetadata>> metadata);
     void shrinkToFit()
     {
         m_entries.shrink_to_fit();
         m_names.shrink_to_fit();
+        m_metadata.shrink_to_fit();
     }
 
     std::size_t size() const { return m_entries.size(); }
     const FileEntry &operator[](std::size_t i) const { return m_entries[i]; }
     FileEntry &operator[](std::size_t i) { return m_entries[i]; }
+    // The metadata of entry i; only in the modes that read metadata.
+    const ItemMetadata &metadata(std::size_t i) const { return m_metadata[i]; }
 
     std::string_view name(const FileEntry &e) const { return {m_names.data() + e.nameOffset, e.nameLength}; }
     const std::string &folderPath(quint32 folder) const { return m_folders[folder]; }
@@ -70,6 +77,7 @@ public:
 private:
     std::vector<FileEntry> m_entries;
     std::string m_names;
+    std::vector<ItemMetadata> m_metadata;
     std::vector<std::string> m_folders;
 };
 

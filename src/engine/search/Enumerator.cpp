@@ -366,10 +366,36 @@ EnumerationResult Enumerator::run()
     walk.work();
     for (std::thread &thread : pool)
         thread.join();
+    if (m_metadataFilter)
+        readMetadata(result.entries);
     result.entries.shrinkToFit(); // the table lives through the whole search: no spare room
     result.enumerated = walk.seen();
     result.unreadableFolders = walk.unreadable();
     return result;
+}
+
+// Metadata is read once the walk is over, spread over every core: a folder is listed by one
+// thread, and a folder of media files would otherwise be parsed on one core. Items read
+// after an abort have no value.
+void Enumerator::readMetadata(EntryTable &entries)
+{
+    std::vector<std::optional<ItemMetadata>> metadata(entries.size());
+    std::atomic<std::size_t> next{0};
+    auto work = [&] {
+        for (std::size_t i; (i = next++) < entries.size();) {
+            if (m_searchingState.load(std::memory_order_relaxed) == 1)
+                return;
+            metadata[i] = m_metadataFilter->read(entries.qPath(entries[i]));
+        }
+    };
+    const unsigned threads = std::clamp(std::thread::hardware_concurrency(), 1u, 8u);
+    std::vector<std::thread> pool;
+    for (unsigned i = 1; i < threads; ++i)
+        pool.emplace_back(work);
+    work();
+    for (std::thread &thread : pool)
+        thread.join();
+    entries.keepWithMetadata(std::move(metadata));
 }
 
 } // namespace selfsame

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "search/EntryTable.h"
+#include "search/MetadataFilter.h"
 #include "search/SearchRequest.h"
 
 #include <atomic>
@@ -26,6 +27,9 @@ public:
     Enumerator(const SearchRequest &request, const std::atomic<int> &searchingState, uid_t effectiveUser,
                std::function<void(qint64 count)> onItem);
 
+    // In the modes that compare metadata: the filter that reads it, the last one applied.
+    void setMetadataFilter(MetadataFilter *filter) { m_metadataFilter = filter; }
+
     EnumerationResult run();
 
     // Folders with these extensions are packages (bundles from other systems).
@@ -39,12 +43,14 @@ private:
         int level;
     };
     class Walk;
+    void readMetadata(EntryTable &entries);
 
     const SearchRequest &m_request;
     const std::atomic<int> &m_searchingState;
     uid_t m_effectiveUser;
     uid_t m_realUser;
     std::function<void(qint64)> m_onItem;
+    MetadataFilter *m_metadataFilter = nullptr;
 };
 
 } // namespace selfsame

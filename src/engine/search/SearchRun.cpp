@@ -1,9 +1,11 @@
 #include "search/SearchRun.h"
 
+#include "attributes/SpotlightAttributesManager.h"
 #include "format/Formatters.h"
 #include "results/PathPrefix.h"
 #include "search/ContentSearch.h"
 #include "search/Enumerator.h"
+#include "search/SweepSearch.h"
 
 #include <QCoreApplication>
 
@@ -17,6 +19,12 @@ QList<ResultItem> SearchRun::run()
     const int steps = m_request.compareFolders ? 6 : 4;
 
     m_context.beginStep(1, steps, content);
+    const bool readsMetadata = m_request.detectionMode == DetectionMode::Duration ||
+                               m_request.detectionMode == DetectionMode::Attribute;
+    const int expectedType = m_request.detectionMode == DetectionMode::Attribute
+                                 ? SpotlightAttributesManager::GetTypeIDForSpotlightAttribute(m_request.spotlightAttribute)
+                                 : AnyType;
+    MetadataFilter metadataFilter(m_request, expectedType);
     Enumerator enumerator(m_request, m_context.searchingState, geteuid(), [this](qint64 count) {
         m_context.status(
             [count] {
@@ -25,7 +33,11 @@ QList<ResultItem> SearchRun::run()
             },
             -1);
     });
+    if (readsMetadata)
+        enumerator.setMetadataFilter(&metadataFilter);
     const EnumerationResult enumeration = enumerator.run();
+    m_context.statistics.someDurationFound = metadataFilter.someDurationFound();
+    m_context.statistics.someSpotlightValueFound = metadataFilter.someSpotlightValueFound();
     m_context.statistics.enumerated = enumeration.enumerated;
     m_context.statistics.kept = qint64(enumeration.entries.size());
     m_context.statistics.unreadableFolders = enumeration.unreadableFolders;
@@ -33,6 +45,8 @@ QList<ResultItem> SearchRun::run()
     QList<ResultItem> items;
     if (content)
         items = ContentSearch(m_request, enumeration, m_context).run();
+    else
+        items = SweepSearch(m_request, enumeration).run();
     removeCommonPathPrefix(m_request.searchInFolderURLs, items);
     return items;
 }
