@@ -1,5 +1,6 @@
 #include "CliOptions.h"
 
+#include "attributes/SpotlightAttributesManager.h"
 #include "format/ByteSize.h"
 #include "search/NamePatterns.h"
 
@@ -16,8 +17,9 @@ QString tr(const char *text) { return QCoreApplication::translate("selfsame-cli"
 
 bool takesValue(const QString &option)
 {
-    static const QStringList withValue = {"--min-size", "--max-size", "--ext", "--exclude-ext",
-                                          "--skip", "--depth", "--format"};
+    static const QStringList withValue = {"--min-size", "--max-size", "--ext", "--exclude-ext", "--skip",
+                                          "--depth", "--format", "--mode", "--tolerance", "--attribute",
+                                          "--suffixes"};
     return withValue.contains(option);
 }
 
@@ -37,7 +39,8 @@ QString usageText()
 {
     return tr("Usage: selfsame-cli [OPTIONS] PATH...\n"
               "       selfsame-cli put-back FILE...   (files in the trash, back to where they came from)\n"
-              "Finds files (and with --compare-folders, folders) of equal content.\n"
+              "Finds files (and with --compare-folders, folders) of equal content, or of equal duration,\n"
+              "name or metadata attribute.\n"
               "\n"
               "  --include-hidden           search hidden files and folders (default: skipped)\n"
               "  --min-size SIZE            smallest file searched, default 1 (\"10 MB\", \"4KiB\", \"500\")\n"
@@ -52,6 +55,17 @@ QString usageText()
               "  --ignore-clones            leave out groups whose files already share their storage\n"
               "  --include-read-only        also search items you may not modify or delete\n"
               "  --include-other-owner      also search items owned by other users\n"
+              "  --mode MODE                content (default), duration, name or attribute\n"
+              "  --tolerance N              duration and attribute modes: largest difference still equal, in\n"
+              "                             seconds for durations and dates, seconds of arc for latitude and\n"
+              "                             longitude, else the attribute's unit (default 0.1 s for durations, 0)\n"
+              "  --attribute KEY            attribute mode: the attribute compared (default kMDItemTitle)\n"
+              "  --ignore-extension         name mode: compare names without their extension\n"
+              "  --ignore-suffixes          name mode: ignore copy suffixes (\" copy, copy #, #,-#, (#)\")\n"
+              "  --suffixes LIST            name mode: ignore these comma-separated suffixes instead\n"
+              "                             (\"#\" stands for a number from 1 to 99, \"##\" for any number)\n"
+              "  --list-attributes [EXT]    list the attributes (key, name, type, description), or those\n"
+              "                             that files with this extension can carry, and exit\n"
               "  --format text|json|csv     output format (default text: a blank line between groups)\n"
               "  --summary                  counts to standard error\n"
               "  -h, --help                 show this help\n"
@@ -68,6 +82,9 @@ ParseResult parseCommandLine(const QStringList &arguments)
     request.findAllDupesForSingleFiles = false;
     QStringList skipLines, paths;
     bool extensionGiven = false;
+    std::optional<double> tolerance;
+    std::optional<QString> suffixes;
+    bool ignoreSuffixes = false, attributeGiven = false;
     auto fail = [&](const QString &error) {
         result.error = error;
         result.showUsage = true;
@@ -81,7 +98,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
         if (argument.startsWith(QLatin1String("--")) && equals > 0) {
             value = argument.mid(equals + 1);
             argument.truncate(equals);
-            if (!takesValue(argument))
+            if (!takesValue(argument) && argument != QLatin1String("--list-attributes"))
                 return fail(tr("option %1 takes no value").arg(argument));
         } else if (takesValue(argument)) {
             if (++i == arguments.size())
@@ -144,14 +161,63 @@ ParseResult parseCommandLine(const QStringList &arguments)
                 return fail(tr("--format takes text, json or csv, not '%1'").arg(value));
         } else if (argument == QLatin1String("--summary")) {
             options.summary = true;
+        } else if (argument == QLatin1String("--mode")) {
+            static const QStringList modes = {"content", "duration", "name", "attribute"};
+            const qsizetype mode = modes.indexOf(value);
+            if (mode < 0)
+                return fail(tr("--mode takes content, duration, name or attribute, not '%1'").arg(value));
+            request.detectionMode = DetectionMode(mode);
+        } else if (argument == QLatin1String("--tolerance")) {
+            bool ok = false;
+            tolerance = value.toDouble(&ok);
+            if (!ok || *tolerance < 0)
+                return fail(tr("--tolerance needs a number of at least 0, not '%1'").arg(value));
+        } else if (argument == QLatin1String("--attribute")) {
+            if (value.isEmpty())
+                return fail(tr("--attribute needs a key such as kMDItemTitle"));
+            request.spotlightAttribute = value;
+            attributeGiven = true;
+        } else if (argument == QLatin1String("--ignore-extension")) {
+            request.filenameIgnoreExtension = true;
+        } else if (argument == QLatin1String("--ignore-suffixes")) {
+            ignoreSuffixes = true;
+        } else if (argument == QLatin1String("--suffixes")) {
+            suffixes = value;
+        } else if (argument == QLatin1String("--list-attributes")) {
+            // The extension is optional: it is the next argument unless that is an option.
+            options.listAttributes = QString();
+            if (!value.isEmpty())
+                options.listAttributes = value;
+            else if (i + 1 < arguments.size() && !arguments[i + 1].startsWith(QLatin1Char('-')))
+                options.listAttributes = arguments[++i];
         } else if (argument.startsWith(QLatin1Char('-')) && argument.size() > 1) {
             return fail(tr("unknown option %1").arg(argument));
         } else {
             paths.append(argument);
         }
     }
-    if (options.help || options.version)
+    if (options.help || options.version || options.listAttributes)
         return result;
+
+    const DetectionMode mode = request.detectionMode;
+    if (tolerance && mode != DetectionMode::Duration && mode != DetectionMode::Attribute)
+        return fail(tr("--tolerance applies to the duration and attribute modes only"));
+    if (attributeGiven && mode != DetectionMode::Attribute)
+        return fail(tr("--attribute applies to the attribute mode only"));
+    if ((request.filenameIgnoreExtension || ignoreSuffixes || suffixes) && mode != DetectionMode::FileName)
+        return fail(tr("--ignore-extension, --ignore-suffixes and --suffixes apply to the name mode only"));
+    if (mode == DetectionMode::Duration && tolerance)
+        request.durationTolerance = *tolerance;
+    if (mode == DetectionMode::Attribute) {
+        if (!attributeGiven)
+            request.spotlightAttribute = QStringLiteral("kMDItemTitle");
+        // Only numbers, dates and attributes of unknown type have a tolerance.
+        const int type = SpotlightAttributesManager::GetTypeIDForSpotlightAttribute(request.spotlightAttribute);
+        if (tolerance && (type == NumberType || type == DateType || type == AnyType))
+            request.spotlightTolerance = *tolerance;
+    }
+    if (ignoreSuffixes || suffixes)
+        request.filenameIgnoreCommonSuffixRegexes = compileCommonSuffixes(suffixes.value_or(QString()));
 
     if (!skipLines.isEmpty()) {
         PatternError error;

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 namespace selfsame::cli {
 
 enum class OutputFormat { Text, Json, Csv };
@@ -15,6 +17,7 @@ struct CliOptions {
     bool summary = false;
     bool help = false;
     bool version = false;
+    std::optional<QString> listAttributes; // list the catalogue: all of it (""), or for an extension
     QStringList missingPaths; // named on the command line but not found; the others are searched
 };
 

@@ -4,8 +4,10 @@
 
 #include <QDateTime>
 #include <QJsonObject>
+#include <QLocale>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <set>
 
@@ -43,6 +45,7 @@ public:
     void key(const char *name) { separate(); string(QByteArray(name)); m_out += ':'; m_first = true; }
     void value(qint64 number) { separate(); m_out += QByteArray::number(number); }
     void value(bool flag) { separate(); m_out += flag ? "true" : "false"; }
+    void value(double number) { separate(); m_out += QByteArray::number(number, 'g', QLocale::FloatingPointShortest); }
     void value(const QString &text) { separate(); string(text.toUtf8()); }
     void value(const QByteArray &utf8) { separate(); string(utf8); }
     template <typename T> void field(const char *name, const T &v) { key(name); value(v); }
@@ -76,6 +79,37 @@ private:
     bool m_first = true;
 };
 
+// The values read in the duration and attribute modes, where the item has them.
+void writeMetadata(JsonWriter &json, const ResultItem &item)
+{
+    if (item.duration > 0)
+        json.field("duration", item.duration);
+    if (!std::isnan(item.latitude))
+        json.field("latitude", item.latitude);
+    if (!std::isnan(item.longitude))
+        json.field("longitude", item.longitude);
+    switch (item.spotlight.typeId()) {
+    case QMetaType::QDateTime:
+        json.field("spotlight", isoDate(item.spotlight.toDateTime().toSecsSinceEpoch()));
+        break;
+    case QMetaType::Bool:
+        json.field("spotlight", item.spotlight.toBool());
+        break;
+    case QMetaType::Double:
+        json.field("spotlight", item.spotlight.toDouble());
+        break;
+    case QMetaType::QString:
+        json.field("spotlight", item.spotlight.toString());
+        break;
+    }
+    if (!item.pixelSize.isEmpty())
+        json.field("pixelSize", item.pixelSize);
+    if (!item.codecs.isEmpty())
+        json.field("codecs", item.codecs);
+    if (item.bitrate > 0)
+        json.field("bitrate", item.bitrate);
+}
+
 void writeItem(JsonWriter &json, const ResultItem &item)
 {
     json.begin('{');
@@ -104,6 +138,7 @@ void writeItem(JsonWriter &json, const ResultItem &item)
     }
     if (item.has(HasDigest))
         json.field("digest", digestToHex(item.digest));
+    writeMetadata(json, item);
     json.end('}');
 }
 

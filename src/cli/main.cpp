@@ -1,8 +1,10 @@
 // selfsame-cli: the duplicate search without a window, for scripts and benchmarks.
 
+#include "AttributeListing.h"
 #include "CliOptions.h"
 #include "PutBackCommand.h"
 #include "ResultOutput.h"
+#include "attributes/SpotlightAttributesManager.h"
 #include "search/DuplicateSearch.h"
 
 #include <QCoreApplication>
@@ -62,6 +64,22 @@ int main(int argc, char *argv[])
     }
     if (options.version) {
         writeAll(stdout, "selfsame-cli " SELFSAME_VERSION "\n");
+        return 0;
+    }
+    if (options.listAttributes) {
+        const QString &extension = *options.listAttributes;
+        const auto records =
+            extension.isEmpty()
+                ? std::optional<AttributeRecords>(*SpotlightAttributesManager::GetAllSpotlightAttributes())
+                : SpotlightAttributesManager::GetSpotlightAttributesForFilenameExtension(extension, false);
+        if (!records) {
+            writeAll(stderr, QCoreApplication::translate("selfsame-cli", "selfsame-cli: no file type is known for "
+                                                                         "the extension '%1'\n")
+                                 .arg(extension)
+                                 .toUtf8());
+            return 1;
+        }
+        writeAll(stdout, attributeListing(*records));
         return 0;
     }
     for (const QString &missing : options.missingPaths)
