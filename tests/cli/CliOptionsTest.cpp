@@ -43,6 +43,60 @@ TEST(CliOptions, DefaultsAndOptionsReachTheRequest)
     }
 }
 
+TEST(CliOptions, MetadataModesTakeTheirToleranceAttributeAndNameOptions)
+{
+    const AcceptedCase cases[] = {
+        {{"--mode", "duration"},
+         [](const SearchRequest &r) { return r.detectionMode == DetectionMode::Duration && r.durationTolerance == 0.1; }},
+        {{"--mode=duration", "--tolerance", "2.5"}, [](const SearchRequest &r) { return r.durationTolerance == 2.5; }},
+        {{"--mode", "attribute"},
+         [](const SearchRequest &r) { return r.spotlightAttribute == "kMDItemTitle" && r.spotlightTolerance == 0; }},
+        // Seconds of arc stay as given here; the search turns them into degrees.
+        {{"--mode", "attribute", "--attribute", "kMDItemLatitude", "--tolerance", "36"},
+         [](const SearchRequest &r) {
+             return r.spotlightAttribute == "kMDItemLatitude" && r.spotlightTolerance == 36 &&
+                    storedRequest(r).spotlightTolerance == 0.01;
+         }},
+        // Strings have no tolerance.
+        {{"--mode", "attribute", "--attribute", "kMDItemAlbum", "--tolerance", "5"},
+         [](const SearchRequest &r) { return r.spotlightTolerance == 0; }},
+        {{"--mode", "attribute", "--attribute", "kMDItemSomethingCustom", "--tolerance", "5"},
+         [](const SearchRequest &r) { return r.spotlightTolerance == 5; }},
+        {{"--mode", "name"},
+         [](const SearchRequest &r) {
+             return r.detectionMode == DetectionMode::FileName && !r.filenameIgnoreExtension &&
+                    !r.filenameIgnoreCommonSuffixRegexes;
+         }},
+        {{"--mode", "name", "--ignore-extension", "--ignore-suffixes"},
+         [](const SearchRequest &r) {
+             return r.filenameIgnoreExtension && r.filenameIgnoreCommonSuffixRegexes &&
+                    r.filenameIgnoreCommonSuffixRegexes->size() == 5;
+         }},
+        {{"--mode", "name", "--suffixes", " old,_v##"},
+         [](const SearchRequest &r) {
+             return r.filenameIgnoreCommonSuffixRegexes && r.filenameIgnoreCommonSuffixRegexes->size() == 2 &&
+                    r.filenameIgnoreCommonSuffixRegexes->at(1).match("plan_v12").hasMatch();
+         }},
+    };
+    QTemporaryDir root;
+    for (const AcceptedCase &c : cases) {
+        const ParseResult result = parseCommandLine(QStringList(c.arguments) << root.path());
+        const std::string shown = c.arguments.join(' ').toStdString();
+        EXPECT_TRUE(result.error.isEmpty()) << shown << ": " << result.error.toStdString();
+        EXPECT_TRUE(c.holds(result.options.request)) << shown;
+    }
+}
+
+TEST(CliOptions, ListAttributesTakesAnOptionalExtensionAndNeedsNoPath)
+{
+    EXPECT_EQ(parseCommandLine({"--list-attributes"}).options.listAttributes, QString());
+    EXPECT_EQ(parseCommandLine({"--list-attributes", "jpg"}).options.listAttributes, QString("jpg"));
+    EXPECT_EQ(parseCommandLine({"--list-attributes=mp4"}).options.listAttributes, QString("mp4"));
+    const ParseResult beforeOption = parseCommandLine({"--list-attributes", "--summary"});
+    EXPECT_TRUE(beforeOption.error.isEmpty());
+    EXPECT_EQ(beforeOption.options.listAttributes, QString());
+}
+
 TEST(CliOptions, MalformedCommandLinesAreRefusedWithUsage)
 {
     QTemporaryDir root;
@@ -59,6 +113,14 @@ TEST(CliOptions, MalformedCommandLinesAreRefusedWithUsage)
         {"--ext", "jpg", "--exclude-ext", "png", root.path()},
         {root.path(), "--min-size"}, // the value is missing
         {"--include-hidden"},        // no path at all
+        {"--mode", "size", root.path()},
+        {"--mode", "duration", "--tolerance", "-1", root.path()},
+        {"--mode", "duration", "--tolerance", "soon", root.path()},
+        {"--tolerance", "1", root.path()}, // the content mode has none
+        {"--attribute", "kMDItemTitle", root.path()},
+        {"--mode", "attribute", "--attribute", "", root.path()},
+        {"--mode", "duration", "--ignore-suffixes", root.path()},
+        {"--suffixes", " copy", root.path()},
     };
     for (const QStringList &arguments : cases) {
         const ParseResult result = parseCommandLine(arguments);

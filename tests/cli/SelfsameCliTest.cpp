@@ -12,6 +12,8 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include "support/MediaFiles.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -135,6 +137,37 @@ TEST_F(SelfsameCli, ExitCodesForNoDuplicatesMissingPathsAndBadInput)
     const CliRun skip = runCli({"--skip", "/a(b/", dir.path()});
     EXPECT_EQ(skip.exitCode, 2);
     EXPECT_TRUE(skip.err.contains("Invalid regular expression:\n^a(b$")) << skip.err.toStdString();
+}
+
+TEST(SelfsameCliMetadata, ListsAttributesAndGroupsMediaByDuration)
+{
+    const CliRun all = runCli({"--list-attributes"});
+    EXPECT_EQ(all.exitCode, 0);
+    EXPECT_TRUE(all.out.contains("kMDItemDurationSeconds\tDuration\tNumber\t")) << all.out.toStdString();
+    const CliRun songs = runCli({"--list-attributes", "flac"});
+    EXPECT_EQ(songs.exitCode, 0);
+    EXPECT_TRUE(songs.out.contains("kMDItemAlbum\tAlbum\tString\t"));
+    EXPECT_FALSE(songs.out.contains("kMDItemLatitude"));
+    EXPECT_EQ(runCli({"--list-attributes", "nosuchextension"}).exitCode, 1);
+
+    if (const QString missing = missingMediaTools(); !missing.isEmpty())
+        GTEST_SKIP() << missing.toStdString();
+    QTemporaryDir dir;
+    ASSERT_TRUE(makeAudio(dir.filePath("take1.wav"), 3.0));
+    ASSERT_TRUE(makeAudio(dir.filePath("take2.flac"), 3.04));
+    ASSERT_TRUE(makeAudio(dir.filePath("other.wav"), 5.0));
+    const CliRun found = runCli({"--mode", "duration", "--format", "json", dir.path()});
+    EXPECT_EQ(found.exitCode, 0) << found.err.toStdString();
+    const QJsonArray groups = QJsonDocument::fromJson(found.out)["groups"].toArray();
+    ASSERT_EQ(groups.size(), 1);
+    EXPECT_EQ(groupsOf(groups, dir.path()), (Groups{{"take1.wav", "take2.flac"}}));
+    EXPECT_DOUBLE_EQ(groups[0]["items"][0]["duration"].toDouble(), 3.0);
+
+    const CliRun none = runCli({"--mode", "duration", "--tolerance", "0", "--summary", dir.path()});
+    EXPECT_EQ(none.exitCode, 1);
+    EXPECT_TRUE(none.err.contains("No duplicate files were found.")) << none.err.toStdString();
+    const CliRun noValue = runCli({"--mode", "attribute", "--attribute", "kMDItemAlbum", "--summary", dir.path()});
+    EXPECT_TRUE(noValue.err.contains("No file has been found with the specified spotlight attribute."));
 }
 
 TEST(SelfsameCliInterrupt, SigintStopsTheSearchWithStatus130)
