@@ -1,10 +1,13 @@
 #include "attributes/SpotlightAttributesManager.h"
 
+#include <mutex>
+
 namespace selfsame {
 
 namespace {
 
 struct ProcessCatalogue {
+    std::mutex mutex; // the catalogue is made once, on whichever thread asks first
     MemorySettingsStore memory;
     SettingsStore *store = &memory;
     bool declareAestheticScore = true;
@@ -29,6 +32,7 @@ QStringList defaultActiveSpotlightAttributes()
 
 void SpotlightAttributesManager::setSettingsStore(SettingsStore *store)
 {
+    std::lock_guard lock(process().mutex);
     process().store = store ? store : &process().memory;
     process().catalogue.reset();
 }
@@ -39,6 +43,7 @@ bool SpotlightAttributesManager::declareAestheticScore() { return process().decl
 
 void SpotlightAttributesManager::setDeclareAestheticScore(bool declare)
 {
+    std::lock_guard lock(process().mutex);
     process().declareAestheticScore = declare;
     process().catalogue.reset();
 }
@@ -46,6 +51,7 @@ void SpotlightAttributesManager::setDeclareAestheticScore(bool declare)
 AttributeCatalogue &SpotlightAttributesManager::catalogue()
 {
     ProcessCatalogue &p = process();
+    std::lock_guard lock(p.mutex);
     if (!p.catalogue)
         p.catalogue = std::make_unique<AttributeCatalogue>(AttributeSchema::shipped(), *p.store,
                                                            p.declareAestheticScore);

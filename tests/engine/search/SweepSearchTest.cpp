@@ -16,12 +16,12 @@ namespace {
 // The runs of a descending list of numbers swept with a tolerance, as "a-b" position ranges.
 std::string numberRuns(const std::vector<double> &values, double tolerance)
 {
-    std::string described;
+    QStringList described;
     for (const SweepRun &run : sweep(
              values.size(), [&](std::size_t a) { return values[a] > 0; },
              [&](std::size_t a, std::size_t k) { return std::fabs(values[k] - values[a]) <= tolerance; }))
-        described += (described.empty() ? "" : " ") + std::to_string(run.begin) + "-" + std::to_string(run.end - 1);
-    return described;
+        described.append(QStringLiteral("%1-%2").arg(run.begin).arg(run.end - 1));
+    return described.join(u' ').toStdString();
 }
 
 TEST(Sweep, MatchesAgainstTheAnchorAndSkipsUnusableAnchors)
