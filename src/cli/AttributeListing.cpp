@@ -1,13 +1,15 @@
 #include "AttributeListing.h"
 
-namespace selfsame::cli {
+namespace selfsame::cli
+{
 
 QByteArray attributeListing(const AttributeRecords &records)
 {
     QByteArray out;
     for (auto it = records.begin(); it != records.end(); ++it)
         out += (QStringList{it.key(), it->name, attributeTypeName(it->type), it->description}.join(u'\t') +
-                u'\n').toUtf8();
+                u'\n')
+                   .toUtf8();
     return out;
 }
 

@@ -4,7 +4,8 @@
 
 #include <QByteArray>
 
-namespace selfsame::cli {
+namespace selfsame::cli
+{
 
 // One line per attribute, in key order: key, name, type and description separated by tabs.
 QByteArray attributeListing(const AttributeRecords &records);

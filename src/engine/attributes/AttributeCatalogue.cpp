@@ -3,17 +3,30 @@
 #include <QCoreApplication>
 #include <QMimeDatabase>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
-QString additionText(const char *text) { return QCoreApplication::translate("MDImporterAdditions", text); }
+QString additionText(const char *text)
+{
+    return QCoreApplication::translate("MDImporterAdditions", text);
+}
 
-const char *const kMailKeys[] = {
-    "com_apple_mail_attachmentNames", "com_apple_mail_attachmentTypes", "com_apple_mail_attachmentSpecificTypes",
-    "com_apple_mail_attachmentKinds", "com_apple_mail_dateReceived", "com_apple_mail_dateLastViewed",
-    "com_apple_mail_read", "com_apple_mail_flagColor", "com_apple_mail_flagged", "com_apple_mail_repliedTo",
-    "com_apple_mail_priority", "com_apple_mail_messageID", "kMDItemEmailConversationID"};
+const char *const kMailKeys[] = {"com_apple_mail_attachmentNames",
+                                 "com_apple_mail_attachmentTypes",
+                                 "com_apple_mail_attachmentSpecificTypes",
+                                 "com_apple_mail_attachmentKinds",
+                                 "com_apple_mail_dateReceived",
+                                 "com_apple_mail_dateLastViewed",
+                                 "com_apple_mail_read",
+                                 "com_apple_mail_flagColor",
+                                 "com_apple_mail_flagged",
+                                 "com_apple_mail_repliedTo",
+                                 "com_apple_mail_priority",
+                                 "com_apple_mail_messageID",
+                                 "kMDItemEmailConversationID"};
 
 QVariantMap recordToVariant(const AttributeRecord &record)
 {
@@ -37,14 +50,15 @@ AttributeCatalogue::AttributeCatalogue(const AttributeSchema &schema, SettingsSt
       m_system(schema.attributes())
 {
     const std::pair<const char *, AttributeRecord> additions[] = {
-        {"kMDItemDownloadedDate", {additionText("Downloaded date"), additionText("Date when the item was downloaded"), DateType}},
+        {"kMDItemDownloadedDate",
+         {additionText("Downloaded date"), additionText("Date when the item was downloaded"), DateType}},
         {"kMDItemStartDate", {additionText("Start date"), additionText("Start date of the item"), DateType}},
         {"kMDItemEndDate", {additionText("End date"), additionText("End date of the item"), DateType}},
         {"kMDItemTextContentLength",
-         {additionText("Text content length"), additionText("Length of text content of this item"), NumberType}}};
+         {additionText("Text content length"), additionText("Length of text content of this item"),
+          NumberType}}};
     for (const auto &[key, record] : additions)
-        if (!m_system.contains(QLatin1String(key)))
-            m_system.insert(QLatin1String(key), record);
+        if (!m_system.contains(QLatin1String(key))) m_system.insert(QLatin1String(key), record);
     // A document's whole text is no value to compare.
     m_system.remove(QStringLiteral("kMDItemTextContent"));
 }
@@ -52,17 +66,18 @@ AttributeCatalogue::AttributeCatalogue(const AttributeSchema &schema, SettingsSt
 AttributeRecord AttributeCatalogue::aestheticScoreRecord()
 {
     return {QStringLiteral("Aesthetic score"),
-            QCoreApplication::translate("SearchPanelController", "macOS generated aesthetic score"), NumberType};
+            QCoreApplication::translate("SearchPanelController", "macOS generated aesthetic score"),
+            NumberType};
 }
 
 QVariantMap AttributeCatalogue::customSetting() const
 {
     const QVariant stored = m_settings.value(kCustomSpotlightAttributesKey);
-    if (stored.isValid())
-        return stored.toMap();
+    if (stored.isValid()) return stored.toMap();
     QVariantMap registeredDefault;
     if (m_declareAestheticScore)
-        registeredDefault.insert(QStringLiteral("kMDItemAestheticScore"), recordToVariant(aestheticScoreRecord()));
+        registeredDefault.insert(QStringLiteral("kMDItemAestheticScore"),
+                                 recordToVariant(aestheticScoreRecord()));
     return registeredDefault;
 }
 
@@ -88,22 +103,26 @@ std::shared_ptr<const AttributeRecords> AttributeCatalogue::allAttributes() cons
     return m_all;
 }
 
-QString AttributeCatalogue::displayName(const QString &key) const { return allAttributes()->value(key).name; }
+QString AttributeCatalogue::displayName(const QString &key) const
+{
+    return allAttributes()->value(key).name;
+}
 
 QString AttributeCatalogue::description(const QString &key) const
 {
     return allAttributes()->value(key).description;
 }
 
-int AttributeCatalogue::typeId(const QString &key) const { return allAttributes()->value(key).type; }
+int AttributeCatalogue::typeId(const QString &key) const
+{
+    return allAttributes()->value(key).type;
+}
 
 void AttributeCatalogue::collectAttributesForContentType(const QString &mimeType, QStringList &keys) const
 {
     for (const QString &key : m_schema.keysForContentType(mimeType))
-        if (!keys.contains(key))
-            keys.append(key);
-    if (mimeType.endsWith(QLatin1String("/*")))
-        return;
+        if (!keys.contains(key)) keys.append(key);
+    if (mimeType.endsWith(QLatin1String("/*"))) return;
     // A type conforms to every type of its kind ("image/*"), then to its MIME parents.
     const QString kind = mimeType.left(mimeType.indexOf(u'/')) + QLatin1String("/*");
     collectAttributesForContentType(kind, keys);
@@ -115,28 +134,24 @@ void AttributeCatalogue::collectAttributesForContentType(const QString &mimeType
 std::optional<AttributeRecords> AttributeCatalogue::attributesForFilenameExtension(const QString &extension,
                                                                                    bool filterEmptyName) const
 {
-    if (extension.isEmpty())
-        return std::nullopt;
+    if (extension.isEmpty()) return std::nullopt;
     QString mimeType = m_schema.contentTypeForExtension(extension);
     if (mimeType.isEmpty()) {
         const QMimeType type = QMimeDatabase().mimeTypeForFile(QLatin1String("file.") + extension,
                                                                QMimeDatabase::MatchExtension);
-        if (!type.isValid() || type.isDefault())
-            return std::nullopt;
+        if (!type.isValid() || type.isDefault()) return std::nullopt;
         mimeType = type.name();
     }
     QStringList keys;
     collectAttributesForContentType(mimeType, keys);
     if (extension == QLatin1String("emlx"))
         for (const char *key : kMailKeys)
-            if (!keys.contains(QLatin1String(key)))
-                keys.append(QLatin1String(key));
+            if (!keys.contains(QLatin1String(key))) keys.append(QLatin1String(key));
     AttributeRecords records;
     for (const QString &key : keys) {
         const auto found = m_schema.attributes().find(key);
         const AttributeRecord record = found != m_schema.attributes().end() ? *found : AttributeRecord();
-        if (filterEmptyName && (record.name.isEmpty() || record.description.isEmpty()))
-            continue;
+        if (filterEmptyName && (record.name.isEmpty() || record.description.isEmpty())) continue;
         records.insert(key, record);
     }
     return records;
@@ -144,8 +159,7 @@ std::optional<AttributeRecords> AttributeCatalogue::attributesForFilenameExtensi
 
 bool AttributeCatalogue::addCustomAttribute(const QString &key, const AttributeRecord &record)
 {
-    if (key.isEmpty())
-        return false;
+    if (key.isEmpty()) return false;
     QVariantMap setting = customSetting();
     setting.insert(key, recordToVariant(record));
     m_settings.setValue(kCustomSpotlightAttributesKey, setting);

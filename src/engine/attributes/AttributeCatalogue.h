@@ -4,12 +4,12 @@
 #include "attributes/SettingsStore.h"
 
 #include <QStringList>
-
 #include <memory>
 #include <mutex>
 #include <optional>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // Setting keys of the catalogue.
 inline constexpr QLatin1String kCustomSpotlightAttributesKey("customSpotlightAttributes");
@@ -18,9 +18,11 @@ inline constexpr QLatin1String kCustomSpotlightAttributesKey("customSpotlightAtt
 // and without the full text of documents), and those the user declared by hand, which win
 // over the schema's. The merged view is cached and rebuilt after every change; readers get
 // a snapshot that later changes never touch.
-class AttributeCatalogue {
+class AttributeCatalogue
+{
 public:
-    AttributeCatalogue(const AttributeSchema &schema, SettingsStore &settings, bool declareAestheticScore = true);
+    AttributeCatalogue(const AttributeSchema &schema, SettingsStore &settings,
+                       bool declareAestheticScore = true);
 
     const AttributeRecords &systemAttributes() const { return m_system; }
     AttributeRecords customAttributes() const;

@@ -5,7 +5,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
-namespace selfsame {
+namespace selfsame
+{
 
 AttributeSchema AttributeSchema::fromJson(const QByteArray &json)
 {
@@ -22,8 +23,7 @@ AttributeSchema AttributeSchema::fromJson(const QByteArray &json)
     for (auto it = types.begin(); it != types.end(); ++it) {
         QStringList keys;
         for (const QJsonValue &key : it.value().toArray())
-            if (key.isString())
-                keys.append(key.toString());
+            if (key.isString()) keys.append(key.toString());
         schema.m_contentTypes.insert(it.key(), keys);
     }
     const QJsonObject extensions = root.value(QLatin1String("extensions")).toObject();

@@ -8,7 +8,8 @@
 #include <QString>
 #include <QStringList>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // What the catalogue tells about one attribute.
 struct AttributeRecord {
@@ -25,7 +26,8 @@ using AttributeRecords = QMap<QString, AttributeRecord>;
 // The attribute schema shipped with Selfsame: every key the metadata reader produces, with
 // its name, description and type, which keys each MIME type carries ("image/*" and the like
 // stand for every type of that kind), and MIME types for extensions the MIME database lacks.
-class AttributeSchema {
+class AttributeSchema
+{
 public:
     // A schema from its JSON text; malformed parts are left out.
     static AttributeSchema fromJson(const QByteArray &json);

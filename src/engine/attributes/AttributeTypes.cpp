@@ -2,7 +2,8 @@
 
 #include <QCoreApplication>
 
-namespace selfsame {
+namespace selfsame
+{
 
 int attributeTypeOf(const QVariant &value)
 {

@@ -4,7 +4,8 @@
 #include <QString>
 #include <QVariant>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // Type identifiers of attribute values. The numbers are those that stored settings and
 // attribute records carry; 0 means any or unknown.

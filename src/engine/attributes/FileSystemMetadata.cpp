@@ -1,15 +1,15 @@
 #include "attributes/MetadataSources.h"
-
 #include "results/FileAttributes.h"
 
 #include <QDateTime>
-
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QDateTime dateOf(const struct statx_timestamp &t)
 {
@@ -28,10 +28,15 @@ QString urlAttribute(const QByteArray &localPath, const char *name)
 
 const QSet<QString> &fileSystemKeys()
 {
-    static const QSet<QString> keys = {
-        "kMDItemFSSize", "kMDItemFSName", "kMDItemDisplayName", "kMDItemFSCreationDate",
-        "kMDItemFSContentChangeDate", "kMDItemContentModificationDate", "kMDItemContentType",
-        "kMDItemContentTypeTree", "kMDItemKind"};
+    static const QSet<QString> keys = {"kMDItemFSSize",
+                                       "kMDItemFSName",
+                                       "kMDItemDisplayName",
+                                       "kMDItemFSCreationDate",
+                                       "kMDItemFSContentChangeDate",
+                                       "kMDItemContentModificationDate",
+                                       "kMDItemContentType",
+                                       "kMDItemContentTypeTree",
+                                       "kMDItemKind"};
     return keys;
 }
 
@@ -52,8 +57,7 @@ void readFileSystemValues(const QString &path, const struct statx &st, const QMi
         values.insert(QStringLiteral("kMDItemFSCreationDate"), dateOf(st.stx_btime));
     values.insert(QStringLiteral("kMDItemFSContentChangeDate"), dateOf(st.stx_mtime));
     values.insert(QStringLiteral("kMDItemContentModificationDate"), dateOf(st.stx_mtime));
-    if (!mime.isValid())
-        return;
+    if (!mime.isValid()) return;
     values.insert(QStringLiteral("kMDItemContentType"), mime.name());
     if (keys.contains(QStringLiteral("kMDItemContentTypeTree"))) {
         QVariantList tree{mime.name()};
@@ -68,14 +72,11 @@ void readFileSystemValues(const QString &path, const struct statx &st, const QMi
 void readExtendedAttributeValues(const QByteArray &localPath, MetadataValues &values)
 {
     const QStringList tags = readUserTags(localPath.constData());
-    if (!tags.isEmpty())
-        values.insert(QStringLiteral("kMDItemUserTags"), QVariant(tags).toList());
+    if (!tags.isEmpty()) values.insert(QStringLiteral("kMDItemUserTags"), QVariant(tags).toList());
     QVariantList origins;
     for (const char *name : {"user.xdg.origin.url", "user.xdg.referrer.url"})
-        if (const QString url = urlAttribute(localPath, name); !url.isEmpty())
-            origins.append(url);
-    if (!origins.isEmpty())
-        values.insert(QStringLiteral("kMDItemWhereFroms"), origins);
+        if (const QString url = urlAttribute(localPath, name); !url.isEmpty()) origins.append(url);
+    if (!origins.isEmpty()) values.insert(QStringLiteral("kMDItemWhereFroms"), origins);
 }
 
 } // namespace selfsame

@@ -2,7 +2,6 @@
 
 #include <QDateTime>
 #include <QRegularExpression>
-
 #include <mutex>
 #include <optional>
 
@@ -11,9 +10,11 @@
 #pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 #include <exiv2/exiv2.hpp>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QString trimmed(const std::string &text)
 {
@@ -27,14 +28,14 @@ QString trimmed(const std::string &text)
 QString textOf(const Exiv2::Metadatum &datum)
 {
     const Exiv2::Value &value = datum.value();
-    if (value.typeId() == Exiv2::langAlt)
-        return trimmed(value.toString(0));
+    if (value.typeId() == Exiv2::langAlt) return trimmed(value.toString(0));
     if (value.count() > 1 && (value.typeId() == Exiv2::xmpBag || value.typeId() == Exiv2::xmpSeq))
         return trimmed(value.toString(0));
     return trimmed(value.toString());
 }
 
-class ImageTags {
+class ImageTags
+{
 public:
     explicit ImageTags(const Exiv2::Image &image)
         : m_exif(image.exifData()), m_xmp(image.xmpData()), m_iptc(image.iptcData())
@@ -60,20 +61,17 @@ public:
     {
         for (const char *key : keys)
             if (const Exiv2::Metadatum *datum = find(key))
-                if (QString value = textOf(*datum); !value.isEmpty())
-                    return value;
+                if (QString value = textOf(*datum); !value.isEmpty()) return value;
         return {};
     }
 
     std::optional<double> number(const char *key) const
     {
         const Exiv2::Metadatum *datum = find(key);
-        if (!datum)
-            return std::nullopt;
+        if (!datum) return std::nullopt;
         const Exiv2::Rational r = datum->toRational(0);
         if (datum->typeId() == Exiv2::unsignedRational || datum->typeId() == Exiv2::signedRational) {
-            if (r.second == 0)
-                return std::nullopt;
+            if (r.second == 0) return std::nullopt;
             return double(r.first) / double(r.second);
         }
         return double(datum->toFloat(0));
@@ -84,15 +82,13 @@ public:
     {
         QVariantList items;
         const auto add = [&](const QString &item) {
-            if (!item.isEmpty() && !items.contains(item))
-                items.append(item);
+            if (!item.isEmpty() && !items.contains(item)) items.append(item);
         };
         if (const Exiv2::Metadatum *datum = find(xmpKey))
             for (long i = 0; i < datum->count(); ++i)
                 add(trimmed(datum->toString(i)));
         for (auto it = m_iptc.begin(); it != m_iptc.end(); ++it)
-            if (it->key() == iptcKey)
-                add(trimmed(it->toString()));
+            if (it->key() == iptcKey) add(trimmed(it->toString()));
         return items;
     }
 
@@ -107,26 +103,26 @@ private:
 
 // Degrees from EXIF's three rationals and a reference letter, or from XMP's "DDD,MM.mmk" or
 // "DDD,MM,SSk".
-std::optional<double> ImageTags::coordinate(const char *exifKey, const char *exifRefKey, const char *xmpKey) const
+std::optional<double> ImageTags::coordinate(const char *exifKey, const char *exifRefKey,
+                                            const char *xmpKey) const
 {
     if (const Exiv2::Metadatum *datum = find(exifKey); datum && datum->count() == 3) {
         double degrees = 0;
         double unit = 1;
         for (long i = 0; i < 3; ++i, unit *= 60) {
             const Exiv2::Rational r = datum->toRational(i);
-            if (r.second == 0)
-                return std::nullopt;
+            if (r.second == 0) return std::nullopt;
             degrees += double(r.first) / double(r.second) / unit;
         }
         const QString ref = text({exifRefKey}).toUpper();
         return ref == u'S' || ref == u'W' ? -degrees : degrees;
     }
-    static const QRegularExpression xmp(QStringLiteral("^(\\d+),(\\d+(?:\\.\\d+)?)(?:,(\\d+(?:\\.\\d+)?))?([NSEW])$"));
+    static const QRegularExpression xmp(
+        QStringLiteral("^(\\d+),(\\d+(?:\\.\\d+)?)(?:,(\\d+(?:\\.\\d+)?))?([NSEW])$"));
     const QRegularExpressionMatch match = xmp.match(text({xmpKey}).toUpper());
-    if (!match.hasMatch())
-        return std::nullopt;
-    const double degrees =
-        match.captured(1).toDouble() + match.captured(2).toDouble() / 60 + match.captured(3).toDouble() / 3600;
+    if (!match.hasMatch()) return std::nullopt;
+    const double degrees = match.captured(1).toDouble() + match.captured(2).toDouble() / 60 +
+                           match.captured(3).toDouble() / 3600;
     return match.captured(4) == u'S' || match.captured(4) == u'W' ? -degrees : degrees;
 }
 
@@ -145,7 +141,8 @@ QDateTime ImageTags::creationDate() const
         }
         return date;
     }
-    const QString xmp = text({"Xmp.exif.DateTimeOriginal", "Xmp.photoshop.DateCreated", "Xmp.xmp.CreateDate"});
+    const QString xmp =
+        text({"Xmp.exif.DateTimeOriginal", "Xmp.photoshop.DateCreated", "Xmp.xmp.CreateDate"});
     return QDateTime::fromString(xmp, Qt::ISODate);
 }
 
@@ -153,12 +150,10 @@ void readTags(const Exiv2::Image &image, MetadataValues &values)
 {
     const ImageTags tags(image);
     const auto putText = [&](const char *key, std::initializer_list<const char *> sources) {
-        if (QString value = tags.text(sources); !value.isEmpty())
-            values.insert(QLatin1String(key), value);
+        if (QString value = tags.text(sources); !value.isEmpty()) values.insert(QLatin1String(key), value);
     };
     const auto putNumber = [&](const char *key, const char *source) {
-        if (const auto value = tags.number(source))
-            values.insert(QLatin1String(key), *value);
+        if (const auto value = tags.number(source)) values.insert(QLatin1String(key), *value);
     };
 
     if (const auto latitude = tags.coordinate("Exif.GPSInfo.GPSLatitude", "Exif.GPSInfo.GPSLatitudeRef",
@@ -185,7 +180,8 @@ void readTags(const Exiv2::Image &image, MetadataValues &values)
         // 0 landscape, 1 portrait, as displayed: EXIF orientations 5 to 8 turn the image.
         const double orientation = tags.number("Exif.Image.Orientation").value_or(1);
         const bool turned = orientation >= 5 && orientation <= 8;
-        values.insert(QStringLiteral("kMDItemOrientation"), (turned ? width > height : height > width) ? 1.0 : 0.0);
+        values.insert(QStringLiteral("kMDItemOrientation"),
+                      (turned ? width > height : height > width) ? 1.0 : 0.0);
     }
 
     putText("kMDItemAcquisitionMake", {"Exif.Image.Make"});
@@ -199,14 +195,16 @@ void readTags(const Exiv2::Image &image, MetadataValues &values)
         values.insert(QStringLiteral("kMDItemFlashOnOff"), (qint64(*flash) & 1) != 0);
 
     putText("kMDItemTitle", {"Xmp.dc.title", "Iptc.Application2.ObjectName"});
-    putText("kMDItemDescription", {"Xmp.dc.description", "Exif.Image.ImageDescription", "Iptc.Application2.Caption"});
+    putText("kMDItemDescription",
+            {"Xmp.dc.description", "Exif.Image.ImageDescription", "Iptc.Application2.Caption"});
     putText("kMDItemHeadline", {"Xmp.photoshop.Headline", "Iptc.Application2.Headline"});
     putText("kMDItemCopyright", {"Xmp.dc.rights", "Exif.Image.Copyright", "Iptc.Application2.Copyright"});
     putText("kMDItemCreator", {"Xmp.xmp.CreatorTool", "Exif.Image.Software"});
-    putText("kMDItemIdentifier", {"Xmp.dc.identifier", "Exif.Photo.ImageUniqueID",
-                                  "Iptc.Application2.TransmissionReference"});
+    putText("kMDItemIdentifier",
+            {"Xmp.dc.identifier", "Exif.Photo.ImageUniqueID", "Iptc.Application2.TransmissionReference"});
     putText("kMDItemOriginalSource", {"Xmp.photoshop.Source", "Iptc.Application2.Source"});
-    if (const QVariantList keywords = tags.list("Xmp.dc.subject", "Iptc.Application2.Keywords"); !keywords.isEmpty())
+    if (const QVariantList keywords = tags.list("Xmp.dc.subject", "Iptc.Application2.Keywords");
+        !keywords.isEmpty())
         values.insert(QStringLiteral("kMDItemKeywords"), keywords);
 }
 
@@ -220,13 +218,18 @@ void lockXmpToolkit(void *mutex, bool lock)
 
 const QSet<QString> &imageKeys()
 {
-    static const QSet<QString> keys = {
-        "kMDItemLatitude", "kMDItemLongitude", "kMDItemAltitude", "kMDItemContentCreationDate",
-        "kMDItemPixelWidth", "kMDItemPixelHeight", "kMDItemOrientation", "kMDItemAcquisitionMake",
-        "kMDItemAcquisitionModel", "kMDItemExposureTimeSeconds", "kMDItemFNumber", "kMDItemFocalLength",
-        "kMDItemISOSpeed", "kMDItemFlashOnOff", "kMDItemLensModel", "kMDItemTitle", "kMDItemDescription",
-        "kMDItemHeadline", "kMDItemKeywords", "kMDItemCopyright", "kMDItemCreator", "kMDItemIdentifier",
-        "kMDItemOriginalSource"};
+    static const QSet<QString> keys = {"kMDItemLatitude",         "kMDItemLongitude",
+                                       "kMDItemAltitude",         "kMDItemContentCreationDate",
+                                       "kMDItemPixelWidth",       "kMDItemPixelHeight",
+                                       "kMDItemOrientation",      "kMDItemAcquisitionMake",
+                                       "kMDItemAcquisitionModel", "kMDItemExposureTimeSeconds",
+                                       "kMDItemFNumber",          "kMDItemFocalLength",
+                                       "kMDItemISOSpeed",         "kMDItemFlashOnOff",
+                                       "kMDItemLensModel",        "kMDItemTitle",
+                                       "kMDItemDescription",      "kMDItemHeadline",
+                                       "kMDItemKeywords",         "kMDItemCopyright",
+                                       "kMDItemCreator",          "kMDItemIdentifier",
+                                       "kMDItemOriginalSource"};
     return keys;
 }
 
@@ -241,8 +244,7 @@ void readImageValues(const QByteArray &localPath, MetadataValues &values)
     });
     try {
         Exiv2::Image::AutoPtr image = Exiv2::ImageFactory::open(localPath.toStdString(), false);
-        if (!image.get())
-            return;
+        if (!image.get()) return;
         image->readMetadata();
         readTags(*image, values);
     } catch (const std::exception &) {

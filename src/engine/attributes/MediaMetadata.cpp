@@ -16,9 +16,11 @@ extern "C" {
 #include <optional>
 #include <unistd.h>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 using Clock = std::chrono::steady_clock;
 
@@ -43,13 +45,10 @@ struct BoundedInput {
 int readPacket(void *opaque, uint8_t *buffer, int size)
 {
     auto *input = static_cast<BoundedInput *>(opaque);
-    if (input->exhausted())
-        return AVERROR_EXIT;
+    if (input->exhausted()) return AVERROR_EXIT;
     const ssize_t n = pread(input->fd, buffer, std::size_t(size), input->position);
-    if (n < 0)
-        return AVERROR(errno);
-    if (n == 0)
-        return AVERROR_EOF;
+    if (n < 0) return AVERROR(errno);
+    if (n == 0) return AVERROR_EOF;
     input->position += n;
     input->bytesRead += n;
     return int(n);
@@ -74,13 +73,15 @@ int64_t seekInput(void *opaque, int64_t offset, int whence)
     default:
         return AVERROR(EINVAL);
     }
-    if (target < 0)
-        return AVERROR(EINVAL);
+    if (target < 0) return AVERROR(EINVAL);
     input->position = target;
     return target;
 }
 
-int interrupted(void *opaque) { return static_cast<const BoundedInput *>(opaque)->exhausted() ? 1 : 0; }
+int interrupted(void *opaque)
+{
+    return static_cast<const BoundedInput *>(opaque)->exhausted() ? 1 : 0;
+}
 
 // Tags of the container first, then of the streams: Vorbis and Opus keep theirs on the stream.
 const char *tag(const AVFormatContext *format, const char *name)
@@ -88,7 +89,8 @@ const char *tag(const AVFormatContext *format, const char *name)
     if (const AVDictionaryEntry *e = av_dict_get(format->metadata, name, nullptr, 0); e && *e->value)
         return e->value;
     for (unsigned i = 0; i < format->nb_streams; ++i)
-        if (const AVDictionaryEntry *e = av_dict_get(format->streams[i]->metadata, name, nullptr, 0); e && *e->value)
+        if (const AVDictionaryEntry *e = av_dict_get(format->streams[i]->metadata, name, nullptr, 0);
+            e && *e->value)
             return e->value;
     return nullptr;
 }
@@ -96,8 +98,7 @@ const char *tag(const AVFormatContext *format, const char *name)
 QDateTime isoDate(const char *text)
 {
     QDateTime date = QDateTime::fromString(QString::fromUtf8(text).trimmed(), Qt::ISODateWithMs);
-    if (!date.isValid())
-        date = QDateTime::fromString(QString::fromUtf8(text).trimmed(), Qt::ISODate);
+    if (!date.isValid()) date = QDateTime::fromString(QString::fromUtf8(text).trimmed(), Qt::ISODate);
     return date;
 }
 
@@ -106,8 +107,7 @@ std::optional<double> leadingNumber(const char *text)
 {
     static const QRegularExpression number(QStringLiteral("^\\s*(\\d+)"));
     const QRegularExpressionMatch match = number.match(QString::fromUtf8(text));
-    if (!match.hasMatch())
-        return std::nullopt;
+    if (!match.hasMatch()) return std::nullopt;
     return match.captured(1).toDouble();
 }
 
@@ -116,8 +116,7 @@ void readLocation(const char *text, MetadataValues &values)
 {
     static const QRegularExpression iso6709(QStringLiteral("^([+-]\\d+(?:\\.\\d+)?)([+-]\\d+(?:\\.\\d+)?)"));
     const QRegularExpressionMatch match = iso6709.match(QString::fromUtf8(text));
-    if (!match.hasMatch())
-        return;
+    if (!match.hasMatch()) return;
     values.insert(QStringLiteral("kMDItemLatitude"), match.captured(1).toDouble());
     values.insert(QStringLiteral("kMDItemLongitude"), match.captured(2).toDouble());
 }
@@ -129,22 +128,18 @@ void readTags(const AVFormatContext *format, MetadataValues &values)
         return value ? QString::fromUtf8(value).trimmed() : QString();
     };
     const auto putText = [&](const char *key, const char *name) {
-        if (const QString value = text(name); !value.isEmpty())
-            values.insert(QLatin1String(key), value);
+        if (const QString value = text(name); !value.isEmpty()) values.insert(QLatin1String(key), value);
     };
     putText("kMDItemTitle", "title");
     putText("kMDItemAlbum", "album");
     putText("kMDItemComposer", "composer");
     putText("kMDItemMusicalGenre", "genre");
     QString author = text("artist");
-    if (author.isEmpty())
-        author = text("author");
-    if (!author.isEmpty())
-        values.insert(QStringLiteral("kMDItemAuthors"), QVariantList{author});
+    if (author.isEmpty()) author = text("author");
+    if (!author.isEmpty()) values.insert(QStringLiteral("kMDItemAuthors"), QVariantList{author});
 
     const char *date = tag(format, "date");
-    if (!date)
-        date = tag(format, "year");
+    if (!date) date = tag(format, "year");
     if (date)
         if (const auto year = leadingNumber(date))
             values.insert(QStringLiteral("kMDItemRecordingYear"), *year);
@@ -153,8 +148,7 @@ void readTags(const AVFormatContext *format, MetadataValues &values)
             values.insert(QStringLiteral("kMDItemAudioTrackNumber"), *number);
 
     QDateTime created;
-    if (const char *creation = tag(format, "creation_time"))
-        created = isoDate(creation);
+    if (const char *creation = tag(format, "creation_time")) created = isoDate(creation);
     if (created.isValid()) {
         values.insert(QStringLiteral("kMDItemContentCreationDate"), created);
         values.insert(QStringLiteral("kMDItemRecordingDate"), created);
@@ -163,10 +157,8 @@ void readTags(const AVFormatContext *format, MetadataValues &values)
             values.insert(QStringLiteral("kMDItemRecordingDate"), recorded);
     }
     const char *location = tag(format, "location");
-    if (!location)
-        location = tag(format, "com.apple.quicktime.location.ISO6709");
-    if (location)
-        readLocation(location, values);
+    if (!location) location = tag(format, "com.apple.quicktime.location.ISO6709");
+    if (location) readLocation(location, values);
 }
 
 // The duration in seconds as far as the headers tell it, without reading packets.
@@ -187,8 +179,7 @@ bool streamsDescribed(const AVFormatContext *format)
 {
     for (unsigned i = 0; i < format->nb_streams; ++i) {
         const AVCodecParameters *codec = format->streams[i]->codecpar;
-        if (codec->codec_id == AV_CODEC_ID_NONE)
-            return false;
+        if (codec->codec_id == AV_CODEC_ID_NONE) return false;
         if (codec->codec_type == AVMEDIA_TYPE_VIDEO && (codec->width <= 0 || codec->height <= 0))
             return false;
     }
@@ -207,8 +198,7 @@ void readStreams(const AVFormatContext *format, double duration, int64_t fileSiz
         if (codec->codec_id != AV_CODEC_ID_NONE && !coverArt &&
             (codec->codec_type == AVMEDIA_TYPE_AUDIO || codec->codec_type == AVMEDIA_TYPE_VIDEO)) {
             const QString name = QString::fromLatin1(avcodec_get_name(codec->codec_id));
-            if (!codecs.contains(name))
-                codecs.append(name);
+            if (!codecs.contains(name)) codecs.append(name);
         }
         if (codec->codec_type == AVMEDIA_TYPE_AUDIO) {
             audioBitRate += double(codec->bit_rate);
@@ -217,7 +207,8 @@ void readStreams(const AVFormatContext *format, double duration, int64_t fileSiz
                 if (codec->sample_rate > 0)
                     values.insert(QStringLiteral("kMDItemAudioSampleRate"), double(codec->sample_rate));
                 if (codec->ch_layout.nb_channels > 0)
-                    values.insert(QStringLiteral("kMDItemAudioChannelCount"), double(codec->ch_layout.nb_channels));
+                    values.insert(QStringLiteral("kMDItemAudioChannelCount"),
+                                  double(codec->ch_layout.nb_channels));
             }
         } else if (codec->codec_type == AVMEDIA_TYPE_VIDEO && !coverArt) {
             videoBitRate += double(codec->bit_rate);
@@ -228,29 +219,38 @@ void readStreams(const AVFormatContext *format, double duration, int64_t fileSiz
             }
         }
     }
-    if (!codecs.isEmpty())
-        values.insert(QStringLiteral("kMDItemCodecs"), codecs);
-    if (audioBitRate > 0)
-        values.insert(QStringLiteral("kMDItemAudioBitRate"), audioBitRate);
-    if (videoBitRate > 0)
-        values.insert(QStringLiteral("kMDItemVideoBitRate"), videoBitRate);
+    if (!codecs.isEmpty()) values.insert(QStringLiteral("kMDItemCodecs"), codecs);
+    if (audioBitRate > 0) values.insert(QStringLiteral("kMDItemAudioBitRate"), audioBitRate);
+    if (videoBitRate > 0) values.insert(QStringLiteral("kMDItemVideoBitRate"), videoBitRate);
     double total = double(format->bit_rate);
-    if (total <= 0 && duration > 0)
-        total = double(fileSize) * 8 / duration;
-    if (total > 0)
-        values.insert(QStringLiteral("kMDItemTotalBitRate"), std::round(total));
+    if (total <= 0 && duration > 0) total = double(fileSize) * 8 / duration;
+    if (total > 0) values.insert(QStringLiteral("kMDItemTotalBitRate"), std::round(total));
 }
 
 } // namespace
 
 const QSet<QString> &mediaKeys()
 {
-    static const QSet<QString> keys = {
-        "kMDItemDurationSeconds", "kMDItemTotalBitRate", "kMDItemCodecs", "kMDItemAudioBitRate",
-        "kMDItemVideoBitRate", "kMDItemAudioSampleRate", "kMDItemAudioChannelCount", "kMDItemPixelWidth",
-        "kMDItemPixelHeight", "kMDItemTitle", "kMDItemAlbum", "kMDItemAuthors", "kMDItemComposer",
-        "kMDItemMusicalGenre", "kMDItemRecordingYear", "kMDItemRecordingDate", "kMDItemContentCreationDate",
-        "kMDItemAudioTrackNumber", "kMDItemLatitude", "kMDItemLongitude"};
+    static const QSet<QString> keys = {"kMDItemDurationSeconds",
+                                       "kMDItemTotalBitRate",
+                                       "kMDItemCodecs",
+                                       "kMDItemAudioBitRate",
+                                       "kMDItemVideoBitRate",
+                                       "kMDItemAudioSampleRate",
+                                       "kMDItemAudioChannelCount",
+                                       "kMDItemPixelWidth",
+                                       "kMDItemPixelHeight",
+                                       "kMDItemTitle",
+                                       "kMDItemAlbum",
+                                       "kMDItemAuthors",
+                                       "kMDItemComposer",
+                                       "kMDItemMusicalGenre",
+                                       "kMDItemRecordingYear",
+                                       "kMDItemRecordingDate",
+                                       "kMDItemContentCreationDate",
+                                       "kMDItemAudioTrackNumber",
+                                       "kMDItemLatitude",
+                                       "kMDItemLongitude"};
     return keys;
 }
 
@@ -261,15 +261,15 @@ void readMediaValues(const QByteArray &localPath, MetadataValues &values)
 
     BoundedInput input;
     input.fd = open(localPath.constData(), O_RDONLY | O_CLOEXEC | O_NOCTTY | O_NONBLOCK);
-    if (input.fd < 0)
-        return;
+    if (input.fd < 0) return;
     input.size = lseek(input.fd, 0, SEEK_END);
     input.deadline = Clock::now() + kTimeLimit;
 
     AVFormatContext *format = avformat_alloc_context();
     auto *buffer = static_cast<uint8_t *>(av_malloc(kBufferSize));
-    AVIOContext *io = format && buffer ? avio_alloc_context(buffer, kBufferSize, 0, &input, readPacket, nullptr, seekInput)
-                                       : nullptr;
+    AVIOContext *io = format && buffer
+                          ? avio_alloc_context(buffer, kBufferSize, 0, &input, readPacket, nullptr, seekInput)
+                          : nullptr;
     if (!io) {
         av_free(buffer);
         avformat_free_context(format);
@@ -290,8 +290,7 @@ void readMediaValues(const QByteArray &localPath, MetadataValues &values)
         // Packets are read only when the headers leave the duration or a stream undescribed.
         if ((duration < 0 || !streamsDescribed(format)) && avformat_find_stream_info(format, nullptr) >= 0)
             duration = headerDuration(format);
-        if (duration >= 0)
-            values.insert(QStringLiteral("kMDItemDurationSeconds"), duration);
+        if (duration >= 0) values.insert(QStringLiteral("kMDItemDurationSeconds"), duration);
         readStreams(format, duration, input.size, values);
         readTags(format, values);
         avformat_close_input(&format);

@@ -4,22 +4,26 @@
 
 #include <QFile>
 #include <QMimeDatabase>
-
 #include <fcntl.h>
 #include <sys/stat.h>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
-bool wantsAny(const QSet<QString> &keys, const QSet<QString> &sourceKeys) { return keys.intersects(sourceKeys); }
+bool wantsAny(const QSet<QString> &keys, const QSet<QString> &sourceKeys)
+{
+    return keys.intersects(sourceKeys);
+}
 
 bool isMedia(const QMimeType &mime)
 {
     const QString name = mime.name();
     return name.startsWith(QLatin1String("audio/")) || name.startsWith(QLatin1String("video/")) ||
-           mime.inherits(QStringLiteral("application/ogg")) || name == QLatin1String("application/vnd.rn-realmedia") ||
-           name == QLatin1String("application/mxf");
+           mime.inherits(QStringLiteral("application/ogg")) ||
+           name == QLatin1String("application/vnd.rn-realmedia") || name == QLatin1String("application/mxf");
 }
 
 } // namespace
@@ -33,8 +37,10 @@ MetadataValues readMetadata(const QString &path, const QSet<QString> &keys)
 {
     MetadataValues values;
     const QByteArray localPath = QFile::encodeName(path);
-    struct statx st {};
-    if (keys.isEmpty() || statx(AT_FDCWD, localPath.constData(), 0, STATX_BASIC_STATS | STATX_BTIME, &st) != 0)
+    struct statx st {
+    };
+    if (keys.isEmpty() ||
+        statx(AT_FDCWD, localPath.constData(), 0, STATX_BASIC_STATS | STATX_BTIME, &st) != 0)
         return values;
 
     const bool regular = S_ISREG(st.stx_mode);
@@ -44,15 +50,14 @@ MetadataValues readMetadata(const QString &path, const QSet<QString> &keys)
                             keys.contains(QStringLiteral("kMDItemContentTypeTree")) ||
                             keys.contains(QStringLiteral("kMDItemKind"));
     // The type comes from the name when it is unambiguous, else from the first bytes.
-    const QMimeType mime = media || image || typeWanted
-                               ? QMimeDatabase().mimeTypeForFile(path, regular ? QMimeDatabase::MatchDefault
-                                                                               : QMimeDatabase::MatchExtension)
-                               : QMimeType();
+    const QMimeType mime =
+        media || image || typeWanted
+            ? QMimeDatabase().mimeTypeForFile(path, regular ? QMimeDatabase::MatchDefault
+                                                            : QMimeDatabase::MatchExtension)
+            : QMimeType();
 
-    if (wantsAny(keys, fileSystemKeys()))
-        readFileSystemValues(path, st, mime, keys, values);
-    if (wantsAny(keys, extendedAttributeKeys()))
-        readExtendedAttributeValues(localPath, values);
+    if (wantsAny(keys, fileSystemKeys())) readFileSystemValues(path, st, mime, keys, values);
+    if (wantsAny(keys, extendedAttributeKeys())) readExtendedAttributeValues(localPath, values);
     if (media && isMedia(mime))
         readMediaValues(localPath, values);
     else if (image && mime.name().startsWith(QLatin1String("image/")))

@@ -5,7 +5,8 @@
 #include <QSet>
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // Reads the "kMDItem…" values of one file on demand: file-system values from statx, tags
 // and origins from extended attributes, audio and video values through FFmpeg, image values

@@ -12,7 +12,8 @@
 
 struct statx;
 
-namespace selfsame {
+namespace selfsame
+{
 
 const QSet<QString> &fileSystemKeys();
 const QSet<QString> &extendedAttributeKeys();
@@ -20,8 +21,8 @@ const QSet<QString> &mediaKeys();
 const QSet<QString> &imageKeys();
 
 // statx values, the name, and the MIME type (with its ancestors and description) when asked.
-void readFileSystemValues(const QString &path, const struct statx &st, const QMimeType &mime, const QSet<QString> &keys,
-                          MetadataValues &values);
+void readFileSystemValues(const QString &path, const struct statx &st, const QMimeType &mime,
+                          const QSet<QString> &keys, MetadataValues &values);
 void readExtendedAttributeValues(const QByteArray &localPath, MetadataValues &values);
 // Audio and video files; the file is read through bounded, time-limited I/O.
 void readMediaValues(const QByteArray &localPath, MetadataValues &values);

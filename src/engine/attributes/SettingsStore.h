@@ -4,12 +4,14 @@
 #include <QVariant>
 #include <QVariantMap>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The user settings the engine reads and writes, by key. The application backs it with its
 // settings file; the command line and tests keep the values in memory. An absent key reads
 // as an invalid QVariant: registered defaults are for the caller to apply.
-class SettingsStore {
+class SettingsStore
+{
 public:
     virtual ~SettingsStore() = default;
     virtual QVariant value(const QString &key) const = 0;
@@ -17,7 +19,8 @@ public:
     virtual void remove(const QString &key) = 0;
 };
 
-class MemorySettingsStore : public SettingsStore {
+class MemorySettingsStore : public SettingsStore
+{
 public:
     QVariant value(const QString &key) const override { return m_values.value(key); }
     void setValue(const QString &key, const QVariant &value) override { m_values.insert(key, value); }

@@ -2,9 +2,11 @@
 
 #include <mutex>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 struct ProcessCatalogue {
     std::mutex mutex; // the catalogue is made once, on whichever thread asks first
@@ -24,10 +26,21 @@ ProcessCatalogue &process()
 
 QStringList defaultActiveSpotlightAttributes()
 {
-    return {"kMDItemContentCreationDate", "kMDItemRecordingDate", "kMDItemFSCreationDate", "kMDItemDurationSeconds",
-            "kMDItemAlbum", "kMDItemTitle", "kMDItemDisplayName", "kMDItemDescription", "kMDItemHeadline",
-            "kMDItemLatitude", "kMDItemLongitude", "kMDItemIdentifier", "kMDItemOriginalSource",
-            "kMDItemWhereFroms", "kMDItemAestheticScore"};
+    return {"kMDItemContentCreationDate",
+            "kMDItemRecordingDate",
+            "kMDItemFSCreationDate",
+            "kMDItemDurationSeconds",
+            "kMDItemAlbum",
+            "kMDItemTitle",
+            "kMDItemDisplayName",
+            "kMDItemDescription",
+            "kMDItemHeadline",
+            "kMDItemLatitude",
+            "kMDItemLongitude",
+            "kMDItemIdentifier",
+            "kMDItemOriginalSource",
+            "kMDItemWhereFroms",
+            "kMDItemAestheticScore"};
 }
 
 void SpotlightAttributesManager::setSettingsStore(SettingsStore *store)
@@ -37,9 +50,15 @@ void SpotlightAttributesManager::setSettingsStore(SettingsStore *store)
     process().catalogue.reset();
 }
 
-SettingsStore &SpotlightAttributesManager::settingsStore() { return *process().store; }
+SettingsStore &SpotlightAttributesManager::settingsStore()
+{
+    return *process().store;
+}
 
-bool SpotlightAttributesManager::declareAestheticScore() { return process().declareAestheticScore; }
+bool SpotlightAttributesManager::declareAestheticScore()
+{
+    return process().declareAestheticScore;
+}
 
 void SpotlightAttributesManager::setDeclareAestheticScore(bool declare)
 {
@@ -79,7 +98,8 @@ int SpotlightAttributesManager::GetTypeIDForSpotlightAttribute(const QString &ke
 }
 
 std::optional<AttributeRecords>
-SpotlightAttributesManager::GetSpotlightAttributesForFilenameExtension(const QString &extension, bool filterEmptyName)
+SpotlightAttributesManager::GetSpotlightAttributesForFilenameExtension(const QString &extension,
+                                                                       bool filterEmptyName)
 {
     return catalogue().attributesForFilenameExtension(extension, filterEmptyName);
 }
@@ -89,25 +109,21 @@ void SpotlightAttributesManager::CollectSpotlightAttributesForUTI(const QString 
     catalogue().collectAttributesForContentType(mimeType, keys);
 }
 
-SpotlightAttributesManager::Popup SpotlightAttributesManager::updateSpotlightAttributePopup(
-    const std::optional<QString> &key)
+SpotlightAttributesManager::Popup
+SpotlightAttributesManager::updateSpotlightAttributePopup(const std::optional<QString> &key)
 {
-    if (key)
-        m_spotlightPopupLastRepresentedObject = key;
+    if (key) m_spotlightPopupLastRepresentedObject = key;
     const bool showKeys = settingsStore().value(kShowSpotlightAttributesKeyKey).toBool();
     Popup popup;
     for (const QString &active : m_active) {
         QString title = GetDisplayNameForSpotlightAttribute(active);
-        if (title.isEmpty() && showKeys)
-            title = active;
-        if (title.isEmpty())
-            continue;
+        if (title.isEmpty() && showKeys) title = active;
+        if (title.isEmpty()) continue;
         if (active == m_spotlightPopupLastRepresentedObject && popup.selected < 0)
             popup.selected = popup.items.size();
         popup.items.append({title, active});
     }
-    if (popup.selected < 0 && !popup.items.isEmpty())
-        popup.selected = 0;
+    if (popup.selected < 0 && !popup.items.isEmpty()) popup.selected = 0;
     return popup;
 }
 
@@ -128,8 +144,7 @@ std::optional<QString> SpotlightAttributesManager::spotlightAttributesOK(const Q
     std::optional<QString> result;
     if (selectedKeys.size() == 1) {
         result = selectedKeys.first();
-        if (!m_edited.contains(*result))
-            m_edited.prepend(*result);
+        if (!m_edited.contains(*result)) m_edited.prepend(*result);
     }
     m_active = m_edited;
     settingsStore().setValue(kActiveSpotlightAttributesKey, m_active);

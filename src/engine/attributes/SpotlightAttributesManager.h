@@ -4,11 +4,11 @@
 
 #include <QList>
 #include <QStringList>
-
 #include <memory>
 #include <optional>
 
-namespace selfsame {
+namespace selfsame
+{
 
 inline constexpr QLatin1String kActiveSpotlightAttributesKey("activeSpotlightAttributes");
 inline constexpr QLatin1String kShowSpotlightAttributesKeyKey("ShowSpotlightAttributesKey");
@@ -19,7 +19,8 @@ QStringList defaultActiveSpotlightAttributes();
 // The attribute catalogue as the application uses it: class-level functions over one
 // process-wide catalogue, and per instance the user's short list of active attributes, the
 // entries of the attribute pop-up and the steps of the chooser, free of any widget.
-class SpotlightAttributesManager {
+class SpotlightAttributesManager
+{
 public:
     // The store behind the catalogue's settings; set once at start, before any other use.
     // Until then an in-memory store serves.
@@ -33,8 +34,8 @@ public:
     static QString GetDisplayNameForSpotlightAttribute(const QString &key);
     static QString GetDescriptionForSpotlightAttribute(const QString &key);
     static int GetTypeIDForSpotlightAttribute(const QString &key);
-    static std::optional<AttributeRecords> GetSpotlightAttributesForFilenameExtension(const QString &extension,
-                                                                                       bool filterEmptyName);
+    static std::optional<AttributeRecords>
+    GetSpotlightAttributesForFilenameExtension(const QString &extension, bool filterEmptyName);
     static void CollectSpotlightAttributesForUTI(const QString &mimeType, QStringList &keys);
 
     struct PopupItem {

@@ -1,8 +1,10 @@
 #include "search/FilenameSortKey.h"
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 // The position of the dot before the extension, or -1 when the name has none (a leading dot
 // alone makes no extension).
@@ -12,7 +14,10 @@ qsizetype extensionDot(const QString &name)
     return dot > 0 && dot + 1 < name.size() ? dot : -1;
 }
 
-QString lastPathComponent(const QString &path) { return path.mid(path.lastIndexOf(u'/') + 1); }
+QString lastPathComponent(const QString &path)
+{
+    return path.mid(path.lastIndexOf(u'/') + 1);
+}
 
 } // namespace
 
@@ -20,28 +25,31 @@ QString FilenameSortKey::keyValue(const QString &path) const
 {
     QString name = lastPathComponent(path);
     if (keyPath.contains(QLatin1String("stringByDeletingPathExtension"))) {
-        if (const qsizetype dot = extensionDot(name); dot >= 0)
-            name.truncate(dot);
+        if (const qsizetype dot = extensionDot(name); dot >= 0) name.truncate(dot);
     }
     return name.toLower();
 }
 
-FilenameSortKey getFilenameSortKey(bool filenameIgnoreExtension,
-                                   const std::optional<QList<QRegularExpression>> &filenameIgnoreCommonSuffixRegexes)
+FilenameSortKey
+getFilenameSortKey(bool filenameIgnoreExtension,
+                   const std::optional<QList<QRegularExpression>> &filenameIgnoreCommonSuffixRegexes)
 {
     if (filenameIgnoreCommonSuffixRegexes) {
-        return {QStringLiteral("URL.path.lastPathComponent.lowercaseString"),
-                [filenameIgnoreExtension, regexes = *filenameIgnoreCommonSuffixRegexes](const QString &value) {
-                    return removePathExtension(filenameIgnoreExtension, regexes, value);
-                }};
+        return {
+            QStringLiteral("URL.path.lastPathComponent.lowercaseString"),
+            [filenameIgnoreExtension, regexes = *filenameIgnoreCommonSuffixRegexes](const QString &value) {
+                return removePathExtension(filenameIgnoreExtension, regexes, value);
+            }};
     }
     const auto plain = [](const QString &value) { return value; };
     if (filenameIgnoreExtension)
-        return {QStringLiteral("URL.path.lastPathComponent.stringByDeletingPathExtension.lowercaseString"), plain};
+        return {QStringLiteral("URL.path.lastPathComponent.stringByDeletingPathExtension.lowercaseString"),
+                plain};
     return {kSortByNameKeyPath, plain};
 }
 
-QString removePathExtension(bool removeExtension, const QList<QRegularExpression> &suffixRegexes, const QString &name)
+QString removePathExtension(bool removeExtension, const QList<QRegularExpression> &suffixRegexes,
+                            const QString &name)
 {
     QString base = name;
     QString extension;
@@ -52,12 +60,10 @@ QString removePathExtension(bool removeExtension, const QList<QRegularExpression
     qsizetype longest = 0;
     for (const QRegularExpression &expression : suffixRegexes) {
         const QRegularExpressionMatch match = expression.match(base);
-        if (match.hasMatch())
-            longest = std::max(longest, match.capturedLength());
+        if (match.hasMatch()) longest = std::max(longest, match.capturedLength());
     }
     base.chop(longest);
-    if (removeExtension || extension.isEmpty())
-        return base;
+    if (removeExtension || extension.isEmpty()) return base;
     return base + u'.' + extension;
 }
 

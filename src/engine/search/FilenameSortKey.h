@@ -3,11 +3,11 @@
 #include <QList>
 #include <QRegularExpression>
 #include <QString>
-
 #include <functional>
 #include <optional>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The name of the result list's name column as a sort key.
 inline constexpr QLatin1String kSortByNameKeyPath("URL.path.lastPathComponent.lowercaseString");
@@ -28,11 +28,13 @@ struct FilenameSortKey {
 // With suffix expressions (even none), names are compared lower-cased without the longest
 // matching suffix (and without their extension when asked); otherwise lower-cased, with or
 // without the extension.
-FilenameSortKey getFilenameSortKey(bool filenameIgnoreExtension,
-                                   const std::optional<QList<QRegularExpression>> &filenameIgnoreCommonSuffixRegexes);
+FilenameSortKey
+getFilenameSortKey(bool filenameIgnoreExtension,
+                   const std::optional<QList<QRegularExpression>> &filenameIgnoreCommonSuffixRegexes);
 
 // The name without its extension (when asked) and without the longest suffix that any of the
 // end-anchored expressions matches.
-QString removePathExtension(bool removeExtension, const QList<QRegularExpression> &suffixRegexes, const QString &name);
+QString removePathExtension(bool removeExtension, const QList<QRegularExpression> &suffixRegexes,
+                            const QString &name);
 
 } // namespace selfsame

@@ -2,10 +2,10 @@
 
 #include <QString>
 #include <QVariant>
-
 #include <limits>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The metadata values an item carries into the result in the duration and attribute modes.
 struct ItemMetadata {

@@ -5,16 +5,17 @@
 #include "search/SearchRequest.h"
 
 #include <QSet>
-
 #include <atomic>
 #include <optional>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The last filter of the enumeration in the duration and attribute modes: reads an item's
 // metadata and keeps the item only when it has a duration, or a usable value of the
 // compared attribute. Called from every walking thread at once.
-class MetadataFilter {
+class MetadataFilter
+{
 public:
     // `expectedType` is the catalogue's type of the compared attribute (0: any).
     MetadataFilter(const SearchRequest &request, int expectedType);

@@ -4,14 +4,15 @@
 #include "search/FilenameSortKey.h"
 
 #include <QDateTime>
-
 #include <algorithm>
 #include <cmath>
 #include <numeric>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 enum class ValueKind { None, Number, Date, String };
 
@@ -32,7 +33,10 @@ ValueKind kindOf(const QVariant &value)
     }
 }
 
-template <typename T> int order(const T &a, const T &b) { return a < b ? -1 : (b < a ? 1 : 0); }
+template <typename T> int order(const T &a, const T &b)
+{
+    return a < b ? -1 : (b < a ? 1 : 0);
+}
 
 std::vector<std::size_t> identity(std::size_t count)
 {
@@ -55,8 +59,7 @@ std::vector<SweepRun> sweep(std::size_t count, const std::function<bool(std::siz
         std::size_t end = anchor + 1;
         while (end < count && matches(anchor, end))
             ++end;
-        if (end - anchor >= 2)
-            runs.push_back({anchor, end});
+        if (end - anchor >= 2) runs.push_back({anchor, end});
         anchor = end;
     }
     return runs;
@@ -65,8 +68,7 @@ std::vector<SweepRun> sweep(std::size_t count, const std::function<bool(std::siz
 int compareAttributeValues(const QVariant &a, const QVariant &b)
 {
     const ValueKind ka = kindOf(a), kb = kindOf(b);
-    if (ka != kb)
-        return order(int(ka), int(kb));
+    if (ka != kb) return order(int(ka), int(kb));
     switch (ka) {
     case ValueKind::Number:
         return order(a.toDouble(), b.toDouble());
@@ -83,8 +85,7 @@ int compareAttributeValues(const QVariant &a, const QVariant &b)
 bool attributeValueMatches(const QVariant &anchor, const QVariant &value, double tolerance)
 {
     const ValueKind kind = kindOf(anchor);
-    if (kind == ValueKind::None || kindOf(value) != kind)
-        return false;
+    if (kind == ValueKind::None || kindOf(value) != kind) return false;
     switch (kind) {
     case ValueKind::Number:
         return value.toDouble() >= anchor.toDouble() - tolerance;
@@ -106,7 +107,9 @@ std::vector<std::size_t> SweepSearch::sortedByDuration(std::vector<SweepRun> &ru
     const auto duration = [&](std::size_t k) { return m_entries.metadata(sorted[k]).duration; };
     runs = sweep(
         sorted.size(), [&](std::size_t anchor) { return duration(anchor) > 0; },
-        [&](std::size_t anchor, std::size_t k) { return std::fabs(duration(k) - duration(anchor)) <= tolerance; });
+        [&](std::size_t anchor, std::size_t k) {
+            return std::fabs(duration(k) - duration(anchor)) <= tolerance;
+        });
     return sorted;
 }
 
@@ -125,16 +128,21 @@ std::vector<std::size_t> SweepSearch::sortedByName(std::vector<SweepRun> &runs)
                      [&](std::size_t a, std::size_t b) { return comparable[a] < comparable[b]; });
     runs = sweep(
         sorted.size(), [](std::size_t) { return true; },
-        [&](std::size_t anchor, std::size_t k) { return comparable[sorted[k]] == comparable[sorted[anchor]]; });
+        [&](std::size_t anchor, std::size_t k) {
+            return comparable[sorted[k]] == comparable[sorted[anchor]];
+        });
     return sorted;
 }
 
 std::vector<std::size_t> SweepSearch::sortedByAttribute(std::vector<SweepRun> &runs)
 {
     std::vector<std::size_t> sorted = identity(m_entries.size());
-    const auto value = [&](std::size_t entry) -> const QVariant & { return m_entries.metadata(entry).spotlight; };
-    std::stable_sort(sorted.begin(), sorted.end(),
-                     [&](std::size_t a, std::size_t b) { return compareAttributeValues(value(a), value(b)) > 0; });
+    const auto value = [&](std::size_t entry) -> const QVariant & {
+        return m_entries.metadata(entry).spotlight;
+    };
+    std::stable_sort(sorted.begin(), sorted.end(), [&](std::size_t a, std::size_t b) {
+        return compareAttributeValues(value(a), value(b)) > 0;
+    });
     const double tolerance = m_request.spotlightTolerance;
     runs = sweep(
         sorted.size(), [&](std::size_t anchor) { return kindOf(value(sorted[anchor])) != ValueKind::None; },

@@ -6,11 +6,11 @@
 
 #include <QList>
 #include <QVariant>
-
 #include <functional>
 #include <vector>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // Runs of two or more items, [begin, end) positions in sorted order, that match their first
 // item (the anchor). An anchor that is not usable is skipped; every match is against the
@@ -30,7 +30,8 @@ bool attributeValueMatches(const QVariant &anchor, const QVariant &value, double
 
 // The duration, file-name and attribute modes: the enumerated items sorted by the compared
 // value, and grouped by one sweep. Reads no file contents.
-class SweepSearch {
+class SweepSearch
+{
 public:
     SweepSearch(const SearchRequest &request, const EnumerationResult &enumeration)
         : m_request(request), m_entries(enumeration.entries)

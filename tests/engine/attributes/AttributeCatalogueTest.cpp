@@ -1,11 +1,13 @@
 #include "attributes/AttributeCatalogue.h"
+
 #include "attributes/SpotlightAttributesManager.h"
 
 #include <gtest/gtest.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 const AttributeSchema &testSchema()
 {
@@ -36,7 +38,8 @@ TEST(AttributeCatalogue, SystemAttributesKeepTheSchemaOverAdditionsAndDropTextCo
     const AttributeRecords &system = catalogue.systemAttributes();
     EXPECT_FALSE(system.contains("kMDItemTextContent"));
     EXPECT_EQ(system["kMDItemDownloadedDate"].name, "Fetched");
-    EXPECT_EQ(system["kMDItemStartDate"], (AttributeRecord{"Start date", "Start date of the item", DateType}));
+    EXPECT_EQ(system["kMDItemStartDate"],
+              (AttributeRecord{"Start date", "Start date of the item", DateType}));
     EXPECT_EQ(system["kMDItemTextContentLength"].type, NumberType);
     EXPECT_EQ(catalogue.typeId("kMDItemNoSuchKey"), AnyType);
     EXPECT_EQ(catalogue.displayName("kMDItemNoSuchKey"), "");
@@ -95,8 +98,10 @@ TEST(AttributeCatalogue, ExtensionListsFollowTheTypeItsKindAndItsParents)
 
 TEST(SpotlightAttributesManager, ShippedCatalogueAnswersTheClassFunctions)
 {
-    EXPECT_EQ(SpotlightAttributesManager::GetTypeIDForSpotlightAttribute("kMDItemDurationSeconds"), NumberType);
-    EXPECT_EQ(SpotlightAttributesManager::GetTypeIDForSpotlightAttribute("kMDItemContentCreationDate"), DateType);
+    EXPECT_EQ(SpotlightAttributesManager::GetTypeIDForSpotlightAttribute("kMDItemDurationSeconds"),
+              NumberType);
+    EXPECT_EQ(SpotlightAttributesManager::GetTypeIDForSpotlightAttribute("kMDItemContentCreationDate"),
+              DateType);
     EXPECT_EQ(SpotlightAttributesManager::GetDisplayNameForSpotlightAttribute("kMDItemLatitude"), "Latitude");
     EXPECT_FALSE(SpotlightAttributesManager::GetDescriptionForSpotlightAttribute("kMDItemTitle").isEmpty());
     const auto all = SpotlightAttributesManager::GetAllSpotlightAttributes();
@@ -154,7 +159,8 @@ TEST(SpotlightAttributesManager, ChooserAddsResetsAndSavesTheActiveList)
 
     EXPECT_EQ(manager.spotlightAttributesOK({"kMDItemAlbum"}), QStringLiteral("kMDItemAlbum"));
     EXPECT_EQ(manager.activeSpotlightAttributes(), (QStringList{"kMDItemAlbum", "kMDItemTitle"}));
-    EXPECT_EQ(settings.value(kActiveSpotlightAttributesKey).toStringList(), manager.activeSpotlightAttributes());
+    EXPECT_EQ(settings.value(kActiveSpotlightAttributesKey).toStringList(),
+              manager.activeSpotlightAttributes());
 
     manager.beginChoosing();
     EXPECT_EQ(manager.spotlightAttributesOK({"kMDItemAlbum", "kMDItemTitle"}), std::nullopt);

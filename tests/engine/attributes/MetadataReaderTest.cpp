@@ -1,20 +1,21 @@
-#include "attributes/AttributeSchema.h"
 #include "attributes/MetadataReader.h"
+
+#include "attributes/AttributeSchema.h"
 #include "support/MediaFiles.h"
 #include "support/TempTree.h"
 
 #include <QDateTime>
-
 #include <gtest/gtest.h>
-
 #include <sys/stat.h>
 #include <sys/xattr.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
-class MetadataReaderTest : public ::testing::Test {
+class MetadataReaderTest : public ::testing::Test
+{
 protected:
     void SetUp() override
     {
@@ -28,8 +29,14 @@ protected:
     TempTree tree;
 };
 
-double number(const MetadataValues &values, const char *key) { return values.value(QLatin1String(key)).toDouble(); }
-QString text(const MetadataValues &values, const char *key) { return values.value(QLatin1String(key)).toString(); }
+double number(const MetadataValues &values, const char *key)
+{
+    return values.value(QLatin1String(key)).toDouble();
+}
+QString text(const MetadataValues &values, const char *key)
+{
+    return values.value(QLatin1String(key)).toString();
+}
 
 TEST_F(MetadataReaderTest, ReadsAudioDurationsStreamsAndTags)
 {
@@ -85,17 +92,17 @@ TEST_F(MetadataReaderTest, ReadsVideoSizeCodecsAndLocation)
 
 TEST_F(MetadataReaderTest, ReadsPhotoExifXmpAndIptc)
 {
-    ASSERT_TRUE(makeJpeg(tree.path("photo.jpg"),
-                         {"set Exif.GPSInfo.GPSLatitude 33/1 51/1 2448/100", "set Exif.GPSInfo.GPSLatitudeRef S",
-                          "set Exif.GPSInfo.GPSLongitude 151/1 12/1 5508/100", "set Exif.GPSInfo.GPSLongitudeRef E",
-                          "set Exif.GPSInfo.GPSAltitude 12/1", "set Exif.GPSInfo.GPSAltitudeRef 1",
-                          "set Exif.Photo.DateTimeOriginal 2024:03:01 10:00:30",
-                          "set Exif.Photo.OffsetTimeOriginal +11:00", "set Exif.Image.Make Acme",
-                          "set Exif.Image.Model Cam 1", "set Exif.Photo.FNumber 28/10",
-                          "set Exif.Photo.ExposureTime 1/250", "set Exif.Photo.ISOSpeedRatings 400",
-                          "set Exif.Photo.Flash 25", "set Exif.Image.Orientation 6",
-                          "set Xmp.dc.title Opera House", "set Iptc.Application2.Headline Harbour",
-                          "add Iptc.Application2.Keywords sea", "add Iptc.Application2.Keywords sails"}));
+    ASSERT_TRUE(makeJpeg(
+        tree.path("photo.jpg"),
+        {"set Exif.GPSInfo.GPSLatitude 33/1 51/1 2448/100", "set Exif.GPSInfo.GPSLatitudeRef S",
+         "set Exif.GPSInfo.GPSLongitude 151/1 12/1 5508/100", "set Exif.GPSInfo.GPSLongitudeRef E",
+         "set Exif.GPSInfo.GPSAltitude 12/1", "set Exif.GPSInfo.GPSAltitudeRef 1",
+         "set Exif.Photo.DateTimeOriginal 2024:03:01 10:00:30", "set Exif.Photo.OffsetTimeOriginal +11:00",
+         "set Exif.Image.Make Acme", "set Exif.Image.Model Cam 1", "set Exif.Photo.FNumber 28/10",
+         "set Exif.Photo.ExposureTime 1/250", "set Exif.Photo.ISOSpeedRatings 400", "set Exif.Photo.Flash 25",
+         "set Exif.Image.Orientation 6", "set Xmp.dc.title Opera House",
+         "set Iptc.Application2.Headline Harbour", "add Iptc.Application2.Keywords sea",
+         "add Iptc.Application2.Keywords sails"}));
     const MetadataValues photo = read("photo.jpg");
     EXPECT_NEAR(number(photo, "kMDItemLatitude"), -(33 + 51 / 60.0 + 24.48 / 3600), 1e-9);
     EXPECT_NEAR(number(photo, "kMDItemLongitude"), 151 + 12 / 60.0 + 55.08 / 3600, 1e-9);

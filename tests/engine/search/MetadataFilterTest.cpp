@@ -1,15 +1,18 @@
 #include "search/MetadataFilter.h"
 
 #include <QDateTime>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 QStringList g_logged;
-void recordMessage(QtMsgType, const QMessageLogContext &, const QString &message) { g_logged.append(message); }
+void recordMessage(QtMsgType, const QMessageLogContext &, const QString &message)
+{
+    g_logged.append(message);
+}
 
 TEST(MetadataFilter, ComparedValueIsTypeCheckedAndLoggedWhenUnexpected)
 {
@@ -24,7 +27,8 @@ TEST(MetadataFilter, ComparedValueIsTypeCheckedAndLoggedWhenUnexpected)
     EXPECT_EQ(MetadataFilter::comparableValue(values, "kMDItemTitle", StringType, "/f"), QVariant("Song"));
     EXPECT_EQ(MetadataFilter::comparableValue(values, "kMDItemTitle", AnyType, "/f"), QVariant("Song"));
     EXPECT_EQ(MetadataFilter::comparableValue(values, "kMDItemKeywords", StringType, "/f"), QVariant("sea"));
-    EXPECT_EQ(MetadataFilter::comparableValue(values, "kMDItemFlashOnOff", BooleanType, "/f"), QVariant(true));
+    EXPECT_EQ(MetadataFilter::comparableValue(values, "kMDItemFlashOnOff", BooleanType, "/f"),
+              QVariant(true));
     EXPECT_TRUE(g_logged.isEmpty());
 
     EXPECT_FALSE(MetadataFilter::comparableValue(values, "kMDItemMissing", StringType, "/f").isValid());

@@ -1,17 +1,18 @@
+#include "search/SweepSearch.h"
+
 #include "search/FilenameSortKey.h"
 #include "search/NamePatterns.h"
-#include "search/SweepSearch.h"
 #include "support/MediaFiles.h"
 #include "support/SearchHarness.h"
 #include "support/TempTree.h"
 
 #include <QDateTime>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 // The runs of a descending list of numbers swept with a tolerance, as "a-b" position ranges.
 std::string numberRuns(const std::vector<double> &values, double tolerance)
@@ -66,7 +67,8 @@ TEST(FilenameSortKey, RemovesTheLongestSuffixAndTheExtensionWhenAsked)
     const FilenameSortKey bare = getFilenameSortKey(true, std::nullopt);
     EXPECT_EQ(bare.keyValue("/x/Photo.JPG"), "photo");
     const FilenameSortKey stripped = getFilenameSortKey(true, suffixes);
-    EXPECT_EQ(stripped.compare(stripped.keyValue("/x/Report copy.txt"), stripped.keyValue("/y/report.pdf")), 0);
+    EXPECT_EQ(stripped.compare(stripped.keyValue("/x/Report copy.txt"), stripped.keyValue("/y/report.pdf")),
+              0);
 }
 
 TEST(SweepSearch, NameModeGroupsByComparableName)
@@ -78,12 +80,14 @@ TEST(SweepSearch, NameModeGroupsByComparableName)
     request.filenameIgnoreCommonSuffixRegexes = compileCommonSuffixes({});
     EXPECT_EQ(searchGroups(tree.path(), request), "Report copy.txt report.TXT");
     request.filenameIgnoreExtension = true;
-    EXPECT_EQ(searchGroups(tree.path(), request), "a.JPG sub/A.png | Report copy.txt report.TXT sub/report.pdf");
+    EXPECT_EQ(searchGroups(tree.path(), request),
+              "a.JPG sub/A.png | Report copy.txt report.TXT sub/report.pdf");
     request.filenameIgnoreCommonSuffixRegexes.reset();
     EXPECT_EQ(searchGroups(tree.path(), request), "a.JPG sub/A.png | report.TXT sub/report.pdf");
 }
 
-class MediaSearch : public ::testing::Test {
+class MediaSearch : public ::testing::Test
+{
 protected:
     void SetUp() override
     {
@@ -113,12 +117,14 @@ TEST_F(MediaSearch, DurationModeGroupsWithinToleranceAndFillsMediaValues)
     request.detectionMode = DetectionMode::Duration;
     request.durationTolerance = 1.0;
     const QList<ResultItem> items = search(request);
-    EXPECT_EQ(describeGroups(items, tree.path()), "a/long.flac long.wav longish.wav | clip-small.mp4 clip.mp4");
+    EXPECT_EQ(describeGroups(items, tree.path()),
+              "a/long.flac long.wav longish.wav | clip-small.mp4 clip.mp4");
     EXPECT_TRUE(harness.context.statistics.someDurationFound);
     ASSERT_EQ(items.size(), 5);
     EXPECT_EQ(items[0].dupes, 3);
     EXPECT_DOUBLE_EQ(items[0].duration, 10.0); // sweep order: longest first
-    const auto clip = std::find_if(items.begin(), items.end(), [](const ResultItem &i) { return i.name() == "clip.mp4"; });
+    const auto clip =
+        std::find_if(items.begin(), items.end(), [](const ResultItem &i) { return i.name() == "clip.mp4"; });
     ASSERT_NE(clip, items.end());
     EXPECT_EQ(clip->pixelSize, QStringLiteral("96 × 64"));
     EXPECT_EQ(clip->codecs, "mpeg4, aac");
@@ -130,13 +136,17 @@ TEST_F(MediaSearch, DurationModeGroupsWithinToleranceAndFillsMediaValues)
 
 TEST_F(MediaSearch, AttributeModeComparesPlacesInArcSecondsDatesAndExactTitles)
 {
-    const auto photo = [&](const char *name, const char *latitudeSeconds, const char *taken, const char *title) {
-        return makeJpeg(tree.path(QLatin1String(name)),
-                        {QStringLiteral("set Exif.GPSInfo.GPSLatitude 48/1 51/1 %1/100").arg(QLatin1String(latitudeSeconds)),
-                         "set Exif.GPSInfo.GPSLatitudeRef N", "set Exif.GPSInfo.GPSLongitude 2/1 17/1 40/1",
-                         "set Exif.GPSInfo.GPSLongitudeRef E",
-                         QStringLiteral("set Exif.Photo.DateTimeOriginal 2024:03:01 %1").arg(QLatin1String(taken)),
-                         "set Exif.Photo.OffsetTimeOriginal +00:00", QStringLiteral("set Xmp.dc.title %1").arg(QLatin1String(title))});
+    const auto photo = [&](const char *name, const char *latitudeSeconds, const char *taken,
+                           const char *title) {
+        return makeJpeg(
+            tree.path(QLatin1String(name)),
+            {QStringLiteral("set Exif.GPSInfo.GPSLatitude 48/1 51/1 %1/100")
+                 .arg(QLatin1String(latitudeSeconds)),
+             "set Exif.GPSInfo.GPSLatitudeRef N", "set Exif.GPSInfo.GPSLongitude 2/1 17/1 40/1",
+             "set Exif.GPSInfo.GPSLongitudeRef E",
+             QStringLiteral("set Exif.Photo.DateTimeOriginal 2024:03:01 %1").arg(QLatin1String(taken)),
+             "set Exif.Photo.OffsetTimeOriginal +00:00",
+             QStringLiteral("set Xmp.dc.title %1").arg(QLatin1String(title))});
     };
     ASSERT_TRUE(photo("a.jpg", "3000", "10:00:30", "Tower"));
     ASSERT_TRUE(photo("b.jpg", "2000", "10:00:00", "tower"));
