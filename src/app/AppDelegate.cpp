@@ -2,6 +2,7 @@
 
 #include "Alert.h"
 #include "AppName.h"
+#include "AttributeChooser.h"
 #include "Desktop.h"
 #include "Dupes.h"
 #include "LocationsModel.h"
@@ -33,6 +34,8 @@ namespace selfsame {
 
 AppDelegate::AppDelegate(Settings &settings, QWidget *parent) : QMainWindow(parent), m_settings(settings)
 {
+    // The catalogue keeps the user's attributes in the same settings file.
+    SpotlightAttributesManager::setSettingsStore(&m_catalogueSettings);
     m_sources = new LocationsModel(
         m_settings,
         [this] {
@@ -66,6 +69,10 @@ AppDelegate::AppDelegate(Settings &settings, QWidget *parent) : QMainWindow(pare
     connect(m_options, &SearchOptionsPanel::modeGroupResized, this, &AppDelegate::keepTopEdge);
     connect(m_options, &SearchOptionsPanel::detectionModeChanged, this,
             [this](int mode) { m_settings.setValue(key::detectionMode, mode); });
+    connect(m_options, &SearchOptionsPanel::spotlightAttributeChosen, this,
+            [this](const QString &key) { m_settings.setValue(key::spotlightAttribute, key); });
+    connect(m_options, &SearchOptionsPanel::spotlightAttributesChooserRequested, this,
+            &AppDelegate::manageSpotlightAttributes);
     connect(m_sources, &LocationsModel::singleFileEnabledChanged, m_options,
             &SearchOptionsPanel::setFindAllDupesForSingleFilesEnabled);
     connect(m_sourcesTable, &LocationsView::deleteRequested, this, &AppDelegate::deleteTargetRows);
@@ -74,6 +81,11 @@ AppDelegate::AppDelegate(Settings &settings, QWidget *parent) : QMainWindow(pare
             [this](const QStringList &paths) { addURLs(paths, true, true, true); });
 
     loadSettings();
+}
+
+AppDelegate::~AppDelegate()
+{
+    SpotlightAttributesManager::setSettingsStore(nullptr);
 }
 
 QWidget *AppDelegate::buildLocations()
@@ -177,8 +189,12 @@ void AppDelegate::loadSettings()
     registerSearchDefaults(m_settings);
     m_settings.registerDefaults({{key::welcomeShowAtStartup, true}});
     migrateColumnsLayout(m_settings);
+    m_spotlightAttributesManager.setActiveSpotlightAttributes(
+        m_settings.stringListValue(key::activeSpotlightAttributes));
     placeWindow();
     m_options->setOptions(loadSearchOptions(m_settings));
+    m_options->setAttributePopup(m_spotlightAttributesManager.updateSpotlightAttributePopup(
+        m_settings.stringValue(key::spotlightAttribute)));
     m_sources->load();
     setWindowTitle(QApplication::applicationName());
     m_options->applyToggles();
@@ -215,6 +231,23 @@ void AppDelegate::compareFoldersWarning()
                "(which are actually file packages)."),
             {tr("Got It!")});
     });
+}
+
+void AppDelegate::manageSpotlightAttributes()
+{
+    auto *chooser = new AttributeChooser(m_spotlightAttributesManager, this);
+    chooser->setAttribute(Qt::WA_DeleteOnClose);
+    connect(chooser, &AttributeChooser::terminatedWithSelectedAttribute, this,
+            &AppDelegate::spotlightAttributesManagerTerminated);
+    chooser->open();
+}
+
+void AppDelegate::spotlightAttributesManagerTerminated(const std::optional<QString> &key)
+{
+    if (key)
+        m_settings.setValue(key::spotlightAttribute, *key);
+    m_options->setAttributePopup(m_spotlightAttributesManager.updateSpotlightAttributePopup(
+        m_settings.stringValue(key::spotlightAttribute)));
 }
 
 void AppDelegate::toggleFindAllDupesForSingleFiles()

@@ -1,7 +1,9 @@
 #pragma once
 
+#include "CatalogueSettings.h"
 #include "CompareFoldersWarning.h"
 #include "LaunchRequest.h"
+#include "attributes/SpotlightAttributesManager.h"
 
 #include <QFileDialog>
 #include <QList>
@@ -26,6 +28,7 @@ class AppDelegate : public QMainWindow {
     Q_OBJECT
 public:
     explicit AppDelegate(Settings &settings, QWidget *parent = nullptr);
+    ~AppDelegate() override;
 
     LocationsModel *sources() const { return m_sources; }
     LocationsView *sourcesTable() const { return m_sourcesTable; }
@@ -45,6 +48,8 @@ public:
     void showInOpenWindowOrAddURLs(const QStringList &paths);
     void welcome();
     void showWelcomeAtStartup();
+    // Opens the attribute chooser as a sheet over the window.
+    void manageSpotlightAttributes();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
@@ -60,6 +65,7 @@ private:
     void chooseLocations(QFileDialog::FileMode fileMode, const QString &title, const QString &prompt,
                          bool enable, bool search);
     void compareFoldersWarning();
+    void spotlightAttributesManagerTerminated(const std::optional<QString> &key);
     void toggleFindAllDupesForSingleFiles();
     void keepTopEdge(int heightDelta);
     void deleteTargetRows();
@@ -70,6 +76,8 @@ private:
     void updateDock();
 
     Settings &m_settings;
+    CatalogueSettings m_catalogueSettings{m_settings};
+    SpotlightAttributesManager m_spotlightAttributesManager;
     LocationsModel *m_sources;
     LocationsView *m_sourcesTable;
     SearchOptionsPanel *m_options = nullptr;

@@ -6,15 +6,15 @@ namespace selfsame {
 
 bool attributeToleranceShown(int typeId)
 {
-    return typeId == attribute::kDateType || typeId == attribute::kNumberType || typeId == attribute::kAnyType;
+    return typeId == DateType || typeId == NumberType || typeId == AnyType;
 }
 
 QString attributeToleranceUnits(int typeId, const QString &attributeKey, bool metricLocale)
 {
     auto tr = [](const char *text) { return QCoreApplication::translate("AttributeTolerance", text); };
-    if (typeId == attribute::kDateType)
+    if (typeId == DateType)
         return tr("seconds");
-    if (typeId != attribute::kNumberType && typeId != attribute::kAnyType)
+    if (typeId != NumberType && typeId != AnyType)
         return {};
     // One arcsecond is about 30 metres of latitude.
     const QString arcsecond = metricLocale ? tr("30\u00a0m") : tr("100\u00a0ft");

@@ -1,6 +1,7 @@
 #include "SearchDefaults.h"
 
 #include "Settings.h"
+#include "attributes/SpotlightAttributesManager.h"
 #include "search/NamePatterns.h"
 
 #include <QStringList>
@@ -9,21 +10,6 @@ namespace selfsame {
 
 void registerSearchDefaults(Settings &settings)
 {
-    const QStringList activeAttributes{QStringLiteral("kMDItemContentCreationDate"),
-                                       QStringLiteral("kMDItemRecordingDate"),
-                                       QStringLiteral("kMDItemFSCreationDate"),
-                                       QStringLiteral("kMDItemDurationSeconds"),
-                                       QStringLiteral("kMDItemAlbum"),
-                                       QStringLiteral("kMDItemTitle"),
-                                       QStringLiteral("kMDItemDisplayName"),
-                                       QStringLiteral("kMDItemDescription"),
-                                       QStringLiteral("kMDItemHeadline"),
-                                       QStringLiteral("kMDItemLatitude"),
-                                       QStringLiteral("kMDItemLongitude"),
-                                       QStringLiteral("kMDItemIdentifier"),
-                                       QStringLiteral("kMDItemOriginalSource"),
-                                       QStringLiteral("kMDItemWhereFroms"),
-                                       QStringLiteral("kMDItemAestheticScore")};
     settings.registerDefaults({
         {key::mainWindowInitialPosition, false},
         {key::skipHiddenFiles, true},
@@ -45,7 +31,7 @@ void registerSearchDefaults(Settings &settings)
         {key::durationTolerance, 0.1},
         {key::spotlightAttribute, QStringLiteral("kMDItemTitle")},
         {key::spotlightTolerance, 0.0},
-        {key::activeSpotlightAttributes, activeAttributes},
+        {key::activeSpotlightAttributes, defaultActiveSpotlightAttributes()},
         {key::filenameIgnoreExtension, false},
         {key::filenameIgnoreCommonSuffixes, false},
         {key::commonSuffixes, QString(kDefaultCommonSuffixes)},

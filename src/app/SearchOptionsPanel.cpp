@@ -142,8 +142,14 @@ QWidget *SearchOptionsPanel::buildModeGroups()
 
     auto *attribute = new QWidget;
     auto *attributeLayout = groupLayout(attribute, indent);
-    m_spotlightAttributeLabel = new QLabel;
-    m_spotlightAttributeLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_spotlightAttributePopup = new QComboBox;
+    m_spotlightAttributePopup->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+    connect(m_spotlightAttributePopup, &QComboBox::activated, this, &SearchOptionsPanel::spotlightAttribute);
+    auto *attributeLabel = new QLabel(tr("&Attribute:"));
+    attributeLabel->setBuddy(m_spotlightAttributePopup);
+    m_spotlightAttributeDescriptionLabel = new QLabel;
+    m_spotlightAttributeDescriptionLabel->setWordWrap(true);
+    m_spotlightAttributeDescriptionLabel->setForegroundRole(QPalette::PlaceholderText);
     m_spotlightToleranceLabel = new QLabel(tr("&Tolerance:"));
     m_spotlightToleranceFld = new QDoubleSpinBox;
     m_spotlightToleranceFld->setRange(0.0, 1e12);
@@ -151,9 +157,14 @@ QWidget *SearchOptionsPanel::buildModeGroups()
     m_spotlightToleranceFld->setMaximumWidth(m_durationToleranceFld->sizeHint().width() * 3 / 2);
     m_spotlightToleranceLabel->setBuddy(m_spotlightToleranceFld);
     m_spotlightToleranceUnitsLabel = new QLabel;
-    attributeLayout->addWidget(inRow({new QLabel(tr("Attribute:")), m_spotlightAttributeLabel}));
-    attributeLayout->addWidget(
-        inRow({m_spotlightToleranceLabel, m_spotlightToleranceFld, m_spotlightToleranceUnitsLabel}));
+    auto *attributeGrid = new QGridLayout;
+    attributeGrid->setColumnStretch(1, 1);
+    attributeGrid->addWidget(attributeLabel, 0, 0);
+    attributeGrid->addWidget(inRow({m_spotlightAttributePopup}), 0, 1);
+    attributeGrid->addWidget(m_spotlightAttributeDescriptionLabel, 1, 1);
+    attributeGrid->addWidget(m_spotlightToleranceLabel, 2, 0);
+    attributeGrid->addWidget(inRow({m_spotlightToleranceFld, m_spotlightToleranceUnitsLabel}), 2, 1);
+    attributeLayout->addLayout(attributeGrid);
 
     m_modeGroups = {content, duration, filename, attribute};
     for (QWidget *group : m_modeGroups) {
@@ -264,10 +275,7 @@ void SearchOptionsPanel::setOptions(const SearchOptions &o)
     m_filenameIgnoreExtensionChk->setChecked(o.filenameIgnoreExtension);
     m_filenameIgnoreCommonSuffixesChk->setChecked(o.filenameIgnoreCommonSuffixes);
     m_filenameIgnoreCommonSuffixesFld->setText(o.commonSuffixesText);
-    m_spotlightAttribute = o.spotlightAttribute;
-    m_spotlightAttributeLabel->setText(o.spotlightAttribute);
     m_spotlightToleranceFld->setValue(o.spotlightTolerance);
-    updateAttributeTolerance();
 }
 
 void SearchOptionsPanel::showCanonicalTexts(const SearchOptions &o)
@@ -300,7 +308,7 @@ SearchOptions SearchOptionsPanel::options() const
     o.ignoreOtherOwner = m_ignoreOtherOwnerChk->isChecked();
     o.detectionMode = m_modePopupBtn->currentData().toInt();
     o.durationTolerance = m_durationToleranceFld->value();
-    o.spotlightAttribute = m_spotlightAttribute;
+    o.spotlightAttribute = selectedAttribute();
     o.spotlightTolerance = m_spotlightToleranceFld->value();
     o.spotlightToleranceVisible = !m_spotlightToleranceFld->isHidden();
     o.filenameIgnoreExtension = m_filenameIgnoreExtensionChk->isChecked();
@@ -408,17 +416,50 @@ void SearchOptionsPanel::toggleMode(bool byUser)
     Q_EMIT detectionModeChanged(mode);
 }
 
+void SearchOptionsPanel::setAttributePopup(const SpotlightAttributesManager::Popup &popup)
+{
+    m_spotlightAttributePopup->clear();
+    for (const SpotlightAttributesManager::PopupItem &item : popup.items)
+        m_spotlightAttributePopup->addItem(item.title, item.key);
+    m_spotlightAttributePopup->insertSeparator(m_spotlightAttributePopup->count());
+    m_spotlightAttributePopup->addItem(tr("Other Attributes…"));
+    m_spotlightAttributePopup->setCurrentIndex(int(qMax<qsizetype>(popup.selected, 0)));
+    updateAttributeTolerance();
+}
+
+QString SearchOptionsPanel::selectedAttribute() const
+{
+    return m_spotlightAttributePopup->currentData().toString();
+}
+
+void SearchOptionsPanel::spotlightAttribute(int index)
+{
+    const QString key = m_spotlightAttributePopup->itemData(index).toString();
+    if (key.isEmpty()) {
+        Q_EMIT spotlightAttributesChooserRequested();
+        return;
+    }
+    const int before = m_modeStackView->sizeHint().height();
+    updateAttributeTolerance();
+    Q_EMIT spotlightAttributeChosen(key);
+    Q_EMIT modeGroupResized(m_modeStackView->sizeHint().height() - before);
+}
+
 void SearchOptionsPanel::updateAttributeTolerance()
 {
-    // Until the attribute catalogue describes the attribute, its type is unknown, and an
-    // unknown type keeps the tolerance.
-    const int typeId = attribute::kAnyType;
+    const QString key = selectedAttribute();
+    const int typeId = SpotlightAttributesManager::GetTypeIDForSpotlightAttribute(key);
     const bool shown = attributeToleranceShown(typeId);
     m_spotlightToleranceLabel->setVisible(shown);
     m_spotlightToleranceFld->setVisible(shown);
     m_spotlightToleranceUnitsLabel->setVisible(shown);
-    m_spotlightToleranceUnitsLabel->setText(attributeToleranceUnits(
-        typeId, m_spotlightAttribute, QLocale().measurementSystem() == QLocale::MetricSystem));
+    m_spotlightToleranceUnitsLabel->setText(
+        attributeToleranceUnits(typeId, key, QLocale().measurementSystem() == QLocale::MetricSystem));
+    if (!key.isEmpty()) {
+        const QString description = SpotlightAttributesManager::GetDescriptionForSpotlightAttribute(key);
+        m_spotlightAttributeDescriptionLabel->setText(description);
+        m_spotlightAttributeDescriptionLabel->setVisible(!description.isEmpty());
+    }
 }
 
 } // namespace selfsame

@@ -2,6 +2,7 @@
 
 #include "CompareFoldersWarning.h"
 #include "SearchOptions.h"
+#include "attributes/SpotlightAttributesManager.h"
 
 #include <QWidget>
 #include <optional>
@@ -36,6 +37,9 @@ public:
     void setFindAllDupesForSingleFilesEnabled(bool enabled);
     void turnFindAllDupesForSingleFilesOff();
     QWidget *modeSelector() const;
+    // Fills the attribute pop-up with these entries, then the entry that opens the chooser.
+    void setAttributePopup(const SpotlightAttributesManager::Popup &popup);
+    QComboBox *attributeSelector() const { return m_spotlightAttributePopup; }
 
 Q_SIGNALS:
     // A control that takes part in the compare-folders warning changed.
@@ -46,6 +50,8 @@ Q_SIGNALS:
     // The option group changed height by `delta` after the user chose another mode.
     void modeGroupResized(int delta);
     void detectionModeChanged(int mode);
+    void spotlightAttributeChosen(const QString &key);
+    void spotlightAttributesChooserRequested();
 
 private:
     QWidget *buildModeGroups();
@@ -56,7 +62,9 @@ private:
     void toggleFilterFileSize(bool byUser);
     void toggleFilenameSuffix(bool byUser);
     void toggleMode(bool byUser);
+    void spotlightAttribute(int index);
     void updateAttributeTolerance();
+    QString selectedAttribute() const;
 
     QComboBox *m_modePopupBtn;
     QList<QWidget *> m_modeGroups;
@@ -65,11 +73,11 @@ private:
     QCheckBox *m_compareFoldersChk;
     QCheckBox *m_ignoreClonesChk;
     QDoubleSpinBox *m_durationToleranceFld;
-    QLabel *m_spotlightAttributeLabel;
+    QComboBox *m_spotlightAttributePopup;
+    QLabel *m_spotlightAttributeDescriptionLabel;
     QLabel *m_spotlightToleranceLabel;
     QDoubleSpinBox *m_spotlightToleranceFld;
     QLabel *m_spotlightToleranceUnitsLabel;
-    QString m_spotlightAttribute;
     QCheckBox *m_filenameIgnoreExtensionChk;
     QCheckBox *m_filenameIgnoreCommonSuffixesChk;
     QLineEdit *m_filenameIgnoreCommonSuffixesFld;

@@ -77,20 +77,20 @@ TEST(AppName, MenusAreRenamedAtEveryDepth)
 
 TEST(AttributeTolerance, ShownForNumbersDatesAndUnknownTypesWithFittingUnits)
 {
-    EXPECT_TRUE(attributeToleranceShown(attribute::kNumberType));
-    EXPECT_TRUE(attributeToleranceShown(attribute::kDateType));
-    EXPECT_TRUE(attributeToleranceShown(attribute::kAnyType));
-    EXPECT_FALSE(attributeToleranceShown(attribute::kStringType));
-    EXPECT_FALSE(attributeToleranceShown(attribute::kBooleanType));
+    EXPECT_TRUE(attributeToleranceShown(NumberType));
+    EXPECT_TRUE(attributeToleranceShown(DateType));
+    EXPECT_TRUE(attributeToleranceShown(AnyType));
+    EXPECT_FALSE(attributeToleranceShown(StringType));
+    EXPECT_FALSE(attributeToleranceShown(BooleanType));
 
     const QString latitude = QStringLiteral("kMDItemLatitude");
-    EXPECT_EQ(attributeToleranceUnits(attribute::kNumberType, latitude, true),
+    EXPECT_EQ(attributeToleranceUnits(NumberType, latitude, true),
               QStringLiteral("arcseconds (1″ ≈ 30\u00a0m)"));
-    EXPECT_EQ(attributeToleranceUnits(attribute::kAnyType, QStringLiteral("kMDItemLongitude"), false),
+    EXPECT_EQ(attributeToleranceUnits(AnyType, QStringLiteral("kMDItemLongitude"), false),
               QStringLiteral("arcseconds (1″ ≈ 100\u00a0ft on the equator)"));
-    EXPECT_EQ(attributeToleranceUnits(attribute::kDateType, latitude, true), QStringLiteral("seconds"));
-    EXPECT_EQ(attributeToleranceUnits(attribute::kNumberType, QStringLiteral("kMDItemDurationSeconds"), true),
+    EXPECT_EQ(attributeToleranceUnits(DateType, latitude, true), QStringLiteral("seconds"));
+    EXPECT_EQ(attributeToleranceUnits(NumberType, QStringLiteral("kMDItemDurationSeconds"), true),
               QStringLiteral("seconds"));
-    EXPECT_EQ(attributeToleranceUnits(attribute::kNumberType, QStringLiteral("kMDItemAestheticScore"), true), QString());
-    EXPECT_EQ(attributeToleranceUnits(attribute::kStringType, latitude, true), QString());
+    EXPECT_EQ(attributeToleranceUnits(NumberType, QStringLiteral("kMDItemAestheticScore"), true), QString());
+    EXPECT_EQ(attributeToleranceUnits(StringType, latitude, true), QString());
 }

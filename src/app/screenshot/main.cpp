@@ -2,6 +2,7 @@
 // the pictures. Prints how long the process took from its start (given by the caller in ns
 // since the epoch) until the main window was first drawn.
 #include "AppDelegate.h"
+#include "AttributeChooser.h"
 #include "SearchOptionsPanel.h"
 #include "Settings.h"
 #include "WelcomePanel.h"
@@ -76,6 +77,12 @@ int main(int argc, char *argv[])
             Q_EMIT modes->activated(mode);
             settle();
             window.grab().save(output.filePath(QStringLiteral("main-window-%1.png").arg(names[mode])));
+        }
+        window.manageSpotlightAttributes();
+        settle();
+        if (auto *chooser = window.findChild<selfsame::AttributeChooser *>()) {
+            chooser->grab().save(output.filePath(QStringLiteral("attribute-chooser.png")));
+            chooser->reject();
         }
         selfsame::WelcomePanel welcome(settings, &window);
         welcome.showCentered();
