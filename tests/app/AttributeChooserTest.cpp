@@ -9,8 +9,10 @@
 #include "attributes/SpotlightAttributesManager.h"
 
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QItemSelectionModel>
+#include <QLineEdit>
 #include <QTableView>
 #include <QTemporaryDir>
 #include <QTest>
@@ -214,4 +216,22 @@ TEST(AttributeChooser, TheAttributeTypeDecidesTheTolerance)
     EXPECT_TRUE(w.window.optionsPanel()->options().spotlightToleranceVisible);
     choose(QStringLiteral("kMDItemRecordingDate"));
     EXPECT_TRUE(w.window.optionsPanel()->options().spotlightToleranceVisible);
+}
+
+TEST(AttributeChooser, TheSearchFieldFiltersTheTableAndKeysComeWithTheirColumn)
+{
+    ChooserWindow w;
+    AttributeChooser &chooser = w.open();
+    QTest::keyClicks(chooser.searchField(), QStringLiteral("jpg"));
+    EXPECT_GE(w.rowOf(QStringLiteral("kMDItemPixelWidth")), 0);
+    EXPECT_LT(w.rowOf(QStringLiteral("kMDItemDurationSeconds")), 0);
+    EXPECT_EQ(chooser.model()->rowCount(), filterAttributes(QStringLiteral("jpg"), false).size());
+
+    EXPECT_TRUE(chooser.table()->isColumnHidden(AttributeChooserModel::KeyColumn));
+    auto *showKeys = chooser.findChild<QCheckBox *>();
+    ASSERT_TRUE(showKeys);
+    showKeys->click();
+    EXPECT_FALSE(chooser.table()->isColumnHidden(AttributeChooserModel::KeyColumn));
+    EXPECT_TRUE(w.settings.boolValue(QStringLiteral("ShowSpotlightAttributesKey")));
+    chooser.reject();
 }
