@@ -425,3 +425,35 @@ TEST_F(OpeningTrashedFiles, AnOccupiedPlaceIsReportedAndNothingIsOverwritten)
     EXPECT_EQ(kept.readAll(), QByteArray("newer"));
     EXPECT_TRUE(QFileInfo::exists(first));
 }
+
+TEST(AppDelegate, AFileMissingFromTheActiveResultsWindowIsAddedOnlyWhenTheUserAgrees)
+{
+    TempTree tree;
+    tree.build({"x/a:3", "x/b:3", "x/c:4"});
+    MainWindow m;
+    AppDelegate &w = m.open();
+    Dupes *dupes = w.searchInFolderURLs({tree.path(QStringLiteral("x"))});
+    ASSERT_TRUE(dupes && waitForSearches(w));
+    dupes->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dupes));
+
+    const QString unique = tree.path(QStringLiteral("x/c"));
+    w.showInOpenWindowOrAddURLs({unique});
+    QList<QMessageBox *> alerts = openAlerts();
+    ASSERT_EQ(alerts.size(), 1);
+    EXPECT_EQ(alerts[0]->text(), QStringLiteral("No duplicate found for “c” in the current results"));
+    EXPECT_EQ(alerts[0]->buttons().size(), 2);
+    closeAlerts();
+    EXPECT_TRUE(w.sources()->locations().isEmpty()) << "closing the alert cancels";
+
+    dupes->activateWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(dupes));
+    w.showInOpenWindowOrAddURLs({unique});
+    alerts = openAlerts();
+    ASSERT_EQ(alerts.size(), 1);
+    for (QAbstractButton *button : alerts[0]->buttons()) {
+        if (button->text() == QStringLiteral("Add Serarch Location"))
+            button->click();
+    }
+    EXPECT_EQ(w.sources()->enabledPaths(), QStringList{unique});
+}
