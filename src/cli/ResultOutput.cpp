@@ -123,7 +123,7 @@ void writeItem(JsonWriter &json, const ResultItem &item)
         json.field("lastUsed", isoDate(item.lastUsed));
     if (item.has(IsFolder)) {
         json.field("isFolder", true);
-        json.field("itemCount", item.itemCount);
+        json.field("itemCount", item.itemCount());
     }
     if (item.has(ReadOnly))
         json.field("readOnly", true);

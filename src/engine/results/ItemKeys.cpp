@@ -1,5 +1,6 @@
 #include "results/ItemKeys.h"
 
+#include "results/NameCompare.h"
 #include "search/Digest.h"
 
 #include <QDateTime>
@@ -57,17 +58,52 @@ int compareVariants(const QVariant &a, const QVariant &b)
 #define STRING_KEY(key, field)                                                                                \
     ItemKey { key, [](const ResultItem &i) { return QVariant(i.field); },                                     \
               [](const ResultItem &a, const ResultItem &b) { return order(a.field, b.field); } }
+// Texts derived from the path, ordered plainly or naturally.
+#define PATH_KEY(key, text, plain)                                                                            \
+    ItemKey { key, [](const ResultItem &i) { return QVariant(text(i).toString()); },                            \
+              [](const ResultItem &a, const ResultItem &b) { return plain(text(a), text(b)); },                \
+              [](const ResultItem &a, const ResultItem &b) { return naturalCompare(text(a), text(b)); } }
+
+QStringView wholePath(const ResultItem &i) { return i.path; }
+QStringView name(const ResultItem &i) { return i.nameView(); }
+QStringView baseName(const ResultItem &i) { return deletingPathExtension(i.nameView()); }
+QStringView folderOf(const ResultItem &i)
+{
+    const qsizetype slash = i.path.lastIndexOf(QLatin1Char('/'));
+    return slash > 0 ? QStringView(i.path).left(slash) : QStringView(u"/");
+}
+int plainOrder(QStringView a, QStringView b)
+{
+    const int c = a.compare(b);
+    return c < 0 ? -1 : (c > 0 ? 1 : 0);
+}
+
 #define FLAG_KEY(key, flag)                                                                                   \
     ItemKey { key, [](const ResultItem &i) { return i.has(flag) ? QVariant(true) : QVariant(); },             \
               [](const ResultItem &a, const ResultItem &b) { return order(a.has(flag), b.has(flag)); } }
 
 const std::array kKeys = {
     STRING_KEY("URL", path),
+    PATH_KEY("URL.path", wholePath, plainOrder),
+    PATH_KEY("URL.path.lastPathComponent", name, plainOrder),
+    ItemKey{"URL.path.lastPathComponent.lowercaseString", [](const ResultItem &i) { return QVariant(i.name().toLower()); },
+            [](const ResultItem &a, const ResultItem &b) { return compareLowercase(name(a), name(b)); },
+            [](const ResultItem &a, const ResultItem &b) { return naturalCompare(name(a), name(b)); }},
+    ItemKey{"URL.path.lastPathComponent.stringByDeletingPathExtension.lowercaseString",
+            [](const ResultItem &i) { return QVariant(baseName(i).toString().toLower()); },
+            [](const ResultItem &a, const ResultItem &b) { return compareLowercase(baseName(a), baseName(b)); },
+            [](const ResultItem &a, const ResultItem &b) { return naturalCompare(baseName(a), baseName(b)); }},
+    PATH_KEY("URL.path.stringByDeletingLastPathComponent", folderOf, plainOrder),
+    ItemKey{"extension", [](const ResultItem &i) { return QVariant(pathExtension(i.nameView()).toString().toLower()); },
+            [](const ResultItem &a, const ResultItem &b) {
+                return compareLowercase(pathExtension(a.nameView()), pathExtension(b.nameView()));
+            }},
     NUMBER_KEY("size", size),
     NUMBER_KEY("physicalSize", physicalSize),
     DATE_KEY("modified", modified),
     DATE_KEY("lastUsed", lastUsed),
-    DATE_KEY("addedDate", addedDate),
+    ItemKey{"addedDate", [](const ResultItem &i) { return date(i.addedDate()); },
+            [](const ResultItem &a, const ResultItem &b) { return order(a.addedDate(), b.addedDate()); }},
     DATE_KEY("attributes", attributes),
     DATE_KEY("created", created),
     ItemKey{"tagList", [](const ResultItem &i) { return i.tagList.isEmpty() ? QVariant() : QVariant(i.tagList); },
@@ -97,13 +133,18 @@ const std::array kKeys = {
             [](const ResultItem &a, const ResultItem &b) {
                 return compareDigest(a.allocDigest, a.has(HasAllocDigest), b.allocDigest, b.has(HasAllocDigest));
             }},
-    NUMBER_KEY("itemCount", itemCount),
+    ItemKey{"itemCount", [](const ResultItem &i) { return QVariant(i.itemCount()); },
+            [](const ResultItem &a, const ResultItem &b) { return order(a.itemCount(), b.itemCount()); }},
     NUMBER_KEY("group", group),
     NUMBER_KEY("dupes", dupes),
-    STRING_KEY("parentPath", parentPath),
+    ItemKey{"parentPath", [](const ResultItem &i) { return QVariant(i.parentPath()); },
+            [](const ResultItem &a, const ResultItem &b) { return order(a.parentPath(), b.parentPath()); },
+            [](const ResultItem &a, const ResultItem &b) { return naturalCompare(a.parentPath(), b.parentPath()); }},
     NUMBER_KEY("clone", clone),
     FLAG_KEY("alternateColor", AlternateColor),
-    STRING_KEY("trashedURL", trashedURL),
+    ItemKey{"trashedURL",
+            [](const ResultItem &i) { return i.trashedURL().isEmpty() ? QVariant() : QVariant(i.trashedURL()); },
+            [](const ResultItem &a, const ResultItem &b) { return order(a.trashedURL(), b.trashedURL()); }},
     FLAG_KEY("deleted", Deleted),
 };
 
@@ -111,6 +152,7 @@ const std::array kKeys = {
 #undef DATE_KEY
 #undef STRING_KEY
 #undef FLAG_KEY
+#undef PATH_KEY
 
 } // namespace
 

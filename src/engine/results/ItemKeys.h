@@ -13,7 +13,13 @@ struct ItemKey {
     const char *name;
     QVariant (*value)(const ResultItem &);            // invalid QVariant for an absent value
     int (*compare)(const ResultItem &, const ResultItem &); // -1, 0 or 1; absent values first
+    // The natural order of file lists (naturalCompare) for keys of path texts; null for others.
+    int (*naturalCompare)(const ResultItem &, const ResultItem &) = nullptr;
 };
+
+// Key paths of the name and folder columns.
+inline constexpr char16_t kSortByNameKeyPath[] = u"URL.path.lastPathComponent.lowercaseString";
+inline constexpr char16_t kSortByFolderKeyPath[] = u"URL.path.stringByDeletingLastPathComponent";
 
 const ItemKey *findItemKey(QStringView name);
 QVariant itemValue(const ResultItem &item, QStringView key);

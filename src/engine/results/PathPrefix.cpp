@@ -41,14 +41,15 @@ void removeCommonPathPrefix(const QStringList &searchedPaths, QList<ResultItem> 
 {
     const QString prefix = commonPathPrefix(searchedPaths);
     for (ResultItem &item : items) {
-        const qsizetype slash = item.path.lastIndexOf(QLatin1Char('/'));
-        QString folder = slash > 0 ? item.path.left(slash) : QStringLiteral("/");
-        if (!prefix.isEmpty()) {
-            folder = folder.mid(prefix.size());
-            if (folder.startsWith(QLatin1Char('/')))
-                folder.remove(0, 1);
+        if (prefix.isEmpty()) {
+            item.parentPathStart = 0;
+            continue;
         }
-        item.parentPath = folder;
+        // The prefix is cut by its length alone, whether or not the folder begins with it.
+        qsizetype start = prefix.size();
+        if (start < item.path.size() && item.path[start] == QLatin1Char('/'))
+            ++start;
+        item.parentPathStart = quint16(std::min<qsizetype>(start, item.path.size()));
     }
 }
 

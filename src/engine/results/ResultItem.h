@@ -7,6 +7,7 @@
 #include <array>
 #include <cstdint>
 #include <limits>
+#include <memory>
 
 namespace selfsame {
 
@@ -28,40 +29,78 @@ enum ItemFlag : quint16 {
     Deleted = 1 << 8,
 };
 
+// The status of a bottom-list row relative to the item selected in the top list.
+enum CloneStatus : qint8 {
+    PlainDuplicate = 0,
+    SelectedItself = 1,
+    HardLink = 2,
+    AlreadyClone = 3,
+    OtherVolume = 4,
+    FileMissing = 5,
+    ProvenDuplicate = 6, // same content found outside the content mode
+};
+
 // One found file or folder. A search may hold millions, so this is a plain struct of typed
-// fields; keyed access by name goes through the accessor table of ItemKeys.h.
+// fields; keyed access by name goes through the accessor table of ItemKeys.h. Values that
+// few items ever carry live out of line, and the displayed folder is a view into the path.
 struct ResultItem {
     QString path;                    // "URL": absolute path
     qint64 size = 0;                 // "size": st_size; sum of children for a compared folder
     qint64 physicalSize = 0;         // "physicalSize": allocated bytes
     qint64 modified = 0;             // "modified": st_mtime
     qint64 lastUsed = kNoDate;       // "lastUsed": st_atime
-    qint64 addedDate = kNoDate;      // "addedDate": unknown on Linux
     qint64 attributes = 0;           // "attributes": st_ctime
     qint64 created = kNoDate;        // "created": birth time when the file system keeps one
+    quint64 device = 0;              // st_dev and st_ino, to tell hard links apart
+    quint64 inode = 0;
+    Digest digest{};                 // "digest", valid with HasDigest
+    Digest allocDigest{};            // "allocDigest", valid with HasAllocDigest
     QStringList tagList;             // "tagList": user tags
-    double duration = 0.0;           // "duration"
-    double latitude = std::numeric_limits<double>::quiet_NaN();  // "latitude", NaN when absent
-    double longitude = std::numeric_limits<double>::quiet_NaN(); // "longitude", NaN when absent
     QVariant spotlight;              // "spotlight": the compared attribute's value
     QString pixelSize;               // "pixelSize": "W × H" or empty
     QString codecs;                  // "codecs"
+    double duration = 0.0;           // "duration"
+    double latitude = std::numeric_limits<double>::quiet_NaN();  // "latitude", NaN when absent
+    double longitude = std::numeric_limits<double>::quiet_NaN(); // "longitude", NaN when absent
     double bitrate = 0.0;            // "bitrate"
-    Digest digest{};                 // "digest", valid with HasDigest
-    Digest allocDigest{};            // "allocDigest", valid with HasAllocDigest
-    qint64 itemCount = 0;            // "itemCount": files inside a compared folder
     int group = -1;                  // "group"
     int dupes = 0;                   // "dupes": members of the group when it was formed
-    QString parentPath;              // "parentPath": displayed folder, common prefix removed
-    qint8 clone = 0;                 // "clone": CloneStatus in the bottom list
     quint16 flags = 0;
-    quint64 device = 0;              // st_dev and st_ino, to tell hard links apart
-    quint64 inode = 0;
-    QString trashedURL;              // "trashedURL": where the item went in the trash
+    quint16 parentPathStart = 0;     // where "parentPath" begins in the path; 0: no common prefix
+    qint8 clone = PlainDuplicate;    // "clone": CloneStatus in the bottom list
 
     bool has(ItemFlag f) const { return (flags & f) != 0; }
     void set(ItemFlag f, bool on = true) { flags = on ? (flags | f) : (flags & ~f); }
     QString name() const { return path.mid(path.lastIndexOf(QLatin1Char('/')) + 1); }
+    QStringView nameView() const { return QStringView(path).mid(path.lastIndexOf(QLatin1Char('/')) + 1); }
+    // The folder as the path lists it ("/" for an item at the root).
+    QString folder() const;
+    // "parentPath": the folder without the searched locations' common prefix.
+    QString parentPath() const;
+
+    qint64 itemCount() const { return m_rare ? m_rare->itemCount : 0; }   // "itemCount": files in a folder
+    qint64 addedDate() const { return m_rare ? m_rare->addedDate : kNoDate; } // "addedDate"
+    const QString &trashedURL() const;                                   // "trashedURL": path in the Bin
+    void setItemCount(qint64 count);
+    void setAddedDate(qint64 date);
+    void setTrashedURL(const QString &path);
+
+private:
+    struct Rare {
+        qint64 itemCount = 0;
+        qint64 addedDate = kNoDate;
+        QString trashedURL;
+    };
+    // A pointer that copies what it points to, so that items stay plain values.
+    struct RarePtr : std::unique_ptr<Rare> {
+        RarePtr() = default;
+        RarePtr(const RarePtr &o) : std::unique_ptr<Rare>(o ? std::make_unique<Rare>(*o) : nullptr) {}
+        RarePtr(RarePtr &&) noexcept = default;
+        RarePtr &operator=(const RarePtr &o) { return *this = RarePtr(o); }
+        RarePtr &operator=(RarePtr &&) noexcept = default;
+    };
+    Rare &rare();
+    RarePtr m_rare;
 };
 
 } // namespace selfsame

@@ -316,7 +316,7 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
             item.tagList = tags->second; // read by the hasher while the file was open
         item.digest = node.has(HasDigest) ? node.digest() : Digest{};
         item.allocDigest = node.has(HasAllocDigest) ? node.allocDigest() : Digest{};
-        item.itemCount = node.itemCount;
+        item.setItemCount(node.itemCount);
         item.group = member.group;
         item.dupes = member.dupes;
         item.flags = node.flags;

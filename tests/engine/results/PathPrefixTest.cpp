@@ -23,7 +23,7 @@ TEST(PathPrefix, CommonComponentsOfTheLocationsAreCutFromDisplayedFolders)
         QList<ResultItem> items(1);
         items[0].path = QString::fromUtf8(c.path);
         removeCommonPathPrefix(c.locations, items);
-        EXPECT_EQ(items[0].parentPath.toStdString(), c.parentPath) << c.path;
+        EXPECT_EQ(items[0].parentPath().toStdString(), c.parentPath) << c.path;
     }
 }
 

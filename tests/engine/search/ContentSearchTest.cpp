@@ -71,7 +71,7 @@ TEST(ContentSearch, DuplicateFoldersReplaceTheGroupsOfTheirContents)
         EXPECT_EQ(item.group, folder ? 0 : 1); // renumbered after the group of f2 vanished
         EXPECT_EQ(item.dupes, 2);
         EXPECT_EQ(item.size, folder ? 3000 : 1000);
-        EXPECT_EQ(item.itemCount, folder ? 2 : 0);
+        EXPECT_EQ(item.itemCount(), folder ? 2 : 0);
     }
 }
 

@@ -1,0 +1,70 @@
+#include "results/NameCompare.h"
+
+namespace selfsame {
+
+namespace {
+
+int sign(int value) { return value < 0 ? -1 : (value > 0 ? 1 : 0); }
+
+bool isDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
+
+} // namespace
+
+QStringView pathExtension(QStringView name)
+{
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    return dot > 0 ? name.mid(dot + 1) : QStringView();
+}
+
+QStringView deletingPathExtension(QStringView name)
+{
+    const qsizetype dot = name.lastIndexOf(QLatin1Char('.'));
+    return dot > 0 ? name.left(dot) : name;
+}
+
+int compareLowercase(QStringView a, QStringView b)
+{
+    const qsizetype n = std::min(a.size(), b.size());
+    for (qsizetype i = 0; i < n; ++i) {
+        const char16_t x = a[i].toLower().unicode(), y = b[i].toLower().unicode();
+        if (x != y)
+            return x < y ? -1 : 1;
+    }
+    return sign(int(a.size() > b.size()) - int(a.size() < b.size()));
+}
+
+int naturalCompare(QStringView a, QStringView b)
+{
+    qsizetype i = 0, j = 0;
+    while (i < a.size() && j < b.size()) {
+        if (isDigit(a[i]) && isDigit(b[j])) {
+            // Compare the numbers' values: leading zeros aside, the longer run is larger.
+            while (i < a.size() && a[i] == QLatin1Char('0') && i + 1 < a.size() && isDigit(a[i + 1]))
+                ++i;
+            while (j < b.size() && b[j] == QLatin1Char('0') && j + 1 < b.size() && isDigit(b[j + 1]))
+                ++j;
+            qsizetype ei = i, ej = j;
+            while (ei < a.size() && isDigit(a[ei]))
+                ++ei;
+            while (ej < b.size() && isDigit(b[ej]))
+                ++ej;
+            if (ei - i != ej - j)
+                return ei - i < ej - j ? -1 : 1;
+            if (const int c = a.mid(i, ei - i).compare(b.mid(j, ej - j)))
+                return sign(c);
+            i = ei;
+            j = ej;
+            continue;
+        }
+        const char16_t x = a[i].toCaseFolded().unicode(), y = b[j].toCaseFolded().unicode();
+        if (x != y)
+            return x < y ? -1 : 1;
+        ++i;
+        ++j;
+    }
+    if (i < a.size() || j < b.size())
+        return i < a.size() ? 1 : -1;
+    return sign(a.compare(b));
+}
+
+} // namespace selfsame
