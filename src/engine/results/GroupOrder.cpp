@@ -1,0 +1,192 @@
+#include "results/GroupOrder.h"
+
+#include "results/NameCompare.h"
+#include "search/Digest.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <numeric>
+
+namespace selfsame {
+
+namespace {
+
+template <typename T> int order(const T &a, const T &b) { return a < b ? -1 : (b < a ? 1 : 0); }
+
+int compareDigestsOf(const ResultItem &a, const ResultItem &b)
+{
+    if (!a.has(HasDigest) || !b.has(HasDigest))
+        return order(a.has(HasDigest), b.has(HasDigest));
+    return compareDigests(a.digest, b.digest);
+}
+
+bool isNumber(const QVariant &v)
+{
+    switch (v.typeId()) {
+    case QMetaType::Int: case QMetaType::UInt: case QMetaType::LongLong: case QMetaType::ULongLong:
+    case QMetaType::Double: case QMetaType::Float: case QMetaType::Bool:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// A probe of the attribute mode: the value moved by the tolerance where it has a distance.
+QVariant shifted(const QVariant &value, double by)
+{
+    if (value.typeId() == QMetaType::QDateTime)
+        return value.toDateTime().addMSecs(qint64(by * 1000.0));
+    if (isNumber(value))
+        return value.toDouble() + by;
+    return value;
+}
+
+} // namespace
+
+QString removePathExtensionAndSuffix(bool removeExtension, const QList<QRegularExpression> &suffixRegexes,
+                                     const QString &name)
+{
+    const QStringView extension = pathExtension(name);
+    QString base = extension.isEmpty() ? name : deletingPathExtension(name).toString();
+    qsizetype longest = 0;
+    for (const QRegularExpression &regex : suffixRegexes) {
+        const QRegularExpressionMatch match = regex.match(base);
+        if (match.hasMatch())
+            longest = std::max(longest, match.capturedLength());
+    }
+    base.chop(longest);
+    if (removeExtension || extension.isEmpty())
+        return base;
+    return base.append(QLatin1Char('.')).append(extension);
+}
+
+int compareAttributeValues(const QVariant &a, const QVariant &b)
+{
+    const bool comparable = (isNumber(a) && isNumber(b)) ||
+                            (a.typeId() == b.typeId() &&
+                             (a.typeId() == QMetaType::QDateTime || a.typeId() == QMetaType::QString));
+    if (comparable) {
+        const QPartialOrdering o = QVariant::compare(a, b);
+        if (o == QPartialOrdering::Less)
+            return -1;
+        if (o == QPartialOrdering::Greater)
+            return 1;
+        if (o == QPartialOrdering::Equivalent)
+            return 0;
+    }
+    return a == b ? 0 : -1;
+}
+
+GroupOrder::GroupOrder(const SearchRequest &request)
+    : m_mode(request.detectionMode),
+      m_durationTolerance(request.durationTolerance),
+      m_spotlightTolerance(request.spotlightTolerance),
+      m_ignoreExtension(request.filenameIgnoreExtension),
+      m_suffixRegexes(request.filenameIgnoreCommonSuffixRegexes)
+{
+}
+
+bool GroupOrder::isOrdered() const
+{
+    return int(m_mode) >= 0 && int(m_mode) <= int(DetectionMode::Attribute);
+}
+
+QString GroupOrder::nameKey(const ResultItem &item) const
+{
+    if (m_suffixRegexes)
+        return removePathExtensionAndSuffix(m_ignoreExtension, *m_suffixRegexes, item.name().toLower());
+    if (m_ignoreExtension)
+        return deletingPathExtension(item.nameView()).toString().toLower();
+    return item.name().toLower();
+}
+
+int GroupOrder::compare(const ResultItem &a, const ResultItem &b) const
+{
+    switch (m_mode) {
+    case DetectionMode::Content:
+        return compareDigestsOf(a, b);
+    case DetectionMode::Duration:
+        return order(a.duration, b.duration);
+    case DetectionMode::FileName:
+        if (m_suffixRegexes)
+            return order(nameKey(a), nameKey(b));
+        if (m_ignoreExtension)
+            return compareLowercase(deletingPathExtension(a.nameView()), deletingPathExtension(b.nameView()));
+        return compareLowercase(a.nameView(), b.nameView());
+    case DetectionMode::Attribute:
+        return compareAttributeValues(a.spotlight, b.spotlight);
+    }
+    return 0;
+}
+
+void GroupOrder::sort(QList<ResultItem *> &items) const
+{
+    if (m_mode == DetectionMode::FileName && m_suffixRegexes) {
+        // The comparable names cost regular expressions: compute each once.
+        QList<QString> keys;
+        keys.reserve(items.size());
+        for (const ResultItem *item : items)
+            keys.append(nameKey(*item));
+        QList<qsizetype> byKey(items.size());
+        std::iota(byKey.begin(), byKey.end(), 0);
+        std::stable_sort(byKey.begin(), byKey.end(), [&](qsizetype a, qsizetype b) { return keys[a] < keys[b]; });
+        QList<ResultItem *> sorted;
+        sorted.reserve(items.size());
+        for (qsizetype i : byKey)
+            sorted.append(items[i]);
+        items = std::move(sorted);
+        return;
+    }
+    if (!isOrdered())
+        return;
+    std::stable_sort(items.begin(), items.end(),
+                     [this](const ResultItem *a, const ResultItem *b) { return compare(*a, *b) < 0; });
+}
+
+GroupOrder::Range GroupOrder::equalRange(const QList<ResultItem *> &sorted, const ResultItem &low,
+                                         const ResultItem &high, bool lowMustBeEqual) const
+{
+    // First-equal search for the low probe, then last-equal search for the high one from there.
+    const auto begin = std::lower_bound(sorted.begin(), sorted.end(), &low,
+                                        [this](const ResultItem *x, const ResultItem *probe) {
+                                            return compare(*x, *probe) < 0;
+                                        });
+    if (begin == sorted.end() || (lowMustBeEqual && compare(**begin, low) != 0))
+        return {0, 0};
+    const auto end = std::upper_bound(begin, sorted.end(), &high,
+                                      [this](const ResultItem *probe, const ResultItem *x) {
+                                          return compare(*probe, *x) < 0;
+                                      });
+    return {begin - sorted.begin(), end - sorted.begin()};
+}
+
+QList<ResultItem *> GroupOrder::duplicatesFor(const QList<ResultItem *> &sorted, const ResultItem &item) const
+{
+    Range range{0, 0};
+    switch (m_mode) {
+    case DetectionMode::Content:
+        range = equalRange(sorted, item, item, true);
+        break;
+    case DetectionMode::FileName:
+        range = equalRange(sorted, item, item, false);
+        break;
+    case DetectionMode::Duration: {
+        ResultItem low, high;
+        low.duration = item.duration - m_durationTolerance;
+        high.duration = item.duration + m_durationTolerance;
+        range = equalRange(sorted, low, high, false);
+        break;
+    }
+    case DetectionMode::Attribute: {
+        ResultItem low, high;
+        low.spotlight = shifted(item.spotlight, -m_spotlightTolerance);
+        high.spotlight = shifted(item.spotlight, m_spotlightTolerance);
+        range = equalRange(sorted, low, high, false);
+        break;
+    }
+    }
+    return sorted.mid(range.begin, range.end - range.begin);
+}
+
+} // namespace selfsame

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "results/ResultItem.h"
+#include "search/SearchRequest.h"
+
+#include <QList>
+#include <QRegularExpression>
+
+#include <optional>
+
+namespace selfsame {
+
+// The comparable form of a name in the file-name mode: the longest common suffix that any
+// expression matches at the end of the base name is cut, and the extension dropped or kept.
+QString removePathExtensionAndSuffix(bool removeExtension, const QList<QRegularExpression> &suffixRegexes,
+                                     const QString &name);
+
+// The order of a detection mode's group key, which both the sorted look-up array and the
+// binary searches over it use. Modes beyond the attribute mode have no order.
+class GroupOrder {
+public:
+    explicit GroupOrder(const SearchRequest &request);
+
+    bool isOrdered() const;
+    int compare(const ResultItem &a, const ResultItem &b) const;
+    // Sorts ascending by the group key.
+    void sort(QList<ResultItem *> &items) const;
+    // The members of `item`'s group in `sorted` (ascending by the group key), the item
+    // included; in the duration and attribute modes the items within ± tolerance of it.
+    QList<ResultItem *> duplicatesFor(const QList<ResultItem *> &sorted, const ResultItem &item) const;
+
+    // The file-name mode's comparable text of an item.
+    QString nameKey(const ResultItem &item) const;
+
+private:
+    struct Range {
+        qsizetype begin, end;
+    };
+    Range equalRange(const QList<ResultItem *> &sorted, const ResultItem &low, const ResultItem &high,
+                     bool lowMustBeEqual) const;
+
+    DetectionMode m_mode;
+    double m_durationTolerance;
+    double m_spotlightTolerance;
+    bool m_ignoreExtension;
+    std::optional<QList<QRegularExpression>> m_suffixRegexes;
+};
+
+// The attribute mode's comparison: natural order for values that have one (numbers, dates,
+// strings of one kind); otherwise equal when equal, else less.
+int compareAttributeValues(const QVariant &a, const QVariant &b);
+
+} // namespace selfsame

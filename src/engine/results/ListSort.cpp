@@ -1,0 +1,110 @@
+#include "results/ListSort.h"
+
+#include "results/ItemKeys.h"
+#include "results/NameCompare.h"
+
+#include <algorithm>
+
+namespace selfsame {
+
+namespace {
+
+QString extensionText(const ResultItem &item)
+{
+    if (item.has(IsFolder) && !item.has(IsPackage))
+        return QStringLiteral("   -=folder=-");
+    const QString extension = pathExtension(item.nameView()).toString().toLower();
+    return extension.isEmpty() ? QStringLiteral("~~~") : extension;
+}
+
+int sign(int value) { return value < 0 ? -1 : (value > 0 ? 1 : 0); }
+
+struct Comparison {
+    int (*compare)(const ResultItem &, const ResultItem &);
+    bool ascending;
+};
+
+} // namespace
+
+int compareExtensions(const ResultItem &a, const ResultItem &b, bool ascending)
+{
+    int result = sign(extensionText(a).compare(extensionText(b)));
+    if (result == 0)
+        result = compareLowercase(a.nameView(), b.nameView());
+    return ascending ? result : -result;
+}
+
+int comparePixelSizes(const QString &a, const QString &b)
+{
+    const QString separator = QStringLiteral(" \u00d7 ");
+    const QStringList x = a.split(separator), y = b.split(separator);
+    if (x.size() != 2 || y.size() != 2)
+        return 0;
+    const qint64 pixelsA = x[0].toLongLong() * x[1].toLongLong();
+    const qint64 pixelsB = y[0].toLongLong() * y[1].toLongLong();
+    return pixelsA < pixelsB ? -1 : (pixelsA > pixelsB ? 1 : 0);
+}
+
+QString groupColumnKey(DetectionMode mode)
+{
+    switch (mode) {
+    case DetectionMode::Content:
+        return QStringLiteral("size");
+    case DetectionMode::Duration:
+        return QStringLiteral("duration");
+    case DetectionMode::FileName:
+        return QString::fromUtf16(kSortByNameKeyPath);
+    case DetectionMode::Attribute:
+        return QStringLiteral("spotlight");
+    }
+    return {};
+}
+
+QList<SortDescriptor> sortDescriptorsFor(const SortDescriptor &clicked, DetectionMode mode)
+{
+    const QString &key = clicked.key;
+    const bool dupes = key == QLatin1String("dupes");
+    const QString name = QString::fromUtf16(kSortByNameKeyPath);
+    const QString folder = QString::fromUtf16(kSortByFolderKeyPath);
+    if (mode == DetectionMode::Content && (key == QLatin1String("size") || dupes))
+        return {clicked, {QStringLiteral("digest"), true}};
+    if (mode == DetectionMode::FileName && dupes)
+        return {clicked, {name, true}, {folder, true}};
+    if (mode == DetectionMode::Duration && dupes)
+        return {clicked, {QStringLiteral("duration"), true}};
+    if (mode == DetectionMode::Attribute && dupes)
+        return {clicked, {QStringLiteral("spotlight"), true}};
+    if (key.startsWith(QLatin1String("URL.path.lastPathComponent")))
+        return {clicked, {folder, clicked.ascending}};
+    if (key.startsWith(QLatin1String("URL.path.stringByDeletingLastPathComponent")))
+        return {clicked, {QStringLiteral("URL.path.lastPathComponent.lowercaseString"), clicked.ascending}};
+    return {clicked};
+}
+
+void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, DetectionMode mode)
+{
+    if (clicked.key == QLatin1String("extension")) {
+        std::stable_sort(items.begin(), items.end(), [&](const ResultItem *a, const ResultItem *b) {
+            return compareExtensions(*a, *b, clicked.ascending) < 0;
+        });
+        return;
+    }
+    QList<Comparison> comparisons;
+    for (const SortDescriptor &d : sortDescriptorsFor(clicked, mode)) {
+        const ItemKey *key = findItemKey(d.key);
+        if (!key)
+            continue; // an unknown key orders nothing
+        const bool natural = d.key.startsWith(QLatin1String("URL.path")) && key->naturalCompare;
+        comparisons.append({natural ? key->naturalCompare : key->compare, d.ascending});
+    }
+    if (comparisons.isEmpty())
+        return;
+    std::stable_sort(items.begin(), items.end(), [&](const ResultItem *a, const ResultItem *b) {
+        for (const Comparison &c : comparisons)
+            if (const int result = c.compare(*a, *b))
+                return c.ascending ? result < 0 : result > 0;
+        return false;
+    });
+}
+
+} // namespace selfsame

@@ -1,0 +1,126 @@
+#include "results/ResultModel.h"
+#include "search/Digest.h"
+#include "support/LoopBtrfs.h"
+#include "support/TempTree.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+using namespace selfsame;
+
+namespace {
+
+// An item as the search makes it; with `digested`, its digests as the content mode stores them.
+ResultItem foundItem(const QString &path, bool digested)
+{
+    ResultItem item;
+    item.path = path;
+    item.size = QFile(path).size();
+    item.group = 0;
+    item.duration = 60;
+    if (digested) {
+        ReadBuffer buffer;
+        std::vector<qint64> storage;
+        const DigestResult result = computeDigest(path.toUtf8().constData(), item.size, false, buffer, storage);
+        item.digest = result.digest.value();
+        item.set(HasDigest);
+        if (result.allocDigest) {
+            item.allocDigest = *result.allocDigest;
+            item.set(HasAllocDigest);
+        }
+    }
+    return item;
+}
+
+// The bottom list for the item at `selected`: each row's name and status.
+std::string statuses(ResultModel &model, const QString &selected)
+{
+    EXPECT_TRUE(model.selectAndRevealInTopList(selected));
+    QStringList rows;
+    for (const ResultItem *i : model.cloneItems())
+        rows.append(i->name() + u'=' + QString::number(i->clone));
+    rows.sort();
+    return rows.join(u' ').toStdString();
+}
+
+ResultModel modelOf(const QStringList &paths, DetectionMode mode)
+{
+    QList<ResultItem> items;
+    for (const QString &path : paths)
+        items.append(foundItem(path, mode == DetectionMode::Content));
+    SearchRequest request;
+    request.detectionMode = mode;
+    ResultModel model;
+    model.setResults(items, request);
+    return model;
+}
+
+TEST(CloneStatus, SelectedHardLinkPlainAndVanishedInTheContentMode)
+{
+    TempTree tree;
+    tree.build({"a.bin:5", "copy.bin:5", "gone.bin:5"});
+    tree.hardLink(QStringLiteral("link.bin"), QStringLiteral("a.bin"));
+    ResultModel model = modelOf({tree.path(QStringLiteral("a.bin")), tree.path(QStringLiteral("copy.bin")),
+                                 tree.path(QStringLiteral("link.bin")), tree.path(QStringLiteral("gone.bin"))},
+                                DetectionMode::Content);
+    QFile::remove(tree.path(QStringLiteral("gone.bin")));
+    EXPECT_EQ(statuses(model, tree.path(QStringLiteral("a.bin"))), "a.bin=1 copy.bin=0 gone.bin=5 link.bin=2");
+    EXPECT_EQ(model.selectedItems(ResultList::Bottom).size(), 1);
+    // A vanished selected item makes every other row "missing".
+    EXPECT_EQ(statuses(model, tree.path(QStringLiteral("gone.bin"))), "a.bin=5 copy.bin=5 gone.bin=1 link.bin=5");
+    // More than one selected row: no bottom list.
+    model.select(ResultList::Top, model.mainItems().mid(0, 2));
+    EXPECT_TRUE(model.cloneItems().isEmpty());
+}
+
+TEST(CloneStatus, OutsideTheContentModeEqualSizesAreDigestedOnDemand)
+{
+    TempTree tree;
+    tree.build({"a.bin:5", "copy.bin:5", "other.bin:6"});
+    tree.file(QStringLiteral("same-size.bin"), QByteArray(5000, 'x'));
+    ResultModel model = modelOf({tree.path(QStringLiteral("a.bin")), tree.path(QStringLiteral("copy.bin")),
+                                 tree.path(QStringLiteral("other.bin")), tree.path(QStringLiteral("same-size.bin"))},
+                                DetectionMode::Duration);
+    EXPECT_EQ(statuses(model, tree.path(QStringLiteral("a.bin"))),
+              "a.bin=1 copy.bin=6 other.bin=0 same-size.bin=0");
+    int digested = 0;
+    for (const ResultItem &i : model.allItems())
+        digested += i.has(HasDigest);
+    EXPECT_EQ(digested, 3); // the other size is never read
+}
+
+class CloneStatusOnBtrfs : public ::testing::Test {
+protected:
+    void SetUp() override
+    {
+        if (!btrfs.mounted())
+            GTEST_SKIP() << btrfs.skipReason();
+        tree.build({"mnt/a.bin:7", "mnt/copy.bin:7", "elsewhere.bin:7"});
+        clone = btrfs.clone(tree.path(QStringLiteral("mnt/a.bin")), QStringLiteral("mnt/clone.bin"));
+        ASSERT_FALSE(clone.isEmpty()) << "FICLONE failed";
+    }
+    QStringList paths() const
+    {
+        return {tree.path(QStringLiteral("mnt/a.bin")), tree.path(QStringLiteral("mnt/copy.bin")), clone,
+                tree.path(QStringLiteral("elsewhere.bin"))};
+    }
+    TempTree tree;
+    LoopBtrfs btrfs{tree, QStringLiteral("mnt")};
+    QString clone;
+};
+
+TEST_F(CloneStatusOnBtrfs, ReflinksAreClonesAndOtherFileSystemsOtherVolumes)
+{
+    ResultModel content = modelOf(paths(), DetectionMode::Content);
+    EXPECT_EQ(statuses(content, tree.path(QStringLiteral("mnt/a.bin"))),
+              "a.bin=1 clone.bin=3 copy.bin=0 elsewhere.bin=4");
+    // Outside the content mode proven identical content wins over the volume.
+    ResultModel duration = modelOf(paths(), DetectionMode::Duration);
+    EXPECT_EQ(statuses(duration, tree.path(QStringLiteral("mnt/a.bin"))),
+              "a.bin=1 clone.bin=3 copy.bin=6 elsewhere.bin=6");
+}
+
+} // namespace
