@@ -1,5 +1,7 @@
 #include "CliOptions.h"
 
+#include "SelectOptions.h"
+
 #include "attributes/SpotlightAttributesManager.h"
 #include "format/ByteSize.h"
 #include "search/NamePatterns.h"
@@ -19,8 +21,8 @@ bool takesValue(const QString &option)
 {
     static const QStringList withValue = {"--min-size", "--max-size", "--ext", "--exclude-ext", "--skip",
                                           "--depth", "--format", "--mode", "--tolerance", "--attribute",
-                                          "--suffixes"};
-    return withValue.contains(option);
+                                          "--suffixes", "--select"};
+    return withValue.contains(option) || selectOptionTakesValue(option);
 }
 
 // Sizes are read as the application's size fields read them, but a text without any digit
@@ -68,9 +70,12 @@ QString usageText()
               "                             that files with this extension can carry, and exit\n"
               "  --format text|json|csv     output format (default text: a blank line between groups)\n"
               "  --summary                  counts to standard error\n"
+              "  --select RULE [OPTIONS]    show which copies a selection rule picks (see below)\n"
               "  -h, --help                 show this help\n"
               "  --version                  show the version\n"
-              "\n"
+              "\n") +
+           selectUsageText() +
+           tr("\n"
               "Exit status: 0 duplicates found, 1 none found, 2 bad usage or input, 130 interrupted.\n");
 }
 
@@ -85,6 +90,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
     std::optional<double> tolerance;
     std::optional<QString> suffixes;
     bool ignoreSuffixes = false, attributeGiven = false;
+    SelectRequest select;
     auto fail = [&](const QString &error) {
         result.error = error;
         result.showUsage = true;
@@ -190,6 +196,20 @@ ParseResult parseCommandLine(const QStringList &arguments)
                 options.listAttributes = value;
             else if (i + 1 < arguments.size() && !arguments[i + 1].startsWith(QLatin1Char('-')))
                 options.listAttributes = arguments[++i];
+        } else if (argument == QLatin1String("--select")) {
+            if (!select.rule.isEmpty())
+                return fail(tr("give only one --select"));
+            select.rule = value;
+            const bool next = i + 1 < arguments.size();
+            if (selectRuleTakesFolder(value)) {
+                if (!next)
+                    return fail(tr("--select folder needs a folder"));
+                select.operand = arguments[++i];
+            } else if (selectRuleMayTakeTag(value) && next && !arguments[i + 1].startsWith(QLatin1Char('-'))) {
+                select.operand = arguments[++i];
+            }
+        } else if (isSelectOption(argument)) {
+            select.options.append({argument, value});
         } else if (argument.startsWith(QLatin1Char('-')) && argument.size() > 1) {
             return fail(tr("unknown option %1").arg(argument));
         } else {
@@ -218,6 +238,16 @@ ParseResult parseCommandLine(const QStringList &arguments)
     }
     if (ignoreSuffixes || suffixes)
         request.filenameIgnoreCommonSuffixRegexes = compileCommonSuffixes(suffixes.value_or(QString()));
+
+    if (!select.rule.isEmpty()) {
+        AutoSelectSettings settings;
+        const QString error = selectSettings(select, &settings);
+        if (!error.isEmpty())
+            return fail(error);
+        options.select = settings;
+    } else if (!select.options.isEmpty()) {
+        return fail(tr("%1 needs --select").arg(select.options.first().first));
+    }
 
     if (!skipLines.isEmpty()) {
         PatternError error;

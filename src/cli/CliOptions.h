@@ -1,5 +1,6 @@
 #pragma once
 
+#include "autoselect/AutomaticSelection.h"
 #include "search/SearchRequest.h"
 
 #include <QString>
@@ -19,6 +20,7 @@ struct CliOptions {
     bool version = false;
     std::optional<QString> listAttributes; // list the catalogue: all of it (""), or for an extension
     QStringList missingPaths; // named on the command line but not found; the others are searched
+    std::optional<AutoSelectSettings> select; // the rule whose choice is shown with the groups
 };
 
 struct ParseResult {

@@ -48,6 +48,7 @@ public:
     void value(double number) { separate(); m_out += QByteArray::number(number, 'g', QLocale::FloatingPointShortest); }
     void value(const QString &text) { separate(); string(text.toUtf8()); }
     void value(const QByteArray &utf8) { separate(); string(utf8); }
+    void null() { separate(); m_out += "null"; }
     template <typename T> void field(const char *name, const T &v) { key(name); value(v); }
 
 private:
@@ -110,7 +111,15 @@ void writeMetadata(JsonWriter &json, const ResultItem &item)
         json.field("bitrate", item.bitrate);
 }
 
-void writeItem(JsonWriter &json, const ResultItem &item)
+// "selected", "kept" or nothing: what the selection rule decided for the item.
+const char *autoSelectMark(const AutoSelection &selection, const ResultItem &item)
+{
+    if (selection.isSelected(&item))
+        return "selected";
+    return selection.isSkipped(&item) ? "kept" : nullptr;
+}
+
+void writeItem(JsonWriter &json, const ResultItem &item, const AutoSelection *selection)
 {
     json.begin('{');
     json.field("path", item.path);
@@ -139,6 +148,13 @@ void writeItem(JsonWriter &json, const ResultItem &item)
     if (item.has(HasDigest))
         json.field("digest", digestToHex(item.digest));
     writeMetadata(json, item);
+    if (selection) {
+        json.key("autoSelect");
+        if (const char *mark = autoSelectMark(*selection, item))
+            json.value(QByteArray(mark));
+        else
+            json.null();
+    }
     json.end('}');
 }
 
@@ -194,15 +210,16 @@ ResultSummary summarize(const QList<ResultItem> &items)
     return summary;
 }
 
-QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics)
+QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
+                         const AutoSelection *selection)
 {
     QByteArray all;
-    writeResults(items, format, statistics, [&](const QByteArray &bytes) { all += bytes; });
+    writeResults(items, format, statistics, [&](const QByteArray &bytes) { all += bytes; }, selection);
     return all;
 }
 
 void writeResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
-                  const std::function<void(const QByteArray &)> &sink)
+                  const std::function<void(const QByteArray &)> &sink, const AutoSelection *selection)
 {
     const QList<QList<const ResultItem *>> groups = groupsOf(items);
     QByteArray out;
@@ -218,19 +235,27 @@ void writeResults(const QList<ResultItem> &items, OutputFormat format, const Sea
         for (qsizetype g = 0; g < groups.size(); ++g) {
             if (g > 0)
                 out += '\n';
-            for (const ResultItem *item : groups[g])
+            for (const ResultItem *item : groups[g]) {
+                if (selection) {
+                    const char *mark = autoSelectMark(*selection, *item);
+                    out += mark == nullptr ? "  " : selection->isSelected(item) ? "select " : "keep ";
+                }
                 out += item->path.toUtf8() + '\n';
+            }
             flushLarge();
         }
         break;
     case OutputFormat::Csv:
-        out += "group,dupes,size,physicalSize,modified,isFolder,path\n";
+        out += selection ? "group,dupes,size,physicalSize,modified,isFolder,autoSelect,path\n"
+                         : "group,dupes,size,physicalSize,modified,isFolder,path\n";
         for (const QList<const ResultItem *> &group : groups)
             for (const ResultItem *item : group) {
                 out += QByteArray::number(item->group) + ',' + QByteArray::number(item->dupes) + ',' +
                        QByteArray::number(item->size) + ',' + QByteArray::number(item->physicalSize) + ',' +
-                       isoDate(item->modified) + ',' + (item->has(IsFolder) ? "1" : "0") + ',' +
-                       csvField(item->path) + '\n';
+                       isoDate(item->modified) + ',' + (item->has(IsFolder) ? "1" : "0") + ',';
+                if (selection)
+                    out += QByteArray(autoSelectMark(*selection, *item)) + ',';
+                out += csvField(item->path) + '\n';
                 flushLarge();
             }
         break;
@@ -247,7 +272,7 @@ void writeResults(const QList<ResultItem> &items, OutputFormat format, const Sea
             json.key("items");
             json.begin('[');
             for (const ResultItem *item : group)
-                writeItem(json, *item);
+                writeItem(json, *item, selection);
             json.end(']');
             json.end('}');
             out += '\n';

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CliOptions.h"
+#include "autoselect/AutoSelectRules.h"
 #include "results/ResultItem.h"
 #include "search/RunContext.h"
 
@@ -23,10 +24,12 @@ ResultSummary summarize(const QList<ResultItem> &items);
 // The items grouped by group number, in group order, each group sorted by path.
 QList<QList<const ResultItem *>> groupsOf(const QList<ResultItem> &items);
 
-// Writes the results to `sink` a piece at a time.
+// Writes the results to `sink` a piece at a time. With a selection (of these very items),
+// every item also says whether the rule selected it, kept it, or left it alone.
 void writeResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
-                  const std::function<void(const QByteArray &)> &sink);
-QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics);
+                  const std::function<void(const QByteArray &)> &sink, const AutoSelection *selection = nullptr);
+QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
+                         const AutoSelection *selection = nullptr);
 QByteArray summaryText(const QList<ResultItem> &items, const SearchStatistics &statistics);
 
 } // namespace selfsame::cli

@@ -5,6 +5,8 @@
 #include "PutBackCommand.h"
 #include "ResultOutput.h"
 #include "attributes/SpotlightAttributesManager.h"
+#include "autoselect/AutomaticSelection.h"
+#include "results/ResultModel.h"
 #include "search/DuplicateSearch.h"
 
 #include <QCoreApplication>
@@ -100,9 +102,17 @@ int main(int argc, char *argv[])
     QObject::connect(&search, &DuplicateSearch::searchDone, &app, [&] {
         if (terminal)
             writeAll(stderr, "\r\x1b[K");
-        const QList<ResultItem> &items = search.mainItems();
+        // With a selection rule the items go through the result model, as in a results window.
+        ResultModel model;
+        std::optional<AutoSelectOutcome> selected;
+        if (options.select) {
+            model.setResults(search.mainItems(), search.request());
+            selected = performAutomaticallySelect(model, *options.select);
+        }
+        const QList<ResultItem> &items = options.select ? model.allItems() : search.mainItems();
         writeResults(items, options.format, search.statistics(),
-                     [](const QByteArray &bytes) { writeAll(stdout, bytes); });
+                     [](const QByteArray &bytes) { writeAll(stdout, bytes); },
+                     selected ? &selected->selection : nullptr);
         if (options.summary)
             writeAll(stderr, summaryText(items, search.statistics()));
         if (search.aborted())

@@ -170,6 +170,16 @@ TEST(SelfsameCliMetadata, ListsAttributesAndGroupsMediaByDuration)
     EXPECT_TRUE(noValue.err.contains("No file has been found with the specified spotlight attribute."));
 }
 
+TEST_F(SelfsameCli, SelectionRulesMarkCopiesWithoutTouchingThem)
+{
+    const CliRun run = runCli({"--select", "folder", path("c/sub"), "--inside", dir.path()});
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_EQ(run.out, ("  " + path("a/one link.txt") + "\n  " + path("a/one.txt") + "\n  " + path("b/one copy.txt") +
+                        "\n\nselect " + path("c/sub/y.bin") + "\nkeep " + path("c/x.bin") + '\n')
+                           .toUtf8());
+    EXPECT_TRUE(QFile::exists(path("c/sub/y.bin")));
+}
+
 TEST(SelfsameCliInterrupt, SigintStopsTheSearchWithStatus130)
 {
     // 4,000 files of 16 KiB in pairs that differ from the other pairs only in the middle.
