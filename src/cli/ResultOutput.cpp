@@ -197,7 +197,7 @@ ResultSummary summarize(const QList<ResultItem> &items)
         summary.duplicates += group.size() - 1;
         // Hard links and clones already share their storage: only distinct storage is freed.
         std::set<std::pair<quint64, quint64>> inodes;
-        std::set<Digest> allocations;
+        std::set<AllocationKey> allocations;
         qint64 storages = 0;
         for (const ResultItem *item : group) {
             const bool newInode = inodes.insert({item->device, item->inode}).second;

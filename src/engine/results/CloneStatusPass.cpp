@@ -34,7 +34,7 @@ void CloneStatusPass::ensureDigests(ResultItem &item)
         item.set(HasDigest);
     }
     if (result.allocDigest) {
-        item.allocDigest = *result.allocDigest;
+        item.allocDigest = allocationKey(*result.allocDigest);
         item.set(HasAllocDigest);
     }
 }

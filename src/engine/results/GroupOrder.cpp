@@ -6,7 +6,6 @@
 #include <QDateTime>
 
 #include <algorithm>
-#include <numeric>
 
 namespace selfsame {
 
@@ -40,6 +39,42 @@ QVariant shifted(const QVariant &value, double by)
     if (isNumber(value))
         return value.toDouble() + by;
     return value;
+}
+
+// The first bytes of a digest in their order, ties decided by the whole digests.
+struct DigestPrefix {
+    quint64 prefix;
+    const ResultItem *item;
+    bool operator<(const DigestPrefix &other) const
+    {
+        if (prefix != other.prefix)
+            return prefix < other.prefix;
+        return compareDigestsOf(*item, *other.item) < 0;
+    }
+};
+
+quint64 digestPrefix(const ResultItem &item)
+{
+    if (!item.has(HasDigest))
+        return 0; // absent digests order first, and tie with digests of leading zero bytes
+    quint64 prefix = 0;
+    for (int i = 0; i < 8; ++i)
+        prefix = prefix << 8 | item.digest[std::size_t(i)];
+    return prefix;
+}
+
+// A stable sort by a key computed once per item.
+template <typename KeyOf> void sortByKey(QList<ResultItem *> &items, KeyOf keyOf)
+{
+    using Key = decltype(keyOf(items.first()));
+    std::vector<std::pair<Key, ResultItem *>> keyed;
+    keyed.reserve(std::size_t(items.size()));
+    for (ResultItem *item : items)
+        keyed.emplace_back(keyOf(item), item);
+    std::stable_sort(keyed.begin(), keyed.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
+    for (std::size_t i = 0; i < keyed.size(); ++i)
+        items[qsizetype(i)] = keyed[i].second;
 }
 
 } // namespace
@@ -109,11 +144,7 @@ int GroupOrder::compare(const ResultItem &a, const ResultItem &b) const
     case DetectionMode::Duration:
         return order(a.duration, b.duration);
     case DetectionMode::FileName:
-        if (m_suffixRegexes)
-            return order(nameKey(a), nameKey(b));
-        if (m_ignoreExtension)
-            return compareLowercase(deletingPathExtension(a.nameView()), deletingPathExtension(b.nameView()));
-        return compareLowercase(a.nameView(), b.nameView());
+        return order(nameKey(a), nameKey(b));
     case DetectionMode::Attribute:
         return compareAttributeValues(a.spotlight, b.spotlight);
     }
@@ -122,26 +153,23 @@ int GroupOrder::compare(const ResultItem &a, const ResultItem &b) const
 
 void GroupOrder::sort(QList<ResultItem *> &items) const
 {
-    if (m_mode == DetectionMode::FileName && m_suffixRegexes) {
-        // The comparable names cost regular expressions: compute each once.
-        QList<QString> keys;
-        keys.reserve(items.size());
-        for (const ResultItem *item : items)
-            keys.append(nameKey(*item));
-        QList<qsizetype> byKey(items.size());
-        std::iota(byKey.begin(), byKey.end(), 0);
-        std::stable_sort(byKey.begin(), byKey.end(), [&](qsizetype a, qsizetype b) { return keys[a] < keys[b]; });
-        QList<ResultItem *> sorted;
-        sorted.reserve(items.size());
-        for (qsizetype i : byKey)
-            sorted.append(items[i]);
-        items = std::move(sorted);
-        return;
+    // The keys are taken out of the items first: comparing items in place would cost a cache
+    // miss per item and comparison, and the names of the file-name mode cost regular expressions.
+    switch (m_mode) {
+    case DetectionMode::Content:
+        sortByKey(items, [](const ResultItem *item) { return DigestPrefix{digestPrefix(*item), item}; });
+        break;
+    case DetectionMode::Duration:
+        sortByKey(items, [](const ResultItem *item) { return item->duration; });
+        break;
+    case DetectionMode::FileName:
+        sortByKey(items, [this](const ResultItem *item) { return nameKey(*item); });
+        break;
+    case DetectionMode::Attribute:
+        std::stable_sort(items.begin(), items.end(),
+                         [this](const ResultItem *a, const ResultItem *b) { return compare(*a, *b) < 0; });
+        break;
     }
-    if (!isOrdered())
-        return;
-    std::stable_sort(items.begin(), items.end(),
-                     [this](const ResultItem *a, const ResultItem *b) { return compare(*a, *b) < 0; });
 }
 
 GroupOrder::Range GroupOrder::equalRange(const QList<ResultItem *> &sorted, const ResultItem &low,

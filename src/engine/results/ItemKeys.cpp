@@ -25,7 +25,7 @@ int compareOptional(double a, double b)
         return order(!std::isnan(a), !std::isnan(b));
     return order(a, b);
 }
-QVariant bytes(const Digest &d, bool present)
+template <std::size_t N> QVariant bytes(const std::array<std::uint8_t, N> &d, bool present)
 {
     return present ? QVariant(QByteArray(reinterpret_cast<const char *>(d.data()), qsizetype(d.size())))
                    : QVariant();
@@ -35,6 +35,12 @@ int compareDigest(const Digest &a, bool hasA, const Digest &b, bool hasB)
     if (!hasA || !hasB)
         return order(hasA, hasB);
     return compareDigests(a, b);
+}
+int compareAllocation(const AllocationKey &a, bool hasA, const AllocationKey &b, bool hasB)
+{
+    if (!hasA || !hasB)
+        return order(hasA, hasB);
+    return order(a, b);
 }
 // Values without a natural order compare equal when equal, else by their text.
 int compareVariants(const QVariant &a, const QVariant &b)
@@ -62,7 +68,7 @@ int compareVariants(const QVariant &a, const QVariant &b)
 #define PATH_KEY(key, text, plain)                                                                            \
     ItemKey { key, [](const ResultItem &i) { return QVariant(text(i).toString()); },                            \
               [](const ResultItem &a, const ResultItem &b) { return plain(text(a), text(b)); },                \
-              [](const ResultItem &a, const ResultItem &b) { return naturalCompare(text(a), text(b)); } }
+              [](const ResultItem &a, const ResultItem &b) { return naturalCompare(text(a), text(b)); }, text }
 
 QStringView wholePath(const ResultItem &i) { return i.path; }
 QStringView name(const ResultItem &i) { return i.nameView(); }
@@ -88,11 +94,12 @@ const std::array kKeys = {
     PATH_KEY("URL.path.lastPathComponent", name, plainOrder),
     ItemKey{"URL.path.lastPathComponent.lowercaseString", [](const ResultItem &i) { return QVariant(i.name().toLower()); },
             [](const ResultItem &a, const ResultItem &b) { return compareLowercase(name(a), name(b)); },
-            [](const ResultItem &a, const ResultItem &b) { return naturalCompare(name(a), name(b)); }},
+            [](const ResultItem &a, const ResultItem &b) { return naturalCompare(name(a), name(b)); }, name},
     ItemKey{"URL.path.lastPathComponent.stringByDeletingPathExtension.lowercaseString",
             [](const ResultItem &i) { return QVariant(baseName(i).toString().toLower()); },
             [](const ResultItem &a, const ResultItem &b) { return compareLowercase(baseName(a), baseName(b)); },
-            [](const ResultItem &a, const ResultItem &b) { return naturalCompare(baseName(a), baseName(b)); }},
+            [](const ResultItem &a, const ResultItem &b) { return naturalCompare(baseName(a), baseName(b)); },
+            baseName},
     PATH_KEY("URL.path.stringByDeletingLastPathComponent", folderOf, plainOrder),
     ItemKey{"extension", [](const ResultItem &i) { return QVariant(pathExtension(i.nameView()).toString().toLower()); },
             [](const ResultItem &a, const ResultItem &b) {
@@ -131,7 +138,7 @@ const std::array kKeys = {
             }},
     ItemKey{"allocDigest", [](const ResultItem &i) { return bytes(i.allocDigest, i.has(HasAllocDigest)); },
             [](const ResultItem &a, const ResultItem &b) {
-                return compareDigest(a.allocDigest, a.has(HasAllocDigest), b.allocDigest, b.has(HasAllocDigest));
+                return compareAllocation(a.allocDigest, a.has(HasAllocDigest), b.allocDigest, b.has(HasAllocDigest));
             }},
     ItemKey{"itemCount", [](const ResultItem &i) { return QVariant(i.itemCount()); },
             [](const ResultItem &a, const ResultItem &b) { return order(a.itemCount(), b.itemCount()); }},

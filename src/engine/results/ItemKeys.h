@@ -15,6 +15,8 @@ struct ItemKey {
     int (*compare)(const ResultItem &, const ResultItem &); // -1, 0 or 1; absent values first
     // The natural order of file lists (naturalCompare) for keys of path texts; null for others.
     int (*naturalCompare)(const ResultItem &, const ResultItem &) = nullptr;
+    // The text those keys compare, as a view into the item, where there is one to view.
+    QStringView (*text)(const ResultItem &) = nullptr;
 };
 
 // Key paths of the name and folder columns.

@@ -90,21 +90,55 @@ void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, Detect
         return;
     }
     QList<Comparison> comparisons;
+    const ItemKey *naturalKey = nullptr; // the first key, when its texts sort naturally
     for (const SortDescriptor &d : sortDescriptorsFor(clicked, mode)) {
         const ItemKey *key = findItemKey(d.key);
         if (!key)
             continue; // an unknown key orders nothing
         const bool natural = d.key.startsWith(QLatin1String("URL.path")) && key->naturalCompare;
+        if (natural && comparisons.isEmpty())
+            naturalKey = key;
         comparisons.append({natural ? key->naturalCompare : key->compare, d.ascending});
     }
     if (comparisons.isEmpty())
         return;
-    std::stable_sort(items.begin(), items.end(), [&](const ResultItem *a, const ResultItem *b) {
+    auto inOrder = [&](const ResultItem *a, const ResultItem *b) {
         for (const Comparison &c : comparisons)
             if (const int result = c.compare(*a, *b))
                 return c.ascending ? result < 0 : result > 0;
         return false;
+    };
+    if (!naturalKey) {
+        std::stable_sort(items.begin(), items.end(), inOrder);
+        return;
+    }
+    // Natural comparison of texts is slow to repeat: compute each item's key once, all of
+    // them in one buffer, and compare the items themselves only where the keys tie.
+    struct Keyed {
+        std::size_t offset, length;
+        ResultItem *item;
+    };
+    std::u16string keys;
+    keys.reserve(std::size_t(items.size()) * 32); // names are mostly shorter: one allocation
+    std::vector<Keyed> keyed;
+    keyed.reserve(std::size_t(items.size()));
+    for (ResultItem *item : items) {
+        const std::size_t offset = keys.size();
+        if (naturalKey->text)
+            appendNaturalSortKey(naturalKey->text(*item), keys);
+        else
+            appendNaturalSortKey(naturalKey->value(*item).toString(), keys);
+        keyed.push_back({offset, keys.size() - offset, item});
+    }
+    const std::u16string_view all(keys);
+    const bool ascending = comparisons.first().ascending;
+    std::stable_sort(keyed.begin(), keyed.end(), [&](const Keyed &a, const Keyed &b) {
+        if (const int c = all.substr(a.offset, a.length).compare(all.substr(b.offset, b.length)))
+            return ascending ? c < 0 : c > 0;
+        return inOrder(a.item, b.item);
     });
+    for (std::size_t i = 0; i < keyed.size(); ++i)
+        items[qsizetype(i)] = keyed[i].item;
 }
 
 } // namespace selfsame

@@ -8,6 +8,17 @@ int sign(int value) { return value < 0 ? -1 : (value > 0 ? 1 : 0); }
 
 bool isDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
 
+// A character as natural order sees it: without case, and an accented letter as its base
+// letter, so that "Ärger" sorts among the a's.
+char16_t folded(QChar c)
+{
+    if (c.unicode() < 0x80)
+        return c.toCaseFolded().unicode();
+    if (c.decompositionTag() == QChar::Canonical)
+        c = c.decomposition().at(0);
+    return c.toCaseFolded().unicode();
+}
+
 } // namespace
 
 QStringView pathExtension(QStringView name)
@@ -56,7 +67,7 @@ int naturalCompare(QStringView a, QStringView b)
             j = ej;
             continue;
         }
-        const char16_t x = a[i].toCaseFolded().unicode(), y = b[j].toCaseFolded().unicode();
+        const char16_t x = folded(a[i]), y = folded(b[j]);
         if (x != y)
             return x < y ? -1 : 1;
         ++i;
@@ -65,6 +76,27 @@ int naturalCompare(QStringView a, QStringView b)
     if (i < a.size() || j < b.size())
         return i < a.size() ? 1 : -1;
     return sign(a.compare(b));
+}
+
+void appendNaturalSortKey(QStringView text, std::u16string &key)
+{
+    for (qsizetype i = 0; i < text.size();) {
+        if (!isDigit(text[i])) {
+            key.push_back(folded(text[i++]));
+            continue;
+        }
+        while (text[i] == QLatin1Char('0') && i + 1 < text.size() && isDigit(text[i + 1]))
+            ++i;
+        qsizetype end = i;
+        while (end < text.size() && isDigit(text[end]))
+            ++end;
+        // The marker sorts where digits do against other characters; the length decides
+        // between numbers of different sizes before their digits do.
+        key.push_back(u'0');
+        key.push_back(char16_t(0x30 + std::min<qsizetype>(end - i, 0xd000)));
+        key.append(text.utf16() + i, std::size_t(end - i));
+        i = end;
+    }
 }
 
 } // namespace selfsame

@@ -4,6 +4,7 @@
 #include <QStringList>
 #include <QVariant>
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
 #include <limits>
@@ -13,6 +14,15 @@ namespace selfsame {
 
 // A SHA-512 value: content digests, allocation digests and folder digests.
 using Digest = std::array<std::uint8_t, 64>;
+// What an item keeps of its allocation digest: only equality matters there, and 128 bits
+// of a SHA-512 tell storages apart as surely while a million items save 48 MB.
+using AllocationKey = std::array<std::uint8_t, 16>;
+inline AllocationKey allocationKey(const Digest &allocDigest)
+{
+    AllocationKey key;
+    std::copy_n(allocDigest.begin(), key.size(), key.begin());
+    return key;
+}
 
 // Dates are whole seconds since 1970; this marks an absent date.
 inline constexpr qint64 kNoDate = std::numeric_limits<qint64>::min();
@@ -54,7 +64,7 @@ struct ResultItem {
     quint64 device = 0;              // st_dev and st_ino, to tell hard links apart
     quint64 inode = 0;
     Digest digest{};                 // "digest", valid with HasDigest
-    Digest allocDigest{};            // "allocDigest", valid with HasAllocDigest
+    AllocationKey allocDigest{};     // "allocDigest", valid with HasAllocDigest
     QStringList tagList;             // "tagList": user tags
     QVariant spotlight;              // "spotlight": the compared attribute's value
     QString pixelSize;               // "pixelSize": "W × H" or empty

@@ -315,7 +315,7 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
         else if (const auto tags = m_tags.find(member.node); tags != m_tags.end())
             item.tagList = tags->second; // read by the hasher while the file was open
         item.digest = node.has(HasDigest) ? node.digest() : Digest{};
-        item.allocDigest = node.has(HasAllocDigest) ? node.allocDigest() : Digest{};
+        item.allocDigest = node.has(HasAllocDigest) ? allocationKey(node.allocDigest()) : AllocationKey{};
         item.setItemCount(node.itemCount);
         item.group = member.group;
         item.dupes = member.dupes;

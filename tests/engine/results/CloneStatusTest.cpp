@@ -28,7 +28,7 @@ ResultItem foundItem(const QString &path, bool digested)
         item.digest = result.digest.value();
         item.set(HasDigest);
         if (result.allocDigest) {
-            item.allocDigest = *result.allocDigest;
+            item.allocDigest = allocationKey(*result.allocDigest);
             item.set(HasAllocDigest);
         }
     }
