@@ -33,7 +33,7 @@ ResultItem *ItemGroup::add(const QString &path, int group)
         const int fd = open(path.toUtf8().constData(), O_RDONLY);
         std::vector<qint64> storage;
         if (const auto alloc = computeAllocDigest(fd, storage)) {
-            item->allocDigest = *alloc;
+            item->allocDigest = allocationKey(*alloc);
             item->set(HasAllocDigest);
         }
         close(fd);

@@ -29,7 +29,7 @@ QString removeOnly(DeleteKind kind, ResultItem &item, int mode, DeleteOutcome &o
         const TrashResult trashed = trashItem(item.path);
         if (trashed.trashedPath.isEmpty()) return trashed.errorText;
         outcome.status = statusImageName(true, mode);
-        if (outcome.status == QStringLiteral("trashed")) item.trashedURL = trashed.trashedPath;
+        if (outcome.status == QStringLiteral("trashed")) item.setTrashedURL(trashed.trashedPath);
         return {};
     }
     if (const int error = removeItem(item.path)) return errorText(error);
@@ -78,7 +78,7 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
     for (ResultItem *item : targets) {
         DeleteOutcome outcome;
         outcome.item = item;
-        if (kind == DeleteKind::Trash && (!item->trashedURL.isEmpty() || item->has(Deleted))) {
+        if (kind == DeleteKind::Trash && (!item->trashedURL().isEmpty() || item->has(Deleted))) {
             outcome.skipped = true;
             report.outcomes.append(outcome);
             continue;

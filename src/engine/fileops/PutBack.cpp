@@ -34,14 +34,14 @@ PutBackResult moveBack(const QString &from, const QString &to)
 
 PutBackResult putBackItem(ResultItem &item)
 {
-    if (item.trashedURL.isEmpty() || item.has(Deleted))
+    if (item.trashedURL().isEmpty() || item.has(Deleted))
         return {ENOENT, tr("“%1” is not in the Bin.").arg(displayName(item.path))};
-    const QString trashed = item.trashedURL;
+    const QString trashed = item.trashedURL();
     PutBackResult result = moveBack(trashed, item.path);
     if (result.ok()) {
         removePutBackAttribute(item.path);
         QFile::remove(trashInfoPathFor(trashed));
-        item.trashedURL.clear();
+        item.setTrashedURL({});
     }
     return result;
 }
@@ -60,7 +60,7 @@ PutBackSummary putBackItems(const QList<ResultItem *> &targets)
 {
     PutBackSummary summary;
     for (ResultItem *item : targets) {
-        if (item->trashedURL.isEmpty() || item->has(Deleted)) continue;
+        if (item->trashedURL().isEmpty() || item->has(Deleted)) continue;
         if (const PutBackResult result = putBackItem(*item); result.ok()) {
             summary.putBack.append(item);
         } else {

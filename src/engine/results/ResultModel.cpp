@@ -48,6 +48,7 @@ void ResultModel::setResults(QList<ResultItem> items, const SearchRequest &reque
     m_request = request;
     m_groupOrder.emplace(m_request);
     m_storage = std::move(items);
+    m_storage.detach(); // shared with the caller until now; the arrays must point into our own
     removeCommonPathPrefix(m_request.searchInFolderURLs, m_storage);
     m_mainItems.reserve(m_storage.size());
     for (ResultItem &item : m_storage)

@@ -20,6 +20,13 @@ enum class ResultList { Top, Bottom };
 // by pointer among the arrays; selections are kept by identity, so they survive re-sorting.
 class ResultModel {
 public:
+    ResultModel() = default;
+    // The arrays point into the model's own items: a copy would point into the original.
+    ResultModel(const ResultModel &) = delete;
+    ResultModel &operator=(const ResultModel &) = delete;
+    ResultModel(ResultModel &&) = default;
+    ResultModel &operator=(ResultModel &&) = default;
+
     // What the search found, with the request that found it.
     void setResults(QList<ResultItem> items, const SearchRequest &request);
     // Before a new search: no items in either list.
@@ -35,7 +42,8 @@ public:
     const QList<ResultItem *> &mainItemsIncludingHiddenSorted() const { return m_mainItemsIncludingHiddenSorted; }
     const QList<ResultItem *> &cloneItems() const { return m_cloneItems; }
     const QList<ResultItem *> &items(ResultList list) const { return list == ResultList::Top ? m_mainItems : m_cloneItems; }
-    // Every item of the search, in the order the search delivered them.
+    // Every item of the search, in the order the search delivered them. The arrays point
+    // into this list: change items through it, never copy it and change the copy.
     QList<ResultItem> &allItems() { return m_storage; }
 
     // Rebuilds the two arrays sorted by group key after items moved between visible and hidden.

@@ -63,7 +63,7 @@ TEST_F(DeleteActions, TrashWithReplacementKeepsThePutBackRecordAndPlainTrashMark
     const DeleteReport replaced =
         performDeleteAction(DeleteKind::Trash, ReplaceWithSymbolicLink, reference, {duplicate});
     EXPECT_EQ(replaced.outcomes[0].status, QStringLiteral("aliased"));
-    EXPECT_TRUE(duplicate->trashedURL.isEmpty()) << "a replaced item has no trashedURL";
+    EXPECT_TRUE(duplicate->trashedURL().isEmpty()) << "a replaced item has no trashedURL";
     const QString trashed = home.path(QStringLiteral("data/Trash/files/dup.bin"));
     EXPECT_EQ(readFile(trashed), content);
     EXPECT_EQ(putBackPath(trashed), duplicate->path);
@@ -72,7 +72,7 @@ TEST_F(DeleteActions, TrashWithReplacementKeepsThePutBackRecordAndPlainTrashMark
     ResultItem *other = group.add(tree.file(QStringLiteral("other.bin"), content));
     const DeleteReport plain = performDeleteAction(DeleteKind::Trash, ReplaceWithNone, nullptr, {other});
     EXPECT_EQ(plain.outcomes[0].status, QStringLiteral("trashed"));
-    EXPECT_EQ(other->trashedURL, home.path(QStringLiteral("data/Trash/files/other.bin")));
+    EXPECT_EQ(other->trashedURL(), home.path(QStringLiteral("data/Trash/files/other.bin")));
     const DeleteReport again = performDeleteAction(DeleteKind::Trash, ReplaceWithNone, nullptr, {other});
     EXPECT_TRUE(again.outcomes[0].skipped) << "an item in the trash is not trashed again";
 
@@ -81,7 +81,7 @@ TEST_F(DeleteActions, TrashWithReplacementKeepsThePutBackRecordAndPlainTrashMark
     const DeleteReport noReference =
         performDeleteAction(DeleteKind::Trash, ReplaceWithHardLink, nullptr, {third});
     EXPECT_EQ(noReference.outcomes[0].status, QStringLiteral("hard linked"));
-    EXPECT_TRUE(third->trashedURL.isEmpty());
+    EXPECT_TRUE(third->trashedURL().isEmpty());
     EXPECT_FALSE(QFile::exists(third->path));
 }
 
@@ -142,7 +142,7 @@ TEST_F(DeleteActions, FailedReplacementsLeaveTheFileWhereItWas)
     EXPECT_EQ(report.replacementFailures, 1);
     EXPECT_EQ(report.lastDeleted, duplicate->path);
     EXPECT_EQ(report.lastReference, reference->path);
-    EXPECT_TRUE(duplicate->trashedURL.isEmpty());
+    EXPECT_TRUE(duplicate->trashedURL().isEmpty());
     EXPECT_TRUE(QDir(home.path(QStringLiteral("data/Trash/files"))).isEmpty());
     EXPECT_EQ(statOf(duplicate->path).st_ino, before);
     EXPECT_EQ(readFile(duplicate->path), content);

@@ -110,7 +110,7 @@ TEST_P(OnEveryFileSystem, TrashAndPutBackRestoreExactPathContentAndTimes)
 
     const DeleteReport report = performDeleteAction(DeleteKind::Trash, ReplaceWithNone, nullptr, {duplicate});
     ASSERT_EQ(report.removalFailures, 0) << report.outcomes[0].error.toStdString();
-    ASSERT_FALSE(duplicate->trashedURL.isEmpty());
+    ASSERT_FALSE(duplicate->trashedURL().isEmpty());
     EXPECT_FALSE(QFileInfo::exists(duplicate->path));
     ASSERT_TRUE(putBackItem(*duplicate).ok());
     const struct stat after = statOf(duplicate->path);

@@ -53,14 +53,14 @@ TEST_F(Trash, MovesToTheHomeTrashWithARecordAndPutsBackExactly)
 
     ResultItem item;
     item.path = path;
-    item.trashedURL = result.trashedPath;
+    item.setTrashedURL(result.trashedPath);
     ASSERT_TRUE(putBackItem(item).ok());
     EXPECT_EQ(readFile(path), "contents");
     EXPECT_EQ(statOf(path).st_mtim.tv_sec, 1100000000);
     EXPECT_EQ(statOf(path).st_mtim.tv_nsec, 222);
     EXPECT_FALSE(hasPutBackAttribute(path)) << "the record goes with a put back from the window";
     EXPECT_FALSE(QFile::exists(trash + QStringLiteral("/info/naïve name.txt.trashinfo")));
-    EXPECT_TRUE(item.trashedURL.isEmpty());
+    EXPECT_TRUE(item.trashedURL().isEmpty());
 }
 
 TEST_F(Trash, CollisionsGetFreeNamesAndPuttingBackNeverOverwrites)
@@ -94,7 +94,7 @@ TEST_F(Trash, CollisionsGetFreeNamesAndPuttingBackNeverOverwrites)
     ResultItem gone;
     gone.path = third;
     EXPECT_FALSE(putBackItem(gone).ok()) << "an item that is not in the trash cannot be put back";
-    gone.trashedURL = c.trashedPath;
+    gone.setTrashedURL(c.trashedPath);
     gone.set(Deleted);
     EXPECT_FALSE(putBackItem(gone).ok());
 }
@@ -147,10 +147,10 @@ TEST_F(Trash, PuttingBackItemsPassesOverTheOthersAndCountsFailures)
     occupied.path = files.file(QStringLiteral("occupied"), "2");
     present.path = files.file(QStringLiteral("present"), "3");
     deleted.path = files.path(QStringLiteral("deleted"));
-    deleted.trashedURL = trashItem(files.file(QStringLiteral("deleted"), "4")).trashedPath;
+    deleted.setTrashedURL(trashItem(files.file(QStringLiteral("deleted"), "4")).trashedPath);
     deleted.set(Deleted);
-    moved.trashedURL = trashItem(moved.path).trashedPath;
-    occupied.trashedURL = trashItem(occupied.path).trashedPath;
+    moved.setTrashedURL(trashItem(moved.path).trashedPath);
+    occupied.setTrashedURL(trashItem(occupied.path).trashedPath);
     files.file(QStringLiteral("occupied"), "new");
 
     const PutBackSummary summary = putBackItems({&moved, &occupied, &deleted, &present});
@@ -159,7 +159,7 @@ TEST_F(Trash, PuttingBackItemsPassesOverTheOthersAndCountsFailures)
     EXPECT_FALSE(summary.lastErrorText.isEmpty());
     EXPECT_EQ(readFile(moved.path), "1");
     EXPECT_EQ(readFile(occupied.path), "new");
-    EXPECT_FALSE(occupied.trashedURL.isEmpty()) << "still marked as trashed";
+    EXPECT_FALSE(occupied.trashedURL().isEmpty()) << "still marked as trashed";
     EXPECT_FALSE(QFile::exists(deleted.path));
     EXPECT_EQ(putBackFailureAlert(summary, {&occupied})->message,
               QStringLiteral("“occupied” could not be put back from the Bin."));
