@@ -2,21 +2,21 @@
 // groups. Measures building the sorted arrays, one look-up of a group, one full re-sort of
 // the top list by name, and the memory the whole model takes per item.
 
-#include "results/ItemKeys.h"
 #include "results/ResultModel.h"
+#include "search/FilenameSortKey.h"
 
 #include <QCoreApplication>
-
 #include <chrono>
-#include <ctime>
-#include <cstring>
 #include <cstdio>
+#include <cstring>
+#include <ctime>
 #include <malloc.h>
 #include <random>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 // Wall and processor time of one step: on a shared machine the processor time is the
 // steadier figure (this program runs on one thread).
@@ -25,7 +25,8 @@ struct Timer {
     std::clock_t cpu = std::clock();
     QByteArray stop(int repeats = 1) const
     {
-        const double wallMs = std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - wall).count();
+        const double wallMs =
+            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - wall).count();
         const double cpuMs = 1000.0 * double(std::clock() - cpu) / CLOCKS_PER_SEC;
         const int precision = repeats > 1 ? 4 : (wallMs < 10 ? 3 : 0);
         return QByteArray::number(wallMs / repeats, 'f', precision) + " ms (processor " +
@@ -89,7 +90,8 @@ int main(int argc, char *argv[])
     const std::size_t heapBefore = heapInUse();
     QList<ResultItem> items = syntheticItems(count, groups, random);
     SearchRequest request;
-    request.searchInFolderURLs = {QStringLiteral("/home/someone/Pictures"), QStringLiteral("/home/someone/Music")};
+    request.searchInFolderURLs = {QStringLiteral("/home/someone/Pictures"),
+                                  QStringLiteral("/home/someone/Music")};
 
     ResultModel model;
     Timer timer;
@@ -113,7 +115,7 @@ int main(int argc, char *argv[])
     const QByteArray averageLookUp = timer.stop(lookUps);
 
     timer = Timer();
-    model.setSortDescriptor(ResultList::Top, SortDescriptor{QString::fromUtf16(kSortByNameKeyPath)});
+    model.setSortDescriptor(ResultList::Top, SortDescriptor{kSortByNameKeyPath});
     const QByteArray resortByName = timer.stop();
 
     std::printf("items %d in %d groups; sizeof(ResultItem) %zu bytes\n", count, groups, sizeof(ResultItem));

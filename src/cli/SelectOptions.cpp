@@ -4,11 +4,16 @@
 #include <QDir>
 #include <QFileInfo>
 
-namespace selfsame::cli {
+namespace selfsame::cli
+{
 
-namespace {
+namespace
+{
 
-QString tr(const char *text) { return QCoreApplication::translate("selfsame-cli", text); }
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("selfsame-cli", text);
+}
 
 struct Flag {
     const char *option;
@@ -32,21 +37,16 @@ const Flag kTagConditions[] = {{"--having", ByTag, HavingTag},
 template <std::size_t N> const Flag *find(const Flag (&flags)[N], const QString &option)
 {
     for (const Flag &flag : flags)
-        if (option == QLatin1String(flag.option))
-            return &flag;
+        if (option == QLatin1String(flag.option)) return &flag;
     return nullptr;
 }
 
 int ruleNamed(const QString &name)
 {
-    if (name == QLatin1String("same-folder-name"))
-        return SameFolderSameName;
-    if (name == QLatin1String("same-folder"))
-        return SameFolderWhateverName;
-    if (name == QLatin1String("folder"))
-        return InsideFolder;
-    if (name == QLatin1String("tag"))
-        return ByTag;
+    if (name == QLatin1String("same-folder-name")) return SameFolderSameName;
+    if (name == QLatin1String("same-folder")) return SameFolderWhateverName;
+    if (name == QLatin1String("folder")) return InsideFolder;
+    if (name == QLatin1String("tag")) return ByTag;
     return -1;
 }
 
@@ -55,15 +55,20 @@ int dateTag(const QString &name)
 {
     const char *names[] = {"created", "modified", "last-used", "added"};
     for (int tag = 0; tag < 4; ++tag)
-        if (name == QLatin1String(names[tag]))
-            return tag;
+        if (name == QLatin1String(names[tag])) return tag;
     return -1;
 }
 
 } // namespace
 
-bool selectRuleTakesFolder(const QString &rule) { return rule == QLatin1String("folder"); }
-bool selectRuleMayTakeTag(const QString &rule) { return rule == QLatin1String("tag"); }
+bool selectRuleTakesFolder(const QString &rule)
+{
+    return rule == QLatin1String("folder");
+}
+bool selectRuleMayTakeTag(const QString &rule)
+{
+    return rule == QLatin1String("tag");
+}
 
 bool isSelectOption(const QString &option)
 {
@@ -81,7 +86,8 @@ QString selectSettings(const SelectRequest &request, AutoSelectSettings *setting
     AutoSelectSettings s = autoSelectSettingsFrom({});
     s.choice = ruleNamed(request.rule);
     if (s.choice < 0)
-        return tr("unknown rule for --select: '%1' (same-folder-name, same-folder, folder or tag)").arg(request.rule);
+        return tr("unknown rule for --select: '%1' (same-folder-name, same-folder, folder or tag)")
+            .arg(request.rule);
     if (s.choice == InsideFolder) {
         const QFileInfo folder(request.operand);
         if (request.operand.isEmpty() || !folder.isDir())
@@ -92,16 +98,13 @@ QString selectSettings(const SelectRequest &request, AutoSelectSettings *setting
     bool tagless = false;
     for (const auto &[option, value] : request.options) {
         const Flag *flag = find(kLocations, option);
-        if (!flag)
-            flag = find(kDateCriteria, option);
-        if (!flag)
-            flag = find(kTagConditions, option);
+        if (!flag) flag = find(kDateCriteria, option);
+        if (!flag) flag = find(kTagConditions, option);
         const bool fits = flag ? flag->rule == s.choice
-                               : option == QLatin1String("--keep") ? s.choice == SameFolderWhateverName
-                                                                    : s.choice == SameFolderWhateverName ||
-                                                                          s.choice == InsideFolder;
-        if (!fits)
-            return tr("%1 does not apply to --select %2").arg(option, request.rule);
+                          : option == QLatin1String("--keep")
+                              ? s.choice == SameFolderWhateverName
+                              : s.choice == SameFolderWhateverName || s.choice == InsideFolder;
+        if (!fits) return tr("%1 does not apply to --select %2").arg(option, request.rule);
         if (find(kLocations, option)) {
             s.inside = flag->value;
         } else if (find(kDateCriteria, option)) {
@@ -115,8 +118,7 @@ QString selectSettings(const SelectRequest &request, AutoSelectSettings *setting
             s.oldest = value == QLatin1String("oldest") ? 0 : 1;
         } else {
             const int tag = dateTag(value);
-            if (tag < 0)
-                return tr("--date takes created, modified, last-used or added, not '%1'").arg(value);
+            if (tag < 0) return tr("--date takes created, modified, last-used or added, not '%1'").arg(value);
             s.date = s.insideDate = tag;
         }
     }
@@ -130,18 +132,19 @@ QString selectSettings(const SelectRequest &request, AutoSelectSettings *setting
 
 QString selectUsageText()
 {
-    return tr("Automatic selection (files are never touched; each path line starts with\n"
-              "\"select \" or \"keep \", or two blanks where the rule decided nothing):\n"
-              "  --select same-folder-name  in each folder, keep \"name.ext\" and select \"name copy.ext\",\n"
-              "                             \"name 2.ext\"…\n"
-              "  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]\n"
-              "                             in each folder keep the oldest (or newest) copy, select the rest\n"
-              "  --select folder DIR [--inside|--inside-any-depth|--outside|--outside-any-depth]\n"
-              "                  [--if-newer|--if-older|--if-same-date [--date …]]\n"
-              "                             select the copies located so relative to DIR (only those\n"
-              "                             newer, older or as old as a copy elsewhere), keep the others\n"
-              "  --select tag NAME [--having|--not-having]   or   --select tag --any-tag|--no-tag\n"
-              "                             select the copies having (or lacking) the tag, keep the others\n");
+    return tr(
+        "Automatic selection (files are never touched; each path line starts with\n"
+        "\"select \" or \"keep \", or two blanks where the rule decided nothing):\n"
+        "  --select same-folder-name  in each folder, keep \"name.ext\" and select \"name copy.ext\",\n"
+        "                             \"name 2.ext\"…\n"
+        "  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]\n"
+        "                             in each folder keep the oldest (or newest) copy, select the rest\n"
+        "  --select folder DIR [--inside|--inside-any-depth|--outside|--outside-any-depth]\n"
+        "                  [--if-newer|--if-older|--if-same-date [--date …]]\n"
+        "                             select the copies located so relative to DIR (only those\n"
+        "                             newer, older or as old as a copy elsewhere), keep the others\n"
+        "  --select tag NAME [--having|--not-having]   or   --select tag --any-tag|--no-tag\n"
+        "                             select the copies having (or lacking) the tag, keep the others\n");
 }
 
 } // namespace selfsame::cli

@@ -6,7 +6,8 @@
 #include <QPair>
 #include <QString>
 
-namespace selfsame::cli {
+namespace selfsame::cli
+{
 
 // "--select RULE": the rule's name and, for "folder" and "tag", the folder or tag after it.
 struct SelectRequest {

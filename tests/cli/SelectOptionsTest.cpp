@@ -6,13 +6,13 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTemporaryDir>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
 using namespace selfsame::cli;
 
-namespace {
+namespace
+{
 
 ParseResult parse(QStringList arguments, const QTemporaryDir &root)
 {
@@ -28,14 +28,16 @@ TEST(SelectOptions, RulesAndTheirOptionsBecomeSettings)
     EXPECT_FALSE(parse({}, root).options.select.has_value());
     EXPECT_EQ(parse({"--select", "same-folder-name"}, root).options.select->choice, SameFolderSameName);
 
-    const auto sameFolder = parse({"--select", "same-folder", "--keep", "newest", "--date=created"}, root).options.select;
+    const auto sameFolder =
+        parse({"--select", "same-folder", "--keep", "newest", "--date=created"}, root).options.select;
     ASSERT_TRUE(sameFolder);
     EXPECT_EQ(sameFolder->choice, SameFolderWhateverName);
     EXPECT_EQ(sameFolder->oldest, 1);
     EXPECT_EQ(sameFolder->date, 0);
 
     const auto inFolder =
-        parse({"--select", "folder", folder, "--outside-any-depth", "--if-older", "--date", "last-used"}, root)
+        parse({"--select", "folder", folder, "--outside-any-depth", "--if-older", "--date", "last-used"},
+              root)
             .options.select;
     ASSERT_TRUE(inFolder);
     EXPECT_EQ(inFolder->folder, QDir::cleanPath(folder));
@@ -94,12 +96,14 @@ TEST(SelectOutput, EveryFormatSaysWhatTheRuleDecided)
     EXPECT_TRUE(rows[2].endsWith(",selected,/t/b"));
     EXPECT_TRUE(rows[3].endsWith(",0,,/t/c"));
 
-    const QJsonObject json = QJsonDocument::fromJson(formatResults(items, OutputFormat::Json, {}, &selection)).object();
+    const QJsonObject json =
+        QJsonDocument::fromJson(formatResults(items, OutputFormat::Json, {}, &selection)).object();
     const QJsonArray groups = json["groups"].toArray();
     EXPECT_EQ(groups[0]["items"][0]["autoSelect"].toString(), QStringLiteral("kept"));
     EXPECT_EQ(groups[0]["items"][1]["autoSelect"].toString(), QStringLiteral("selected"));
     EXPECT_TRUE(groups[1]["items"][0]["autoSelect"].isNull());
-    EXPECT_FALSE(QJsonDocument::fromJson(formatResults(items, OutputFormat::Json, {})).object()["groups"][0]["items"][0]
+    EXPECT_FALSE(QJsonDocument::fromJson(formatResults(items, OutputFormat::Json, {}))
+                     .object()["groups"][0]["items"][0]
                      .toObject()
                      .contains(QStringLiteral("autoSelect")));
 }

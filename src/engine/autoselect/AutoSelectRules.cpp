@@ -5,9 +5,11 @@
 
 #include <algorithm>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 struct NamedCopy {
     ResultItem *item;
@@ -37,24 +39,35 @@ void AutoSelection::skip(ResultItem *item)
 QString dateKeyForTag(int tag)
 {
     switch (tag) {
-    case 0: return QStringLiteral("created");
-    case 2: return QStringLiteral("lastUsed");
-    case 3: return QStringLiteral("addedDate");
-    default: return QStringLiteral("modified");
+    case 0:
+        return QStringLiteral("created");
+    case 2:
+        return QStringLiteral("lastUsed");
+    case 3:
+        return QStringLiteral("addedDate");
+    default:
+        return QStringLiteral("modified");
     }
 }
 
 int reverseInsideFolder(int condition)
 {
     switch (condition) {
-    case 1: return 3;
-    case 2: return 0;
-    case 3: return 1;
-    default: return 2;
+    case 1:
+        return 3;
+    case 2:
+        return 0;
+    case 3:
+        return 1;
+    default:
+        return 2;
     }
 }
 
-bool isGone(const ResultItem &item) { return !item.trashedURL().isEmpty() || item.has(Deleted); }
+bool isGone(const ResultItem &item)
+{
+    return !item.trashedURL().isEmpty() || item.has(Deleted);
+}
 
 void automaticallySelectSameFolderAndName(AutoSelection &selection, const QList<ResultItem *> &from,
                                           qsizetype first, qsizetype last)
@@ -73,27 +86,27 @@ void automaticallySelectSameFolderAndName(AutoSelection &selection, const QList<
         qsizetype end = start + 1;
         // Every copy is compared with the run's first name, not with the one before it.
         while (end < copies.size() && copies[end].folder == original.folder &&
-               copies[end].extension == original.extension && copies[end].baseName.startsWith(original.baseName))
+               copies[end].extension == original.extension &&
+               copies[end].baseName.startsWith(original.baseName))
             ++end;
         if (end - start >= 2 && !isGone(*original.item)) {
             selection.skip(original.item);
             for (qsizetype k = start + 1; k < end; ++k)
-                if (!isGone(*copies[k].item))
-                    selection.select(copies[k].item);
+                if (!isGone(*copies[k].item)) selection.select(copies[k].item);
         }
         start = end;
     }
 }
 
-void automaticallySelectSameFolderWhateverTheName(AutoSelection &selection, const QString &dateKey, bool oldest,
-                                                  const QList<ResultItem *> &from, qsizetype first, qsizetype last)
+void automaticallySelectSameFolderWhateverTheName(AutoSelection &selection, const QString &dateKey,
+                                                  bool oldest, const QList<ResultItem *> &from,
+                                                  qsizetype first, qsizetype last)
 {
     QList<NamedCopy> copies;
     for (qsizetype i = first; i <= last; ++i)
         copies.append({from[i], from[i]->folder(), {}, {}});
     std::stable_sort(copies.begin(), copies.end(), [&](const NamedCopy &a, const NamedCopy &b) {
-        if (a.folder != b.folder)
-            return a.folder < b.folder;
+        if (a.folder != b.folder) return a.folder < b.folder;
         const int byDate = compareItems(*a.item, *b.item, dateKey);
         return oldest ? byDate < 0 : byDate > 0;
     });
@@ -103,8 +116,7 @@ void automaticallySelectSameFolderWhateverTheName(AutoSelection &selection, cons
             ++end;
         QList<ResultItem *> present;
         for (qsizetype k = start; k < end; ++k)
-            if (!isGone(*copies[k].item))
-                present.append(copies[k].item);
+            if (!isGone(*copies[k].item)) present.append(copies[k].item);
         if (present.size() > 1) {
             selection.skip(present.first());
             for (qsizetype k = 1; k < present.size(); ++k)
@@ -114,31 +126,38 @@ void automaticallySelectSameFolderWhateverTheName(AutoSelection &selection, cons
     }
 }
 
-void automaticallySelectLocated(AutoSelection &selection, int located, const QString &folder, int dateCriterion,
-                                const QString &dateKey, const QList<ResultItem *> &from, qsizetype first,
-                                qsizetype last)
+void automaticallySelectLocated(AutoSelection &selection, int located, const QString &folder,
+                                int dateCriterion, const QString &dateKey, const QList<ResultItem *> &from,
+                                qsizetype first, qsizetype last)
 {
     const QString below = folder + QLatin1Char('/');
     QList<ResultItem *> in, out;
     for (qsizetype i = first; i <= last; ++i) {
         ResultItem *item = from[i];
-        if (isGone(*item))
-            continue;
+        if (isGone(*item)) continue;
         const QString parent = item->folder();
         const bool directly = parent == folder;
         const bool anyDepth = directly || parent.startsWith(below);
         bool matches = false;
         switch (located) {
-        case DirectlyInside: matches = directly; break;
-        case InsideAtAnyDepth: matches = anyDepth; break;
-        case NotDirectlyInside: matches = !directly; break;
-        case OutsideAtAnyDepth: matches = !anyDepth; break;
-        default: break;
+        case DirectlyInside:
+            matches = directly;
+            break;
+        case InsideAtAnyDepth:
+            matches = anyDepth;
+            break;
+        case NotDirectlyInside:
+            matches = !directly;
+            break;
+        case OutsideAtAnyDepth:
+            matches = !anyDepth;
+            break;
+        default:
+            break;
         }
         (matches ? in : out).append(item);
     }
-    if (in.isEmpty() || out.isEmpty())
-        return;
+    if (in.isEmpty() || out.isEmpty()) return;
     if (dateCriterion == AnyDate) {
         for (ResultItem *item : in)
             selection.select(item);
@@ -146,15 +165,15 @@ void automaticallySelectLocated(AutoSelection &selection, int located, const QSt
             selection.skip(item);
         return;
     }
-    if (dateCriterion < LaterDate || dateCriterion > SameDate)
-        return;
+    if (dateCriterion < LaterDate || dateCriterion > SameDate) return;
     for (ResultItem *a : in)
         for (ResultItem *b : out) {
             const QVariant dateA = itemValue(*a, dateKey), dateB = itemValue(*b, dateKey);
-            if (!dateA.isValid() || !dateB.isValid())
-                continue;
+            if (!dateA.isValid() || !dateB.isValid()) continue;
             const int order = compareItems(*a, *b, dateKey);
-            const bool holds = dateCriterion == LaterDate ? order > 0 : dateCriterion == EarlierDate ? order < 0 : order == 0;
+            const bool holds = dateCriterion == LaterDate     ? order > 0
+                               : dateCriterion == EarlierDate ? order < 0
+                                                              : order == 0;
             if (holds) {
                 selection.select(a);
                 selection.skip(b);
@@ -169,18 +188,15 @@ void automaticallySelectHavingTag(AutoSelection &selection, bool exceptHaving, c
     QList<ResultItem *> chosen, kept;
     for (qsizetype i = first; i <= last; ++i) {
         ResultItem *item = from[i];
-        if (isGone(*item))
-            continue;
+        if (isGone(*item)) continue;
         const QStringList &tags = item->tagList;
-        const bool has = tag.isEmpty() ? !tags.isEmpty()
-                                       : std::any_of(tags.begin(), tags.end(), [&](const QString &t) {
-                                             return t.compare(tag, Qt::CaseInsensitive) == 0 ||
-                                                    t.toLower().startsWith(colourPrefix);
-                                         });
+        const bool has =
+            tag.isEmpty() ? !tags.isEmpty() : std::any_of(tags.begin(), tags.end(), [&](const QString &t) {
+                return t.compare(tag, Qt::CaseInsensitive) == 0 || t.toLower().startsWith(colourPrefix);
+            });
         (has != exceptHaving ? chosen : kept).append(item);
     }
-    if (chosen.isEmpty() || kept.isEmpty())
-        return;
+    if (chosen.isEmpty() || kept.isEmpty()) return;
     for (ResultItem *item : chosen)
         selection.select(item);
     for (ResultItem *item : kept)

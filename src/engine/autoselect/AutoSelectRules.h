@@ -6,11 +6,13 @@
 #include <QSet>
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // What a rule decided over all groups: the items to select (to discard) and the items it
 // explicitly keeps. An item enters each list at most once.
-class AutoSelection {
+class AutoSelection
+{
 public:
     void select(ResultItem *item);
     void skip(ResultItem *item);
@@ -25,7 +27,12 @@ private:
 };
 
 // Where the folder rule looks for the copies it selects, relative to its folder.
-enum FolderLocation : int { DirectlyInside = 0, InsideAtAnyDepth = 1, NotDirectlyInside = 2, OutsideAtAnyDepth = 3 };
+enum FolderLocation : int {
+    DirectlyInside = 0,
+    InsideAtAnyDepth = 1,
+    NotDirectlyInside = 2,
+    OutsideAtAnyDepth = 3
+};
 // Which of the folder rule's copies it selects: all of them, or those later, earlier or
 // equal by a date than a copy elsewhere.
 enum DateCriterion : int { AnyDate = 0, LaterDate = 1, EarlierDate = 2, SameDate = 3 };
@@ -36,7 +43,10 @@ enum TagCondition : int { HavingTag = 0, HavingAnyTag = 1, NotHavingTag = 2, Hav
 QString dateKeyForTag(int tag);
 // The opposite condition, in whose words the kept copies are described: 1→3, 2→0, 3→1, else 2.
 int reverseInsideFolder(int condition);
-inline int reverseHavingTag(int condition) { return reverseInsideFolder(condition); }
+inline int reverseHavingTag(int condition)
+{
+    return reverseInsideFolder(condition);
+}
 
 // Moved to the Bin or deleted already: no rule selects or keeps it.
 bool isGone(const ResultItem &item);
@@ -46,12 +56,13 @@ bool isGone(const ResultItem &item);
 void automaticallySelectSameFolderAndName(AutoSelection &selection, const QList<ResultItem *> &from,
                                           qsizetype first, qsizetype last);
 // Copies in one folder whatever their names: the oldest (or newest) by the date is kept.
-void automaticallySelectSameFolderWhateverTheName(AutoSelection &selection, const QString &dateKey, bool oldest,
-                                                  const QList<ResultItem *> &from, qsizetype first, qsizetype last);
+void automaticallySelectSameFolderWhateverTheName(AutoSelection &selection, const QString &dateKey,
+                                                  bool oldest, const QList<ResultItem *> &from,
+                                                  qsizetype first, qsizetype last);
 // Copies located (by FolderLocation) relative to `folder`, optionally by a DateCriterion.
-void automaticallySelectLocated(AutoSelection &selection, int located, const QString &folder, int dateCriterion,
-                                const QString &dateKey, const QList<ResultItem *> &from, qsizetype first,
-                                qsizetype last);
+void automaticallySelectLocated(AutoSelection &selection, int located, const QString &folder,
+                                int dateCriterion, const QString &dateKey, const QList<ResultItem *> &from,
+                                qsizetype first, qsizetype last);
 // Copies having the tag (any tag when `tag` is empty), or with `exceptHaving` those lacking it.
 void automaticallySelectHavingTag(AutoSelection &selection, bool exceptHaving, const QString &tag,
                                   const QList<ResultItem *> &from, qsizetype first, qsizetype last);

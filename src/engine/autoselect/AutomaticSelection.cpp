@@ -2,9 +2,11 @@
 
 #include <QCoreApplication>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 const char kChoice[] = "auto-select choice";
 const char kOldest[] = "auto-select oldest";
@@ -17,7 +19,10 @@ const char kTagValue[] = "auto-select tag value";
 const char kHide[] = "auto-select hide";
 const char kFolder[] = "auto-select folder";
 
-QString key(const char *name) { return QString::fromLatin1(name); }
+QString key(const char *name)
+{
+    return QString::fromLatin1(name);
+}
 
 // The values a rule records each time it is applied.
 QVariantMap ruleSettings(const AutoSelectSettings &s)
@@ -28,7 +33,9 @@ QVariantMap ruleSettings(const AutoSelectSettings &s)
     case SameFolderWhateverName:
         return {{key(kChoice), s.choice}, {key(kOldest), s.oldest}, {key(kDate), s.date}};
     case InsideFolder:
-        return {{key(kChoice), s.choice}, {key(kInside), s.inside}, {key(kInsideOldest), s.insideOldest},
+        return {{key(kChoice), s.choice},
+                {key(kInside), s.inside},
+                {key(kInsideOldest), s.insideOldest},
                 {key(kInsideDate), s.insideDate}};
     case ByTag:
         return {{key(kChoice), s.choice}, {key(kTagCondition), s.tagCondition}, {key(kTagValue), s.tagValue}};
@@ -45,16 +52,18 @@ void applyRule(AutoSelection &selection, const AutoSelectSettings &s, const QLis
         automaticallySelectSameFolderAndName(selection, from, first, last);
         break;
     case SameFolderWhateverName:
-        automaticallySelectSameFolderWhateverTheName(selection, dateKeyForTag(s.date), s.oldest == 0, from, first, last);
+        automaticallySelectSameFolderWhateverTheName(selection, dateKeyForTag(s.date), s.oldest == 0, from,
+                                                     first, last);
         break;
     case InsideFolder:
-        automaticallySelectLocated(selection, s.inside, s.folder, s.insideOldest, dateKeyForTag(s.insideDate), from,
-                                   first, last);
+        automaticallySelectLocated(selection, s.inside, s.folder, s.insideOldest, dateKeyForTag(s.insideDate),
+                                   from, first, last);
         break;
     case ByTag: {
         const bool exceptHaving = s.tagCondition == NotHavingTag || s.tagCondition == HavingNoTag;
         const bool anyTag = s.tagCondition == HavingAnyTag || s.tagCondition == HavingNoTag;
-        automaticallySelectHavingTag(selection, exceptHaving, anyTag ? QString() : s.tagValue, from, first, last);
+        automaticallySelectHavingTag(selection, exceptHaving, anyTag ? QString() : s.tagValue, from, first,
+                                     last);
         break;
     }
     default:

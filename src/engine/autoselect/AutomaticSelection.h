@@ -5,23 +5,24 @@
 
 #include <QVariantMap>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The rules by the tags of their choices, as stored under "auto-select choice".
 enum AutoSelectRule : int { SameFolderSameName = 0, SameFolderWhateverName = 1, InsideFolder = 2, ByTag = 3 };
 
 // The choices of the automatic selection, as the settings keep them.
 struct AutoSelectSettings {
-    int choice = SameFolderSameName;  // "auto-select choice"
-    int oldest = 0;                   // "auto-select oldest": 0 keeps the oldest, other the newest
-    int date = 1;                     // "auto-select date": date tag of the whatever-the-name rule
-    int inside = DirectlyInside;      // "auto-select inside"
-    int insideOldest = AnyDate;       // "auto-select inside oldest"
-    int insideDate = 1;               // "auto-select inside date"
-    int tagCondition = HavingTag;     // "auto-select tag condition"
-    QString tagValue;                 // "auto-select tag value"
-    bool hide = false;                // "auto-select hide": hide what is neither selected nor kept
-    QString folder;                   // "auto-select folder"
+    int choice = SameFolderSameName; // "auto-select choice"
+    int oldest = 0;                  // "auto-select oldest": 0 keeps the oldest, other the newest
+    int date = 1;                    // "auto-select date": date tag of the whatever-the-name rule
+    int inside = DirectlyInside;     // "auto-select inside"
+    int insideOldest = AnyDate;      // "auto-select inside oldest"
+    int insideDate = 1;              // "auto-select inside date"
+    int tagCondition = HavingTag;    // "auto-select tag condition"
+    QString tagValue;                // "auto-select tag value"
+    bool hide = false;               // "auto-select hide": hide what is neither selected nor kept
+    QString folder;                  // "auto-select folder"
 };
 
 // The defaults registered for those settings ("auto-select choice" and the folder have none).

@@ -2,9 +2,11 @@
 
 #include <sys/stat.h>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 bool exists(const QString &path)
 {
@@ -12,7 +14,10 @@ bool exists(const QString &path)
     return ::stat(path.toUtf8().constData(), &st) == 0;
 }
 
-bool linkStat(const QString &path, struct stat *st) { return ::lstat(path.toUtf8().constData(), st) == 0; }
+bool linkStat(const QString &path, struct stat *st)
+{
+    return ::lstat(path.toUtf8().constData(), st) == 0;
+}
 
 bool sameAllocation(const ResultItem &a, const ResultItem &b)
 {
@@ -23,12 +28,10 @@ bool sameAllocation(const ResultItem &a, const ResultItem &b)
 
 void CloneStatusPass::ensureDigests(ResultItem &item)
 {
-    if (item.has(HasDigest))
-        return;
-    if (!m_buffer)
-        m_buffer = std::make_unique<ReadBuffer>(kBufferSize);
-    const DigestResult result =
-        computeDigest(item.path.toUtf8().constData(), item.size, m_ignoreMp4Header, *m_buffer, m_allocStorage);
+    if (item.has(HasDigest)) return;
+    if (!m_buffer) m_buffer = std::make_unique<ReadBuffer>(kBufferSize);
+    const DigestResult result = computeDigest(item.path.toUtf8().constData(), item.size, m_ignoreMp4Header,
+                                              *m_buffer, m_allocStorage);
     if (result.digest) {
         item.digest = *result.digest;
         item.set(HasDigest);
@@ -41,16 +44,12 @@ void CloneStatusPass::ensureDigests(ResultItem &item)
 
 CloneStatus CloneStatusPass::statusOf(ResultItem &selected, ResultItem &other)
 {
-    if (other.path == selected.path)
-        return SelectedItself;
-    if (!exists(selected.path) || !exists(other.path))
-        return FileMissing;
+    if (other.path == selected.path) return SelectedItself;
+    if (!exists(selected.path) || !exists(other.path)) return FileMissing;
     struct stat a, b;
     const bool statted = linkStat(selected.path, &a) && linkStat(other.path, &b);
-    if (statted && a.st_dev == b.st_dev && a.st_ino == b.st_ino)
-        return HardLink;
-    if (sameAllocation(selected, other))
-        return AlreadyClone;
+    if (statted && a.st_dev == b.st_dev && a.st_ino == b.st_ino) return HardLink;
+    if (sameAllocation(selected, other)) return AlreadyClone;
     if (m_mode != DetectionMode::Content && selected.size == other.size) {
         ensureDigests(selected);
         ensureDigests(other);

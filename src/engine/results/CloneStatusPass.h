@@ -7,16 +7,21 @@
 #include <memory>
 #include <vector>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // Decides the CloneStatus of bottom-list rows against the selected item, looking at the
 // files as they are now. Outside the content mode, items of equal size get their content
 // digests computed on demand (and kept in the items), sharing one large buffer per pass.
-class CloneStatusPass {
+class CloneStatusPass
+{
 public:
     static constexpr std::size_t kBufferSize = 134'217'728;
 
-    CloneStatusPass(DetectionMode mode, bool ignoreMp4Header) : m_mode(mode), m_ignoreMp4Header(ignoreMp4Header) {}
+    CloneStatusPass(DetectionMode mode, bool ignoreMp4Header)
+        : m_mode(mode), m_ignoreMp4Header(ignoreMp4Header)
+    {
+    }
     CloneStatus statusOf(ResultItem &selected, ResultItem &other);
 
 private:

@@ -1,30 +1,38 @@
 #include "results/GroupOrder.h"
 
-#include "results/NameCompare.h"
 #include "search/Digest.h"
+#include "search/SweepSearch.h"
 
 #include <QDateTime>
-
 #include <algorithm>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
-template <typename T> int order(const T &a, const T &b) { return a < b ? -1 : (b < a ? 1 : 0); }
+template <typename T> int order(const T &a, const T &b)
+{
+    return a < b ? -1 : (b < a ? 1 : 0);
+}
 
 int compareDigestsOf(const ResultItem &a, const ResultItem &b)
 {
-    if (!a.has(HasDigest) || !b.has(HasDigest))
-        return order(a.has(HasDigest), b.has(HasDigest));
+    if (!a.has(HasDigest) || !b.has(HasDigest)) return order(a.has(HasDigest), b.has(HasDigest));
     return compareDigests(a.digest, b.digest);
 }
 
 bool isNumber(const QVariant &v)
 {
     switch (v.typeId()) {
-    case QMetaType::Int: case QMetaType::UInt: case QMetaType::LongLong: case QMetaType::ULongLong:
-    case QMetaType::Double: case QMetaType::Float: case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+    case QMetaType::Float:
+    case QMetaType::Bool:
         return true;
     default:
         return false;
@@ -34,10 +42,8 @@ bool isNumber(const QVariant &v)
 // A probe of the attribute mode: the value moved by the tolerance where it has a distance.
 QVariant shifted(const QVariant &value, double by)
 {
-    if (value.typeId() == QMetaType::QDateTime)
-        return value.toDateTime().addMSecs(qint64(by * 1000.0));
-    if (isNumber(value))
-        return value.toDouble() + by;
+    if (value.typeId() == QMetaType::QDateTime) return value.toDateTime().addMSecs(qint64(by * 1000.0));
+    if (isNumber(value)) return value.toDouble() + by;
     return value;
 }
 
@@ -47,8 +53,7 @@ struct DigestPrefix {
     const ResultItem *item;
     bool operator<(const DigestPrefix &other) const
     {
-        if (prefix != other.prefix)
-            return prefix < other.prefix;
+        if (prefix != other.prefix) return prefix < other.prefix;
         return compareDigestsOf(*item, *other.item) < 0;
     }
 };
@@ -79,46 +84,11 @@ template <typename KeyOf> void sortByKey(QList<ResultItem *> &items, KeyOf keyOf
 
 } // namespace
 
-QString removePathExtensionAndSuffix(bool removeExtension, const QList<QRegularExpression> &suffixRegexes,
-                                     const QString &name)
-{
-    const QStringView extension = pathExtension(name);
-    QString base = extension.isEmpty() ? name : deletingPathExtension(name).toString();
-    qsizetype longest = 0;
-    for (const QRegularExpression &regex : suffixRegexes) {
-        const QRegularExpressionMatch match = regex.match(base);
-        if (match.hasMatch())
-            longest = std::max(longest, match.capturedLength());
-    }
-    base.chop(longest);
-    if (removeExtension || extension.isEmpty())
-        return base;
-    return base.append(QLatin1Char('.')).append(extension);
-}
-
-int compareAttributeValues(const QVariant &a, const QVariant &b)
-{
-    const bool comparable = (isNumber(a) && isNumber(b)) ||
-                            (a.typeId() == b.typeId() &&
-                             (a.typeId() == QMetaType::QDateTime || a.typeId() == QMetaType::QString));
-    if (comparable) {
-        const QPartialOrdering o = QVariant::compare(a, b);
-        if (o == QPartialOrdering::Less)
-            return -1;
-        if (o == QPartialOrdering::Greater)
-            return 1;
-        if (o == QPartialOrdering::Equivalent)
-            return 0;
-    }
-    return a == b ? 0 : -1;
-}
-
 GroupOrder::GroupOrder(const SearchRequest &request)
-    : m_mode(request.detectionMode),
-      m_durationTolerance(request.durationTolerance),
+    : m_mode(request.detectionMode), m_durationTolerance(request.durationTolerance),
       m_spotlightTolerance(request.spotlightTolerance),
-      m_ignoreExtension(request.filenameIgnoreExtension),
-      m_suffixRegexes(request.filenameIgnoreCommonSuffixRegexes)
+      m_nameKey(
+          getFilenameSortKey(request.filenameIgnoreExtension, request.filenameIgnoreCommonSuffixRegexes))
 {
 }
 
@@ -129,11 +99,7 @@ bool GroupOrder::isOrdered() const
 
 QString GroupOrder::nameKey(const ResultItem &item) const
 {
-    if (m_suffixRegexes)
-        return removePathExtensionAndSuffix(m_ignoreExtension, *m_suffixRegexes, item.name().toLower());
-    if (m_ignoreExtension)
-        return deletingPathExtension(item.nameView()).toString().toLower();
-    return item.name().toLower();
+    return m_nameKey.comparable(m_nameKey.keyValue(item.path));
 }
 
 int GroupOrder::compare(const ResultItem &a, const ResultItem &b) const
@@ -176,16 +142,14 @@ GroupOrder::Range GroupOrder::equalRange(const QList<ResultItem *> &sorted, cons
                                          const ResultItem &high, bool lowMustBeEqual) const
 {
     // First-equal search for the low probe, then last-equal search for the high one from there.
-    const auto begin = std::lower_bound(sorted.begin(), sorted.end(), &low,
-                                        [this](const ResultItem *x, const ResultItem *probe) {
-                                            return compare(*x, *probe) < 0;
-                                        });
-    if (begin == sorted.end() || (lowMustBeEqual && compare(**begin, low) != 0))
-        return {0, 0};
-    const auto end = std::upper_bound(begin, sorted.end(), &high,
-                                      [this](const ResultItem *probe, const ResultItem *x) {
-                                          return compare(*probe, *x) < 0;
-                                      });
+    const auto begin = std::lower_bound(
+        sorted.begin(), sorted.end(), &low,
+        [this](const ResultItem *x, const ResultItem *probe) { return compare(*x, *probe) < 0; });
+    if (begin == sorted.end() || (lowMustBeEqual && compare(**begin, low) != 0)) return {0, 0};
+    const auto end =
+        std::upper_bound(begin, sorted.end(), &high, [this](const ResultItem *probe, const ResultItem *x) {
+            return compare(*probe, *x) < 0;
+        });
     return {begin - sorted.begin(), end - sorted.begin()};
 }
 

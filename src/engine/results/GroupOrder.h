@@ -1,23 +1,18 @@
 #pragma once
 
 #include "results/ResultItem.h"
+#include "search/FilenameSortKey.h"
 #include "search/SearchRequest.h"
 
 #include <QList>
-#include <QRegularExpression>
 
-#include <optional>
-
-namespace selfsame {
-
-// The comparable form of a name in the file-name mode: the longest common suffix that any
-// expression matches at the end of the base name is cut, and the extension dropped or kept.
-QString removePathExtensionAndSuffix(bool removeExtension, const QList<QRegularExpression> &suffixRegexes,
-                                     const QString &name);
+namespace selfsame
+{
 
 // The order of a detection mode's group key, which both the sorted look-up array and the
 // binary searches over it use. Modes beyond the attribute mode have no order.
-class GroupOrder {
+class GroupOrder
+{
 public:
     explicit GroupOrder(const SearchRequest &request);
 
@@ -42,12 +37,7 @@ private:
     DetectionMode m_mode;
     double m_durationTolerance;
     double m_spotlightTolerance;
-    bool m_ignoreExtension;
-    std::optional<QList<QRegularExpression>> m_suffixRegexes;
+    FilenameSortKey m_nameKey; // the file-name mode's, as the search grouped by it
 };
-
-// The attribute mode's comparison: natural order for values that have one (numbers, dates,
-// strings of one kind); otherwise equal when equal, else less.
-int compareAttributeValues(const QVariant &a, const QVariant &b);
 
 } // namespace selfsame

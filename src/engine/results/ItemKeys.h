@@ -19,9 +19,8 @@ struct ItemKey {
     QStringView (*text)(const ResultItem &) = nullptr;
 };
 
-// Key paths of the name and folder columns.
-inline constexpr char16_t kSortByNameKeyPath[] = u"URL.path.lastPathComponent.lowercaseString";
-inline constexpr char16_t kSortByFolderKeyPath[] = u"URL.path.stringByDeletingLastPathComponent";
+// The key path of the folder column (the name column's is kSortByNameKeyPath).
+inline constexpr QLatin1String kSortByFolderKeyPath("URL.path.stringByDeletingLastPathComponent");
 
 const ItemKey *findItemKey(QStringView name);
 QVariant itemValue(const ResultItem &item, QStringView key);

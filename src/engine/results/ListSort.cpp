@@ -2,22 +2,27 @@
 
 #include "results/ItemKeys.h"
 #include "results/NameCompare.h"
+#include "search/FilenameSortKey.h"
 
 #include <algorithm>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 QString extensionText(const ResultItem &item)
 {
-    if (item.has(IsFolder) && !item.has(IsPackage))
-        return QStringLiteral("   -=folder=-");
+    if (item.has(IsFolder) && !item.has(IsPackage)) return QStringLiteral("   -=folder=-");
     const QString extension = pathExtension(item.nameView()).toString().toLower();
     return extension.isEmpty() ? QStringLiteral("~~~") : extension;
 }
 
-int sign(int value) { return value < 0 ? -1 : (value > 0 ? 1 : 0); }
+int sign(int value)
+{
+    return value < 0 ? -1 : (value > 0 ? 1 : 0);
+}
 
 struct Comparison {
     int (*compare)(const ResultItem &, const ResultItem &);
@@ -29,8 +34,7 @@ struct Comparison {
 int compareExtensions(const ResultItem &a, const ResultItem &b, bool ascending)
 {
     int result = sign(extensionText(a).compare(extensionText(b)));
-    if (result == 0)
-        result = compareLowercase(a.nameView(), b.nameView());
+    if (result == 0) result = compareLowercase(a.nameView(), b.nameView());
     return ascending ? result : -result;
 }
 
@@ -38,8 +42,7 @@ int comparePixelSizes(const QString &a, const QString &b)
 {
     const QString separator = QStringLiteral(" \u00d7 ");
     const QStringList x = a.split(separator), y = b.split(separator);
-    if (x.size() != 2 || y.size() != 2)
-        return 0;
+    if (x.size() != 2 || y.size() != 2) return 0;
     const qint64 pixelsA = x[0].toLongLong() * x[1].toLongLong();
     const qint64 pixelsB = y[0].toLongLong() * y[1].toLongLong();
     return pixelsA < pixelsB ? -1 : (pixelsA > pixelsB ? 1 : 0);
@@ -53,7 +56,7 @@ QString groupColumnKey(DetectionMode mode)
     case DetectionMode::Duration:
         return QStringLiteral("duration");
     case DetectionMode::FileName:
-        return QString::fromUtf16(kSortByNameKeyPath);
+        return kSortByNameKeyPath;
     case DetectionMode::Attribute:
         return QStringLiteral("spotlight");
     }
@@ -64,16 +67,13 @@ QList<SortDescriptor> sortDescriptorsFor(const SortDescriptor &clicked, Detectio
 {
     const QString &key = clicked.key;
     const bool dupes = key == QLatin1String("dupes");
-    const QString name = QString::fromUtf16(kSortByNameKeyPath);
-    const QString folder = QString::fromUtf16(kSortByFolderKeyPath);
+    const QString name = kSortByNameKeyPath;
+    const QString folder = kSortByFolderKeyPath;
     if (mode == DetectionMode::Content && (key == QLatin1String("size") || dupes))
         return {clicked, {QStringLiteral("digest"), true}};
-    if (mode == DetectionMode::FileName && dupes)
-        return {clicked, {name, true}, {folder, true}};
-    if (mode == DetectionMode::Duration && dupes)
-        return {clicked, {QStringLiteral("duration"), true}};
-    if (mode == DetectionMode::Attribute && dupes)
-        return {clicked, {QStringLiteral("spotlight"), true}};
+    if (mode == DetectionMode::FileName && dupes) return {clicked, {name, true}, {folder, true}};
+    if (mode == DetectionMode::Duration && dupes) return {clicked, {QStringLiteral("duration"), true}};
+    if (mode == DetectionMode::Attribute && dupes) return {clicked, {QStringLiteral("spotlight"), true}};
     if (key.startsWith(QLatin1String("URL.path.lastPathComponent")))
         return {clicked, {folder, clicked.ascending}};
     if (key.startsWith(QLatin1String("URL.path.stringByDeletingLastPathComponent")))
@@ -93,19 +93,15 @@ void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, Detect
     const ItemKey *naturalKey = nullptr; // the first key, when its texts sort naturally
     for (const SortDescriptor &d : sortDescriptorsFor(clicked, mode)) {
         const ItemKey *key = findItemKey(d.key);
-        if (!key)
-            continue; // an unknown key orders nothing
+        if (!key) continue; // an unknown key orders nothing
         const bool natural = d.key.startsWith(QLatin1String("URL.path")) && key->naturalCompare;
-        if (natural && comparisons.isEmpty())
-            naturalKey = key;
+        if (natural && comparisons.isEmpty()) naturalKey = key;
         comparisons.append({natural ? key->naturalCompare : key->compare, d.ascending});
     }
-    if (comparisons.isEmpty())
-        return;
+    if (comparisons.isEmpty()) return;
     auto inOrder = [&](const ResultItem *a, const ResultItem *b) {
         for (const Comparison &c : comparisons)
-            if (const int result = c.compare(*a, *b))
-                return c.ascending ? result < 0 : result > 0;
+            if (const int result = c.compare(*a, *b)) return c.ascending ? result < 0 : result > 0;
         return false;
     };
     if (!naturalKey) {

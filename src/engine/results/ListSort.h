@@ -6,7 +6,8 @@
 #include <QList>
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The clicked column of a list: its sort key and direction.
 struct SortDescriptor {

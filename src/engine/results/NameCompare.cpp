@@ -1,21 +1,27 @@
 #include "results/NameCompare.h"
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
-int sign(int value) { return value < 0 ? -1 : (value > 0 ? 1 : 0); }
+int sign(int value)
+{
+    return value < 0 ? -1 : (value > 0 ? 1 : 0);
+}
 
-bool isDigit(QChar c) { return c >= QLatin1Char('0') && c <= QLatin1Char('9'); }
+bool isDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
 
 // A character as natural order sees it: without case, and an accented letter as its base
 // letter, so that "Ärger" sorts among the a's.
 char16_t folded(QChar c)
 {
-    if (c.unicode() < 0x80)
-        return c.toCaseFolded().unicode();
-    if (c.decompositionTag() == QChar::Canonical)
-        c = c.decomposition().at(0);
+    if (c.unicode() < 0x80) return c.toCaseFolded().unicode();
+    if (c.decompositionTag() == QChar::Canonical) c = c.decomposition().at(0);
     return c.toCaseFolded().unicode();
 }
 
@@ -38,8 +44,7 @@ int compareLowercase(QStringView a, QStringView b)
     const qsizetype n = std::min(a.size(), b.size());
     for (qsizetype i = 0; i < n; ++i) {
         const char16_t x = a[i].toLower().unicode(), y = b[i].toLower().unicode();
-        if (x != y)
-            return x < y ? -1 : 1;
+        if (x != y) return x < y ? -1 : 1;
     }
     return sign(int(a.size() > b.size()) - int(a.size() < b.size()));
 }
@@ -59,22 +64,18 @@ int naturalCompare(QStringView a, QStringView b)
                 ++ei;
             while (ej < b.size() && isDigit(b[ej]))
                 ++ej;
-            if (ei - i != ej - j)
-                return ei - i < ej - j ? -1 : 1;
-            if (const int c = a.mid(i, ei - i).compare(b.mid(j, ej - j)))
-                return sign(c);
+            if (ei - i != ej - j) return ei - i < ej - j ? -1 : 1;
+            if (const int c = a.mid(i, ei - i).compare(b.mid(j, ej - j))) return sign(c);
             i = ei;
             j = ej;
             continue;
         }
         const char16_t x = folded(a[i]), y = folded(b[j]);
-        if (x != y)
-            return x < y ? -1 : 1;
+        if (x != y) return x < y ? -1 : 1;
         ++i;
         ++j;
     }
-    if (i < a.size() || j < b.size())
-        return i < a.size() ? 1 : -1;
+    if (i < a.size() || j < b.size()) return i < a.size() ? 1 : -1;
     return sign(a.compare(b));
 }
 

@@ -2,10 +2,10 @@
 
 #include <QString>
 #include <QStringView>
-
 #include <string>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // The extension of a file name: what follows its last dot, empty when the name has none or
 // only a leading dot (".profile").

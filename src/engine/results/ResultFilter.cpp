@@ -3,12 +3,13 @@
 #include "results/ItemKeys.h"
 
 #include <QRegularExpression>
-
 #include <optional>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
 const char kCriterion[] = "filterStringCriterion";
 const char kOperator[] = "filterStringOperator";
@@ -19,18 +20,27 @@ const char kDateUnit[] = "filterDateUnit";
 double secondsPerUnit(int unit)
 {
     switch (unit) {
-    case 0: return 86'400;
-    case 1: return 604'800;
-    case 2: return 2'629'800;   // 30.4375 days
-    case 3: return 31'557'600;  // 365.25 days
-    default: return 1;
+    case 0:
+        return 86'400;
+    case 1:
+        return 604'800;
+    case 2:
+        return 2'629'800; // 30.4375 days
+    case 3:
+        return 31'557'600; // 365.25 days
+    default:
+        return 1;
     }
 }
 
-bool isWordCharacter(QChar c) { return c.isLetterOrNumber(); }
+bool isWordCharacter(QChar c)
+{
+    return c.isLetterOrNumber();
+}
 
 // The text condition, compiled once for all items.
-class TextCondition {
+class TextCondition
+{
 public:
     explicit TextCondition(const FilterCriteria &criteria)
         : m_key(criteria.criterionKey), m_operator(criteria.stringOperator)
@@ -38,8 +48,7 @@ public:
         const bool tagRule = m_key == QLatin1String("tagList") && m_operator == Equals + kNegated;
         m_active = !criteria.text.isEmpty() || tagRule;
         if (isRegex()) {
-            if (criteria.text.isEmpty())
-                return;
+            if (criteria.text.isEmpty()) return;
             QRegularExpression regex(criteria.text, QRegularExpression::CaseInsensitiveOption |
                                                         QRegularExpression::UseUnicodePropertiesOption);
             if (regex.isValid())
@@ -59,8 +68,7 @@ public:
 
     bool passes(const ResultItem &item) const
     {
-        if (!m_active)
-            return true;
+        if (!m_active) return true;
         const QVariant value = itemValue(item, m_key);
         QStringList values;
         if (value.typeId() == QMetaType::QString)
@@ -73,12 +81,10 @@ public:
                 v.truncate(v.indexOf(QLatin1Char('\n')) < 0 ? v.size() : v.indexOf(QLatin1Char('\n')));
             const std::optional<bool> result = test(isRegex() ? v : foldedForFilter(v));
             if (!result) {
-                if (negated)
-                    return true;
+                if (negated) return true;
                 continue;
             }
-            if (*result != negated)
-                return true;
+            if (*result != negated) return true;
         }
         return false;
     }
@@ -90,19 +96,24 @@ private:
     std::optional<bool> test(const QString &v) const
     {
         switch (base()) {
-        case Contains: return v.contains(m_text);
-        case ContainsWholeWord: return containsFullWordString(v, m_text);
-        case BeginsWith: return v.startsWith(m_text);
-        case EndsWith: return v.endsWith(m_text);
-        case Equals: return v == m_text;
+        case Contains:
+            return v.contains(m_text);
+        case ContainsWholeWord:
+            return containsFullWordString(v, m_text);
+        case BeginsWith:
+            return v.startsWith(m_text);
+        case EndsWith:
+            return v.endsWith(m_text);
+        case Equals:
+            return v == m_text;
         case ContainsAnyWord:
-            return std::any_of(m_words.begin(), m_words.end(), [&](const QString &w) { return v.contains(w); });
+            return std::any_of(m_words.begin(), m_words.end(),
+                               [&](const QString &w) { return v.contains(w); });
         case ContainsAnyWholeWord:
             return std::any_of(m_words.begin(), m_words.end(),
                                [&](const QString &w) { return containsFullWordString(v, w); });
         case MatchesRegex:
-            if (!m_regex)
-                return std::nullopt;
+            if (!m_regex) return std::nullopt;
             return m_regex->match(v).hasMatch();
         }
         return false;
@@ -143,16 +154,13 @@ bool containsFullWordString(QStringView text, QStringView needle)
 {
     for (qsizetype from = 0;;) {
         const qsizetype at = text.indexOf(needle, from);
-        if (at < 0)
-            return false;
+        if (at < 0) return false;
         const qsizetype end = at + needle.size();
         const bool delimitedBefore = at == 0 || !isWordCharacter(text[at - 1]);
         const bool delimitedAfter = end >= text.size() || !isWordCharacter(text[end]);
-        if (delimitedBefore && delimitedAfter)
-            return true;
+        if (delimitedBefore && delimitedAfter) return true;
         from = at + 1;
-        if (from > text.size())
-            return false;
+        if (from > text.size()) return false;
     }
 }
 
@@ -162,8 +170,7 @@ QString foldedForFilter(const QString &text)
     QString folded;
     folded.reserve(decomposed.size());
     for (QChar c : decomposed)
-        if (c.category() != QChar::Mark_NonSpacing && c.category() != QChar::Mark_Enclosing)
-            folded.append(c);
+        if (c.category() != QChar::Mark_NonSpacing && c.category() != QChar::Mark_Enclosing) folded.append(c);
     return folded.toCaseFolded();
 }
 

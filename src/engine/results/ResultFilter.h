@@ -6,7 +6,8 @@
 #include <QString>
 #include <QVariantMap>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // Text operators by tag; adding kNegated (10) gives the negation of each.
 enum FilterOperator : int {
@@ -27,7 +28,7 @@ struct FilterCriteria {
     int stringOperator = Contains;
     QString text;
     QString dateKey = QStringLiteral("modified");
-    int dateOperator = 0; // 0 newer than, 1 older than
+    int dateOperator = 0;  // 0 newer than, 1 older than
     double dateNumber = 0; // the date condition is off unless above 0
     int dateUnit = 0;      // 0 days, 1 weeks, 2 months, 3 years, other tags seconds
 };
@@ -46,6 +47,7 @@ QString foldedForFilter(const QString &text);
 // top list, always starting again from all items; undoes hiding by automatic selection and
 // keeps the selected items that stay visible. Returns the regular expression's error text
 // when the text does not compile (the filter still runs), else an empty string.
-QString filter(ResultModel &model, const FilterCriteria &criteria, const QDateTime &now = QDateTime::currentDateTimeUtc());
+QString filter(ResultModel &model, const FilterCriteria &criteria,
+               const QDateTime &now = QDateTime::currentDateTimeUtc());
 
 } // namespace selfsame

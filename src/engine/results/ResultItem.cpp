@@ -1,6 +1,7 @@
 #include "results/ResultItem.h"
 
-namespace selfsame {
+namespace selfsame
+{
 
 QString ResultItem::folder() const
 {
@@ -10,8 +11,7 @@ QString ResultItem::folder() const
 
 QString ResultItem::parentPath() const
 {
-    if (parentPathStart == 0)
-        return folder();
+    if (parentPathStart == 0) return folder();
     const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
     return parentPathStart < slash ? path.mid(parentPathStart, slash - parentPathStart) : QString();
 }
@@ -24,27 +24,23 @@ const QString &ResultItem::trashedURL() const
 
 ResultItem::Rare &ResultItem::rare()
 {
-    if (!m_rare)
-        m_rare.reset(new Rare);
+    if (!m_rare) m_rare.reset(new Rare);
     return *m_rare;
 }
 
 void ResultItem::setItemCount(qint64 count)
 {
-    if (count != 0 || m_rare)
-        rare().itemCount = count;
+    if (count != 0 || m_rare) rare().itemCount = count;
 }
 
 void ResultItem::setAddedDate(qint64 date)
 {
-    if (date != kNoDate || m_rare)
-        rare().addedDate = date;
+    if (date != kNoDate || m_rare) rare().addedDate = date;
 }
 
 void ResultItem::setTrashedURL(const QString &trashed)
 {
-    if (!trashed.isEmpty() || m_rare)
-        rare().trashedURL = trashed;
+    if (!trashed.isEmpty() || m_rare) rare().trashedURL = trashed;
 }
 
 } // namespace selfsame

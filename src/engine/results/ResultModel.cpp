@@ -5,11 +5,16 @@
 
 #include <QSet>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
-bool isKnownMode(DetectionMode mode) { return int(mode) >= 0 && int(mode) <= int(DetectionMode::Attribute); }
+bool isKnownMode(DetectionMode mode)
+{
+    return int(mode) >= 0 && int(mode) <= int(DetectionMode::Attribute);
+}
 
 // The top list's order right after a search: the mode's key, largest first.
 SortDescriptor defaultTopSort(DetectionMode mode)
@@ -30,13 +35,11 @@ SortDescriptor defaultTopSort(DetectionMode mode)
 // The members of `wanted` that appear in `list`, in the list's order.
 QList<ResultItem *> inListOrder(const QList<ResultItem *> &list, const QList<ResultItem *> &wanted)
 {
-    if (wanted.isEmpty())
-        return {};
+    if (wanted.isEmpty()) return {};
     const QSet<ResultItem *> set(wanted.begin(), wanted.end());
     QList<ResultItem *> ordered;
     for (ResultItem *item : list)
-        if (set.contains(item))
-            ordered.append(item);
+        if (set.contains(item)) ordered.append(item);
     return ordered;
 }
 
@@ -75,8 +78,7 @@ void ResultModel::reset()
 void ResultModel::sortMainItemsIncludingHidden()
 {
     m_mainItemsIncludingHiddenSorted = m_mainItems + m_mainItemsHidden;
-    if (!m_groupOrder || !m_groupOrder->isOrdered())
-        return;
+    if (!m_groupOrder || !m_groupOrder->isOrdered()) return;
     m_mainItemsSorted = m_mainItems;
     m_groupOrder->sort(m_mainItemsSorted);
     m_groupOrder->sort(m_mainItemsIncludingHiddenSorted);
@@ -84,8 +86,7 @@ void ResultModel::sortMainItemsIncludingHidden()
 
 QList<ResultItem *> ResultModel::duplicatesFor(const ResultItem &item) const
 {
-    if (!m_groupOrder)
-        return {};
+    if (!m_groupOrder) return {};
     return m_groupOrder->duplicatesFor(m_mainItemsIncludingHiddenSorted, item);
 }
 
@@ -103,8 +104,7 @@ void ResultModel::updateCloneList()
     }
     m_selected[index(ResultList::Bottom)].clear();
     sortDescriptorsDidChange(ResultList::Bottom);
-    if (!m_cloneItems.isEmpty())
-        m_selected[index(ResultList::Bottom)] = {m_cloneItems.first()};
+    if (!m_cloneItems.isEmpty()) m_selected[index(ResultList::Bottom)] = {m_cloneItems.first()};
 }
 
 void ResultModel::setSortDescriptor(ResultList list, std::optional<SortDescriptor> descriptor)
@@ -117,13 +117,11 @@ void ResultModel::sortDescriptorsDidChange(ResultList list)
 {
     QList<ResultItem *> &items = list == ResultList::Top ? m_mainItems : m_cloneItems;
     const std::optional<SortDescriptor> &clicked = m_sort[index(list)];
-    if (clicked)
-        sortItems(items, *clicked, detectionMode());
+    if (clicked) sortItems(items, *clicked, detectionMode());
     if (list == ResultList::Top && isKnownMode(detectionMode())) {
         const QString key = clicked ? clicked->key : QString();
         m_showGroups = key == groupColumnKey(detectionMode()) || key == QLatin1String("dupes");
-        if (m_showGroups)
-            updateAlternateColors();
+        if (m_showGroups) updateAlternateColors();
     }
     m_selected[index(list)] = inListOrder(items, m_selected[index(list)]);
 }
@@ -144,11 +142,13 @@ void ResultModel::updateAlternateColors()
 void ResultModel::select(ResultList list, const QList<ResultItem *> &items)
 {
     m_selected[index(list)] = inListOrder(this->items(list), items);
-    if (list == ResultList::Top)
-        updateCloneList();
+    if (list == ResultList::Top) updateCloneList();
 }
 
-QList<ResultItem *> ResultModel::selectedItems(ResultList list) const { return m_selected[index(list)]; }
+QList<ResultItem *> ResultModel::selectedItems(ResultList list) const
+{
+    return m_selected[index(list)];
+}
 
 QList<qsizetype> ResultModel::selectedRows(ResultList list) const
 {
@@ -157,8 +157,7 @@ QList<qsizetype> ResultModel::selectedRows(ResultList list) const
     QList<qsizetype> rows;
     const QList<ResultItem *> &all = items(list);
     for (qsizetype row = 0; row < all.size() && rows.size() < selected.size(); ++row)
-        if (set.contains(all[row]))
-            rows.append(row);
+        if (set.contains(all[row])) rows.append(row);
     return rows;
 }
 
@@ -180,7 +179,8 @@ void ResultModel::showAllHidden()
     m_hiddenArrayExists = true;
 }
 
-void ResultModel::hide(QList<ResultItem *> visible, const QList<ResultItem *> &hidden, bool byAutomaticSelection)
+void ResultModel::hide(QList<ResultItem *> visible, const QList<ResultItem *> &hidden,
+                       bool byAutomaticSelection)
 {
     m_mainItems = std::move(visible);
     m_mainItemsHidden.append(hidden);

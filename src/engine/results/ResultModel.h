@@ -7,10 +7,10 @@
 
 #include <QList>
 #include <QStringList>
-
 #include <optional>
 
-namespace selfsame {
+namespace selfsame
+{
 
 enum class ResultList { Top, Bottom };
 
@@ -18,7 +18,8 @@ enum class ResultList { Top, Bottom };
 // items, the bottom list of the duplicates of the one selected top item, the hidden items,
 // and the arrays sorted by group key that look-ups search. Items are owned here and shared
 // by pointer among the arrays; selections are kept by identity, so they survive re-sorting.
-class ResultModel {
+class ResultModel
+{
 public:
     ResultModel() = default;
     // The arrays point into the model's own items: a copy would point into the original.
@@ -39,9 +40,15 @@ public:
     const QList<ResultItem *> &mainItems() const { return m_mainItems; }
     const QList<ResultItem *> &mainItemsHidden() const { return m_mainItemsHidden; }
     const QList<ResultItem *> &mainItemsSorted() const { return m_mainItemsSorted; }
-    const QList<ResultItem *> &mainItemsIncludingHiddenSorted() const { return m_mainItemsIncludingHiddenSorted; }
+    const QList<ResultItem *> &mainItemsIncludingHiddenSorted() const
+    {
+        return m_mainItemsIncludingHiddenSorted;
+    }
     const QList<ResultItem *> &cloneItems() const { return m_cloneItems; }
-    const QList<ResultItem *> &items(ResultList list) const { return list == ResultList::Top ? m_mainItems : m_cloneItems; }
+    const QList<ResultItem *> &items(ResultList list) const
+    {
+        return list == ResultList::Top ? m_mainItems : m_cloneItems;
+    }
     // Every item of the search, in the order the search delivered them. The arrays point
     // into this list: change items through it, never copy it and change the copy.
     QList<ResultItem> &allItems() { return m_storage; }

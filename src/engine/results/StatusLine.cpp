@@ -5,20 +5,27 @@
 
 #include <QCoreApplication>
 
-namespace selfsame {
+namespace selfsame
+{
 
-namespace {
+namespace
+{
 
-QString tr(const char *text) { return QCoreApplication::translate("Dupes", text); }
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("Dupes", text);
+}
 
-QString count(qsizetype n) { return IntegerFormatter::shared().stringForIntegerValue(n); }
+QString count(qsizetype n)
+{
+    return IntegerFormatter::shared().stringForIntegerValue(n);
+}
 
 } // namespace
 
 StatusLine statusLine(const ResultModel &model, ResultList active)
 {
-    if (active == ResultList::Bottom && model.cloneItems().isEmpty())
-        active = ResultList::Top;
+    if (active == ResultList::Bottom && model.cloneItems().isEmpty()) active = ResultList::Top;
     const QString noun = active == ResultList::Bottom ? tr("duplicate items") : tr("items");
     const qsizetype rows = model.items(active).size();
     const QList<ResultItem *> selected = model.selectedItems(active);

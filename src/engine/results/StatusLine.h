@@ -4,7 +4,8 @@
 
 #include <QString>
 
-namespace selfsame {
+namespace selfsame
+{
 
 // What the line under the result lists shows.
 struct StatusLine {

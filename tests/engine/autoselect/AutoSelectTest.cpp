@@ -5,7 +5,8 @@
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 struct Copy {
     const char *path;
@@ -14,7 +15,8 @@ struct Copy {
     QStringList tags = {};
 };
 
-class AutoSelectTest : public ::testing::Test {
+class AutoSelectTest : public ::testing::Test
+{
 protected:
     void load(std::initializer_list<Copy> copies)
     {
@@ -50,8 +52,7 @@ protected:
     ResultItem *at(const char *path)
     {
         for (ResultItem &i : model.allItems())
-            if (i.path == QString::fromUtf8(path))
-                return &i;
+            if (i.path == QString::fromUtf8(path)) return &i;
         return nullptr;
     }
     ResultModel model;
@@ -60,12 +61,17 @@ protected:
 
 TEST_F(AutoSelectTest, SameFolderAndNameKeepsTheShortestNameOfEachRun)
 {
-    load({{"/d/f/a.jpg", 0}, {"/d/f/a copy.jpg", 0}, {"/d/f/a 2.jpg", 0}, {"/d/f/b.jpg", 0},
-          {"/d/x/p.txt", 1}, {"/d/y/p.txt", 1}});
+    load({{"/d/f/a.jpg", 0},
+          {"/d/f/a copy.jpg", 0},
+          {"/d/f/a 2.jpg", 0},
+          {"/d/f/b.jpg", 0},
+          {"/d/x/p.txt", 1},
+          {"/d/y/p.txt", 1}});
     AutoSelectSettings settings;
     EXPECT_EQ(run(settings), "f/a 2.jpg f/a copy.jpg | f/a.jpg");
     EXPECT_EQ(model.selectedItems(ResultList::Top).size(), 2);
-    EXPECT_EQ(outcome.settingsToStore.value(QStringLiteral("auto-select choice")).toInt(), SameFolderSameName);
+    EXPECT_EQ(outcome.settingsToStore.value(QStringLiteral("auto-select choice")).toInt(),
+              SameFolderSameName);
 
     // A trashed first copy leaves its whole run alone; a deleted later copy is only skipped over.
     at("/d/f/a.jpg")->setTrashedURL(QStringLiteral("/trash/a.jpg"));
@@ -77,8 +83,12 @@ TEST_F(AutoSelectTest, SameFolderAndNameKeepsTheShortestNameOfEachRun)
 
 TEST_F(AutoSelectTest, SameFolderWhateverTheNameKeepsTheOldestOrNewestPresentCopy)
 {
-    load({{"/d/f/x.jpg", 0, 300}, {"/d/f/y.jpg", 0, 100}, {"/d/f/z.jpg", 0, 200}, {"/d/g/w.jpg", 0, 50},
-          {"/d/h/1", 1, 1}, {"/d/i/2", 1, 2}});
+    load({{"/d/f/x.jpg", 0, 300},
+          {"/d/f/y.jpg", 0, 100},
+          {"/d/f/z.jpg", 0, 200},
+          {"/d/g/w.jpg", 0, 50},
+          {"/d/h/1", 1, 1},
+          {"/d/i/2", 1, 2}});
     AutoSelectSettings settings;
     settings.choice = SameFolderWhateverName;
     EXPECT_EQ(run(settings), "f/x.jpg f/z.jpg | f/y.jpg");
@@ -92,8 +102,7 @@ TEST_F(AutoSelectTest, SameFolderWhateverTheNameKeepsTheOldestOrNewestPresentCop
 
 TEST_F(AutoSelectTest, FolderRuleByLocationAndDates)
 {
-    load({{"/d/F/a", 0, 2020}, {"/d/F/sub/b", 0, 2022}, {"/d/G/c", 0, 2021},
-          {"/d/F/d", 1}, {"/d/F/e", 1}});
+    load({{"/d/F/a", 0, 2020}, {"/d/F/sub/b", 0, 2022}, {"/d/G/c", 0, 2021}, {"/d/F/d", 1}, {"/d/F/e", 1}});
     AutoSelectSettings settings;
     settings.choice = InsideFolder;
     settings.folder = QStringLiteral("/d/F");
@@ -121,9 +130,12 @@ TEST_F(AutoSelectTest, FolderRuleByLocationAndDates)
 
 TEST_F(AutoSelectTest, TagRuleMatchesColourTagsAndPlainTags)
 {
-    load({{"/d/red-colour", 0, 0, {QStringLiteral("Red\n6")}}, {"/d/red-plain", 0, 0, {QStringLiteral("red")}},
-          {"/d/blue", 0, 0, {QStringLiteral("Blue\n4")}}, {"/d/none", 0},
-          {"/d/all-red1", 1, 0, {QStringLiteral("Red")}}, {"/d/all-red2", 1, 0, {QStringLiteral("RED")}}});
+    load({{"/d/red-colour", 0, 0, {QStringLiteral("Red\n6")}},
+          {"/d/red-plain", 0, 0, {QStringLiteral("red")}},
+          {"/d/blue", 0, 0, {QStringLiteral("Blue\n4")}},
+          {"/d/none", 0},
+          {"/d/all-red1", 1, 0, {QStringLiteral("Red")}},
+          {"/d/all-red2", 1, 0, {QStringLiteral("RED")}}});
     AutoSelectSettings settings;
     settings.choice = ByTag;
     settings.tagValue = QStringLiteral("red");
@@ -138,7 +150,12 @@ TEST_F(AutoSelectTest, TagRuleMatchesColourTagsAndPlainTags)
 
 TEST_F(AutoSelectTest, HidingTheRestAndShowingItAgainBeforeTheNextRun)
 {
-    load({{"/d/f/a.jpg", 0}, {"/d/f/a copy.jpg", 0}, {"/d/x/p", 1}, {"/d/y/p", 1}, {"/d/x/q", 2}, {"/d/y/q", 2}});
+    load({{"/d/f/a.jpg", 0},
+          {"/d/f/a copy.jpg", 0},
+          {"/d/x/p", 1},
+          {"/d/y/p", 1},
+          {"/d/x/q", 2},
+          {"/d/y/q", 2}});
     AutoSelectSettings settings;
     settings.hide = true;
     EXPECT_EQ(run(settings), "f/a copy.jpg | f/a.jpg");

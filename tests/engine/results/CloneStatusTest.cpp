@@ -4,17 +4,16 @@
 #include "support/TempTree.h"
 
 #include <QFile>
-
-#include <gtest/gtest.h>
-
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 // An item as the search makes it; with `digested`, its digests as the content mode stores them.
 ResultItem foundItem(const QString &path, bool digested)
@@ -27,7 +26,8 @@ ResultItem foundItem(const QString &path, bool digested)
     if (digested) {
         ReadBuffer buffer;
         std::vector<qint64> storage;
-        const DigestResult result = computeDigest(path.toUtf8().constData(), item.size, false, buffer, storage);
+        const DigestResult result =
+            computeDigest(path.toUtf8().constData(), item.size, false, buffer, storage);
         item.digest = result.digest.value();
         item.set(HasDigest);
         if (result.allocDigest) {
@@ -66,14 +66,17 @@ TEST(CloneStatus, SelectedHardLinkPlainAndVanishedInTheContentMode)
     TempTree tree;
     tree.build({"a.bin:5", "copy.bin:5", "gone.bin:5"});
     tree.hardLink(QStringLiteral("link.bin"), QStringLiteral("a.bin"));
-    ResultModel model = modelOf({tree.path(QStringLiteral("a.bin")), tree.path(QStringLiteral("copy.bin")),
-                                 tree.path(QStringLiteral("link.bin")), tree.path(QStringLiteral("gone.bin"))},
-                                DetectionMode::Content);
+    ResultModel model =
+        modelOf({tree.path(QStringLiteral("a.bin")), tree.path(QStringLiteral("copy.bin")),
+                 tree.path(QStringLiteral("link.bin")), tree.path(QStringLiteral("gone.bin"))},
+                DetectionMode::Content);
     QFile::remove(tree.path(QStringLiteral("gone.bin")));
-    EXPECT_EQ(statuses(model, tree.path(QStringLiteral("a.bin"))), "a.bin=1 copy.bin=0 gone.bin=5 link.bin=2");
+    EXPECT_EQ(statuses(model, tree.path(QStringLiteral("a.bin"))),
+              "a.bin=1 copy.bin=0 gone.bin=5 link.bin=2");
     EXPECT_EQ(model.selectedItems(ResultList::Bottom).size(), 1);
     // A vanished selected item makes every other row "missing".
-    EXPECT_EQ(statuses(model, tree.path(QStringLiteral("gone.bin"))), "a.bin=5 copy.bin=5 gone.bin=1 link.bin=5");
+    EXPECT_EQ(statuses(model, tree.path(QStringLiteral("gone.bin"))),
+              "a.bin=5 copy.bin=5 gone.bin=1 link.bin=5");
     // More than one selected row: no bottom list.
     model.select(ResultList::Top, model.mainItems().mid(0, 2));
     EXPECT_TRUE(model.cloneItems().isEmpty());
@@ -84,9 +87,10 @@ TEST(CloneStatus, OutsideTheContentModeEqualSizesAreDigestedOnDemand)
     TempTree tree;
     tree.build({"a.bin:5", "copy.bin:5", "other.bin:6"});
     tree.file(QStringLiteral("same-size.bin"), QByteArray(5000, 'x'));
-    ResultModel model = modelOf({tree.path(QStringLiteral("a.bin")), tree.path(QStringLiteral("copy.bin")),
-                                 tree.path(QStringLiteral("other.bin")), tree.path(QStringLiteral("same-size.bin"))},
-                                DetectionMode::Duration);
+    ResultModel model =
+        modelOf({tree.path(QStringLiteral("a.bin")), tree.path(QStringLiteral("copy.bin")),
+                 tree.path(QStringLiteral("other.bin")), tree.path(QStringLiteral("same-size.bin"))},
+                DetectionMode::Duration);
     EXPECT_EQ(statuses(model, tree.path(QStringLiteral("a.bin"))),
               "a.bin=1 copy.bin=6 other.bin=0 same-size.bin=0");
     int digested = 0;
@@ -109,12 +113,12 @@ bool reflink(const QString &source, const QString &target)
 
 // Reflinks need a file system that shares extents: a btrfs image on a loop device, beside
 // a file of the temporary tree on another file system.
-class CloneStatusOnBtrfs : public ::testing::Test {
+class CloneStatusOnBtrfs : public ::testing::Test
+{
 protected:
     void SetUp() override
     {
-        if (const QString why = btrfs.mount(); !why.isEmpty())
-            GTEST_SKIP() << why.toStdString();
+        if (const QString why = btrfs.mount(); !why.isEmpty()) GTEST_SKIP() << why.toStdString();
         const QByteArray content = patternBytes(7000, 7);
         tree.file(QStringLiteral("elsewhere.bin"), content);
         for (const char *name : {"a.bin", "copy.bin"}) {

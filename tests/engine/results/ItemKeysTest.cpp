@@ -1,4 +1,5 @@
 #include "results/ItemKeys.h"
+#include "results/PathPrefix.h"
 
 #include <QDateTime>
 
@@ -32,6 +33,51 @@ TEST(ItemKeys, ValuesByNameWithAbsentValuesInvalidAndOrderedFirst)
     day.modified = 86400;
     EXPECT_EQ(itemValue(day, u"modified").toDateTime(), QDateTime(QDate(1970, 1, 2), QTime(0, 0), Qt::UTC));
     EXPECT_EQ(compareItems(day, ResultItem(), u"noSuchKey"), 0);
+}
+
+TEST(ItemKeys, PathKeyPathsAndTheDisplayedFolder)
+{
+    QList<ResultItem> items(2);
+    items[0].path = QStringLiteral("/data/loc/Sub/Photo.Final.JPG");
+    items[1].path = QStringLiteral("/data/loc/.profile");
+    removeCommonPathPrefix({QStringLiteral("/data/loc")}, items);
+    const struct { const char *key, *first, *second; } cases[] = {
+        {"URL.path", "/data/loc/Sub/Photo.Final.JPG", "/data/loc/.profile"},
+        {"URL.path.lastPathComponent", "Photo.Final.JPG", ".profile"},
+        {"URL.path.lastPathComponent.lowercaseString", "photo.final.jpg", ".profile"},
+        {"URL.path.lastPathComponent.stringByDeletingPathExtension.lowercaseString", "photo.final", ".profile"},
+        {"URL.path.stringByDeletingLastPathComponent", "/data/loc/Sub", "/data/loc"},
+        {"extension", "jpg", ""},
+        {"parentPath", "Sub", ""},
+    };
+    for (const auto &c : cases) {
+        const QString key = QString::fromUtf8(c.key);
+        EXPECT_EQ(itemValue(items[0], key).toString().toStdString(), c.first) << c.key;
+        EXPECT_EQ(itemValue(items[1], key).toString().toStdString(), c.second) << c.key;
+        const ItemKey *found = findItemKey(key);
+        ASSERT_NE(found, nullptr);
+        if (found->text) { // the view that sorting reads agrees with the value
+            EXPECT_EQ(found->text(items[0]).toString().toLower(), itemValue(items[0], key).toString().toLower());
+        }
+    }
+}
+
+TEST(ItemKeys, RareValuesLiveOutOfLineAndAreCopiedNotShared)
+{
+    ResultItem item;
+    EXPECT_FALSE(itemValue(item, u"trashedURL").isValid());
+    EXPECT_FALSE(itemValue(item, u"addedDate").isValid());
+    EXPECT_EQ(itemValue(item, u"itemCount").toLongLong(), 0);
+    item.setTrashedURL(QStringLiteral("/home/u/.local/share/Trash/files/a"));
+    item.setItemCount(3);
+    ResultItem copy = item;
+    copy.setTrashedURL({});
+    copy.setAddedDate(86400);
+    EXPECT_EQ(item.trashedURL(), QStringLiteral("/home/u/.local/share/Trash/files/a"));
+    EXPECT_EQ(item.addedDate(), kNoDate);
+    EXPECT_EQ(copy.itemCount(), 3);
+    EXPECT_TRUE(itemValue(copy, u"addedDate").isValid());
+    EXPECT_FALSE(itemValue(copy, u"trashedURL").isValid());
 }
 
 } // namespace

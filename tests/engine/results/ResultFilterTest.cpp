@@ -4,7 +4,8 @@
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 const QDateTime kNow(QDate(2026, 1, 1), QTime(12, 0), Qt::UTC);
 
@@ -18,7 +19,8 @@ ResultItem named(const char *name, QStringList tags = {})
 }
 
 // The names left visible after filtering `items` by name (or another key).
-class FilterTest : public ::testing::Test {
+class FilterTest : public ::testing::Test
+{
 protected:
     void load(const QList<ResultItem> &items)
     {
@@ -78,7 +80,8 @@ TEST_F(FilterTest, RegularExpressionsIgnoreCaseUseUnicodeWordsAndReportErrors)
 TEST_F(FilterTest, TagsAreCutAtTheirLineFeedAndNegationPassesOnAnyOtherValue)
 {
     load({named("red-blue", {QStringLiteral("Red\n6"), QStringLiteral("Blue\n4")}),
-          named("red", {QStringLiteral("Red\n6")}), named("plain-red", {QStringLiteral("red")}), named("untagged")});
+          named("red", {QStringLiteral("Red\n6")}), named("plain-red", {QStringLiteral("red")}),
+          named("untagged")});
     EXPECT_EQ(visible(Equals, "Red", "tagList"), "plain-red red red-blue");
     EXPECT_EQ(visible(Equals + kNegated, "Red", "tagList"), "red-blue");
     EXPECT_EQ(visible(Equals + kNegated, "", "tagList"), "plain-red red red-blue"); // tagged items only
@@ -97,7 +100,7 @@ TEST_F(FilterTest, DateThresholdsInUnitsHideItemsWithoutTheDate)
     FilterCriteria criteria;
     criteria.dateOperator = 1; // older than
     criteria.dateNumber = 2;
-    criteria.dateUnit = 1;     // weeks
+    criteria.dateUnit = 1; // weeks
     filter(model, criteria, kNow);
     EXPECT_EQ(shown(), "old");
     criteria.dateOperator = 0;

@@ -1,14 +1,15 @@
 #include "results/ResultModel.h"
+
 #include "results/StatusLine.h"
 #include "search/NamePatterns.h"
 
 #include <QDateTime>
-
 #include <gtest/gtest.h>
 
 using namespace selfsame;
 
-namespace {
+namespace
+{
 
 ResultItem item(const char *path, int group, double duration = 0.0)
 {
@@ -30,12 +31,14 @@ std::string names(const QList<ResultItem *> &items)
 ResultItem *byName(ResultModel &model, const char *name)
 {
     for (ResultItem &i : model.allItems())
-        if (i.name() == QLatin1String(name))
-            return &i;
+        if (i.name() == QLatin1String(name)) return &i;
     return nullptr;
 }
 
-std::string lookUp(ResultModel &model, const char *name) { return names(model.duplicatesFor(*byName(model, name))); }
+std::string lookUp(ResultModel &model, const char *name)
+{
+    return names(model.duplicatesFor(*byName(model, name)));
+}
 
 SearchRequest requestFor(DetectionMode mode)
 {
@@ -89,15 +92,17 @@ TEST(ResultModelLookUp, FileNamesCompareWithoutCommonSuffixesAndExtensions)
     SearchRequest request = requestFor(DetectionMode::FileName);
     request.filenameIgnoreCommonSuffixRegexes = compileCommonSuffixes(QString());
     ResultModel model;
-    model.setResults({item("/m/a/Report copy.txt", 0), item("/m/b/report.TXT", 0), item("/m/c/report 2.txt", 0),
-                      item("/m/d/report.pdf", 1), item("/m/e/reporting.txt", 2)},
+    model.setResults({item("/m/a/Report copy.txt", 0), item("/m/b/report.TXT", 0),
+                      item("/m/c/report 2.txt", 0), item("/m/d/report.pdf", 1),
+                      item("/m/e/reporting.txt", 2)},
                      request);
     EXPECT_EQ(lookUp(model, "report.TXT"), "Report copy.txt report.TXT report 2.txt");
     EXPECT_EQ(lookUp(model, "reporting.txt"), "reporting.txt");
 
     request.filenameIgnoreExtension = true;
-    model.setResults({item("/m/a/Report copy.txt", 0), item("/m/d/report.pdf", 0), item("/m/e/reporting.txt", 1)},
-                     request);
+    model.setResults(
+        {item("/m/a/Report copy.txt", 0), item("/m/d/report.pdf", 0), item("/m/e/reporting.txt", 1)},
+        request);
     EXPECT_EQ(lookUp(model, "report.pdf"), "Report copy.txt report.pdf");
 
     request.filenameIgnoreCommonSuffixRegexes.reset();
@@ -139,7 +144,7 @@ TEST(ResultModelSort, SecondaryKeysStableOrderAndSelectionByIdentity)
 {
     ResultModel model;
     QList<ResultItem> items = {item("/m/x/b10.jpg", 0), item("/m/y/B9.jpg", 0), item("/m/x/a.txt", 1),
-                               item("/m/y/a.txt", 1), item("/m/x/noext", 2), item("/m/x/sub", 2)};
+                               item("/m/y/a.txt", 1),   item("/m/x/noext", 2),  item("/m/x/sub", 2)};
     items[4].size = 5;
     items[5].set(IsFolder);
     for (int i = 0; i < 4; ++i)
@@ -150,7 +155,8 @@ TEST(ResultModelSort, SecondaryKeysStableOrderAndSelectionByIdentity)
 
     ResultItem *chosen = byName(model, "noext");
     model.select(ResultList::Top, {byName(model, "b10.jpg"), chosen});
-    model.setSortDescriptor(ResultList::Top, SortDescriptor{QStringLiteral("URL.path.lastPathComponent.lowercaseString")});
+    model.setSortDescriptor(ResultList::Top,
+                            SortDescriptor{QStringLiteral("URL.path.lastPathComponent.lowercaseString")});
     EXPECT_FALSE(model.showGroups());
     // Natural order of names, then the folder in the same direction.
     EXPECT_EQ(names(model.mainItems()), "a.txt a.txt B9.jpg b10.jpg noext sub");
@@ -158,7 +164,8 @@ TEST(ResultModelSort, SecondaryKeysStableOrderAndSelectionByIdentity)
     EXPECT_EQ(model.selectedRows(ResultList::Top), (QList<qsizetype>{3, 4}));
     EXPECT_EQ(model.selectedItems(ResultList::Top), (QList<ResultItem *>{byName(model, "b10.jpg"), chosen}));
 
-    model.setSortDescriptor(ResultList::Top, SortDescriptor{QStringLiteral("URL.path.lastPathComponent.lowercaseString"), false});
+    model.setSortDescriptor(
+        ResultList::Top, SortDescriptor{QStringLiteral("URL.path.lastPathComponent.lowercaseString"), false});
     EXPECT_EQ(model.mainItems()[0]->name().toStdString(), "sub");
     EXPECT_EQ(model.mainItems()[4]->path.toStdString(), "/m/y/a.txt");
 
@@ -173,7 +180,8 @@ TEST(ResultModelSort, SecondaryKeysStableOrderAndSelectionByIdentity)
 TEST(ResultModelSort, GroupedRowsAlternateColoursPerGroup)
 {
     ResultModel model;
-    QList<ResultItem> items = {item("/m/a", 0), item("/m/b", 0), item("/m/c", 1), item("/m/d", 1), item("/m/e", 2)};
+    QList<ResultItem> items = {item("/m/a", 0), item("/m/b", 0), item("/m/c", 1), item("/m/d", 1),
+                               item("/m/e", 2)};
     for (ResultItem &i : items)
         i.dupes = i.group == 2 ? 1 : 2;
     items[2].duration = 5;
@@ -201,7 +209,8 @@ TEST(ResultModelStatus, TextsCountRowsSelectionHiddenAndBytes)
     model.setResults(items, requestFor(DetectionMode::Duration));
     EXPECT_EQ(statusLine(model, ResultList::Bottom).text.toStdString(), "1,500 items");
     model.select(ResultList::Top, {byName(model, "f1"), byName(model, "f7")});
-    EXPECT_EQ(statusLine(model, ResultList::Top).text.toStdString(), "2 items selected out of 1,500 (2.0 MB on disk)");
+    EXPECT_EQ(statusLine(model, ResultList::Top).text.toStdString(),
+              "2 items selected out of 1,500 (2.0 MB on disk)");
     model.select(ResultList::Top, {byName(model, "f1")});
     const StatusLine one = statusLine(model, ResultList::Bottom);
     EXPECT_EQ(one.text.toStdString(), "1,500 duplicate items"); // every duration is 0: one range
@@ -217,7 +226,8 @@ TEST(ResultModelStatus, TextsCountRowsSelectionHiddenAndBytes)
 TEST(ResultModelHiding, UnhideDoublesTheLookUpArrayUntilItsNextRebuild)
 {
     ResultModel model;
-    model.setResults({item("/m/a", 0, 1), item("/m/b", 0, 1), item("/m/c", 0, 1)}, requestFor(DetectionMode::Duration));
+    model.setResults({item("/m/a", 0, 1), item("/m/b", 0, 1), item("/m/c", 0, 1)},
+                     requestFor(DetectionMode::Duration));
     EXPECT_TRUE(model.canAutomaticallySelect());
     EXPECT_FALSE(model.canUnhide());
     ResultItem *a = byName(model, "a");
