@@ -1,0 +1,156 @@
+#include "FileActions.h"
+
+#include "fileops/CloneAlerts.h"
+#include "fileops/CloneWorker.h"
+#include "fileops/DeleteActions.h"
+#include "fileops/Replacement.h"
+#include "format/ByteSize.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QHash>
+
+namespace selfsame::cli
+{
+
+namespace
+{
+
+QString tr(const char *text)
+{
+    return QCoreApplication::translate("FileActions", text);
+}
+
+QString modeName(int mode)
+{
+    switch (mode) {
+    case ReplaceWithAlias:
+        return tr("an alias");
+    case ReplaceWithSymbolicLink:
+        return tr("a symbolic link");
+    case ReplaceWithRelativeSymbolicLink:
+        return tr("a relative symbolic link");
+    case ReplaceWithHardLink:
+        return tr("a hard link");
+    default:
+        return tr("a clone");
+    }
+}
+
+// Groups whose every copy is selected are left alone: one copy always stays.
+QList<ActionGroup> safeGroups(const QList<ActionGroup> &groups, const Writer &err, int *refused)
+{
+    QList<ActionGroup> kept;
+    for (const ActionGroup &g : groups) {
+        if (g.selected.isEmpty()) continue;
+        if (!g.reference || g.selected.size() >= g.members.size() || g.selected.contains(g.reference)) {
+            ++*refused;
+            err(tr("refused: %1: every copy of its group is selected\n")
+                    .arg(g.selected.first()->path)
+                    .toUtf8());
+            continue;
+        }
+        kept.append(g);
+    }
+    return kept;
+}
+
+int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
+               const Writer &err, int failures)
+{
+    const bool trash = options.action == FileAction::Trash;
+    const int mode = options.replaceWith;
+    int done = 0;
+    for (const ActionGroup &g : groups) {
+        const QString replacement =
+            mode ? tr(", replaced by %1 to %2").arg(modeName(mode), g.reference->path) : QString();
+        if (!options.perform) {
+            for (const ResultItem *item : g.selected) {
+                out((trash ? tr("would move to the trash: %1%2\n") : tr("would delete: %1%2\n"))
+                        .arg(item->path, replacement)
+                        .toUtf8());
+                ++done;
+            }
+            continue;
+        }
+        const DeleteReport report = performDeleteAction(trash ? DeleteKind::Trash : DeleteKind::Delete, mode,
+                                                        g.reference, g.selected);
+        for (const DeleteOutcome &o : report.outcomes) {
+            if (o.status.isEmpty()) {
+                ++failures;
+                err(tr("failed: %1: %2\n").arg(o.item->path, o.error).toUtf8());
+                continue;
+            }
+            ++done;
+            const QString where =
+                o.item->trashedURL.isEmpty() ? QString() : tr(" (now %1)").arg(o.item->trashedURL);
+            out((trash ? tr("moved to the trash: %1%2%3\n") : tr("deleted: %1%2%3\n"))
+                    .arg(o.item->path, replacement, where)
+                    .toUtf8());
+            if (!o.error.isEmpty()) err(tr("warning: %1\n").arg(o.error).toUtf8());
+        }
+    }
+    const QString summary = options.perform
+                                ? tr("%1 done, %2 failed\n")
+                                : tr("%1 would be done, %2 refused (dry run: add --yes to act)\n");
+    err(summary.arg(done).arg(failures).toUtf8());
+    return failures == 0 ? 0 : 1;
+}
+
+int runClones(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
+              const Writer &err, int failures)
+{
+    // Each group's kept copy first: among equal sizes the worker takes the first as reference.
+    QList<ResultItem *> targets;
+    QHash<const ResultItem *, const ActionGroup *> groupOf;
+    for (const ActionGroup &g : groups) {
+        targets << g.reference << g.selected;
+        for (ResultItem *member : g.members)
+            groupOf.insert(member, &g);
+    }
+    CloneWorker worker(targets, targets, [&](const ResultItem &item) {
+        const ActionGroup *g = groupOf.value(&item);
+        return g ? g->members : QList<ResultItem *>{};
+    });
+    worker.planPath = options.planPath;
+    CloneCounts counts;
+    worker.perform(false, true, true, &counts);
+    if (!options.planPath.isEmpty())
+        err(tr("plan written to %1\n").arg(options.planPath).toUtf8());
+    else if (QFile plan(worker.logFilePath()); !options.perform && plan.open(QIODevice::ReadOnly))
+        out(plan.readAll());
+    if (counts.replaceDuplicates == 0 || counts.byClones == 0) {
+        err(tr("%1\n").arg(noClonableFileAlert().message).toUtf8());
+        return 1;
+    }
+    err(tr("%1\n").arg(cloneConfirmationAlert(counts).message).toUtf8());
+    if (!options.perform) {
+        err(tr("dry run: add --yes to clone\n").toUtf8());
+        return failures == 0 ? 0 : 1;
+    }
+    worker.perform(true, true, true);
+    for (const ResultItem *item : worker.cloned())
+        out(tr("cloned: %1\n").arg(item->path).toUtf8());
+    for (const CloneFailure &f : worker.failures())
+        err(tr("failed: %1: %2\n").arg(f.item->path, f.reason).toUtf8());
+    failures += int(worker.failures().size());
+    err(tr("%1 cloned, %2 failed\n").arg(worker.cloned().size()).arg(failures).toUtf8());
+    return failures == 0 ? 0 : 1;
+}
+
+} // namespace
+
+int runFileActions(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
+                   const Writer &err)
+{
+    int refused = 0;
+    const QList<ActionGroup> safe = safeGroups(groups, err, &refused);
+    if (options.action == FileAction::None && options.replaceWith == ReplaceWithClone)
+        return runClones(options, safe, out, err, refused);
+    FileActionOptions deleting = options;
+    if (deleting.action == FileAction::None)
+        deleting.action = FileAction::Delete; // a link replacement alone deletes the file it replaces
+    return runDeletes(deleting, safe, out, err, refused);
+}
+
+} // namespace selfsame::cli

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "results/ResultItem.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QString>
+#include <functional>
+
+namespace selfsame::cli
+{
+
+enum class FileAction { None, Trash, Delete };
+
+struct FileActionOptions {
+    FileAction action = FileAction::None;
+    int replaceWith = 0;  // ReplaceWithMode
+    bool perform = false; // false: only say what would be done
+    QString planPath;     // where the clone plan goes (replace by clones)
+};
+
+// One duplicate group: the copy the selection rule keeps, and the copies it selected.
+struct ActionGroup {
+    ResultItem *reference = nullptr;
+    QList<ResultItem *> selected;
+    QList<ResultItem *> members; // the whole group, to refuse acting on every copy
+};
+
+using Writer = std::function<void(const QByteArray &)>;
+
+// Acts on the selected copies of each group: moves them to the trash or deletes them, with
+// the replacement of `replaceWith` pointing at the group's kept copy; with a clone mode and
+// no action, replaces them by clones of it in place. Prints one line per file and a summary.
+// Returns 0 when everything succeeded (or would), 1 when anything failed.
+int runFileActions(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
+                   const Writer &err);
+
+} // namespace selfsame::cli
