@@ -1,5 +1,6 @@
 #include "FileActions.h"
 
+#include "FileActionOptions.h"
 #include "fileops/Replacement.h"
 #include "support/FileItems.h"
 #include "support/MountedVolume.h"
@@ -115,4 +116,40 @@ TEST(FileActions, ClonesInPlaceFromEachGroupsKeptCopyAfterAPlan)
     for (const ActionGroup &g : groups)
         for (const ResultItem *d : g.selected)
             EXPECT_EQ(allocDigestOf(d->path), allocDigestOf(g.reference->path));
+}
+
+TEST(FileActionOptions, AreTakenOutOfTheCommandLineAndActOnlyWithYes)
+{
+    QStringList arguments{QStringLiteral("--trash"),    QStringLiteral("--replace-with=relative-symlink"),
+                          QStringLiteral("--min-size"), QStringLiteral("10"),
+                          QStringLiteral("/photos"),    QStringLiteral("--yes"),
+                          QStringLiteral("--"),         QStringLiteral("--delete")};
+    FileActionOptions options;
+    bool given = false;
+    EXPECT_EQ(takeFileActionOptions(arguments, &options, &given), QString());
+    EXPECT_TRUE(given);
+    EXPECT_EQ(options.action, FileAction::Trash);
+    EXPECT_EQ(options.replaceWith, ReplaceWithRelativeSymbolicLink);
+    EXPECT_TRUE(options.perform);
+    EXPECT_EQ(arguments,
+              (QStringList{QStringLiteral("--min-size"), QStringLiteral("10"), QStringLiteral("/photos"),
+                           QStringLiteral("--"), QStringLiteral("--delete")}));
+
+    auto errorFor = [](QStringList line) {
+        FileActionOptions o;
+        bool g = false;
+        return takeFileActionOptions(line, &o, &g);
+    };
+    EXPECT_FALSE(errorFor({QStringLiteral("--trash"), QStringLiteral("--delete")}).isEmpty());
+    EXPECT_FALSE(errorFor({QStringLiteral("--replace-with"), QStringLiteral("copy")}).isEmpty());
+    EXPECT_FALSE(errorFor({QStringLiteral("--yes")}).isEmpty());
+    EXPECT_FALSE(
+        errorFor({QStringLiteral("--delete"), QStringLiteral("--plan"), QStringLiteral("p")}).isEmpty());
+    QStringList dry{QStringLiteral("--replace-with"), QStringLiteral("clone"), QStringLiteral("--yes"),
+                    QStringLiteral("--dry-run")};
+    FileActionOptions dryOptions;
+    bool g = false;
+    ASSERT_EQ(takeFileActionOptions(dry, &dryOptions, &g), QString());
+    EXPECT_EQ(dryOptions.replaceWith, ReplaceWithClone);
+    EXPECT_FALSE(dryOptions.perform) << "--dry-run wins over --yes";
 }
