@@ -90,8 +90,7 @@ QString fileActionUsageText()
               "                             a link mode deletes the copy and puts the link at its path\n"
               "  --plan FILE                write the cloning plan there (--replace-with clone alone)\n"
               "  --yes                      act; without it the actions are only shown (--dry-run)\n"
-              "Put back what went to the trash:\n"
-              "  selfsame-cli put-back FILE...\n");
+              "Exit status with an action: 0 all done (or would be), 1 anything failed or was refused.\n");
 }
 
 } // namespace selfsame::cli

@@ -83,7 +83,7 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
             }
             ++done;
             const QString where =
-                o.item->trashedURL.isEmpty() ? QString() : tr(" (now %1)").arg(o.item->trashedURL);
+                o.item->trashedURL().isEmpty() ? QString() : tr(" (now %1)").arg(o.item->trashedURL());
             out((trash ? tr("moved to the trash: %1%2%3\n") : tr("deleted: %1%2%3\n"))
                     .arg(o.item->path, replacement, where)
                     .toUtf8());
@@ -139,6 +139,28 @@ int runClones(const FileActionOptions &options, const QList<ActionGroup> &groups
 }
 
 } // namespace
+
+QList<ActionGroup> actionGroupsFor(const ResultModel &model, const AutoSelection &selection)
+{
+    QList<ActionGroup> groups;
+    QHash<int, qsizetype> indexOfGroup;
+    for (ResultItem *item : selection.selected()) {
+        auto found = indexOfGroup.constFind(item->group);
+        if (found == indexOfGroup.constEnd()) {
+            ActionGroup group;
+            group.members = model.duplicatesFor(*item);
+            for (ResultItem *member : group.members)
+                if (!group.reference && selection.isSkipped(member)) group.reference = member;
+            for (ResultItem *member : group.members)
+                if (!group.reference && !selection.isSelected(member) && !isGone(*member))
+                    group.reference = member;
+            found = indexOfGroup.insert(item->group, groups.size());
+            groups.append(group);
+        }
+        groups[*found].selected.append(item);
+    }
+    return groups;
+}
 
 int runFileActions(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
                    const Writer &err)

@@ -1,6 +1,8 @@
 #pragma once
 
+#include "autoselect/AutoSelectRules.h"
 #include "results/ResultItem.h"
+#include "results/ResultModel.h"
 
 #include <QByteArray>
 #include <QList>
@@ -25,6 +27,10 @@ struct ActionGroup {
     QList<ResultItem *> selected;
     QList<ResultItem *> members; // the whole group, to refuse acting on every copy
 };
+
+// The groups of the copies a rule selected, each with its kept copy as the reference (else
+// the first copy neither selected nor gone), in the order of the selection.
+QList<ActionGroup> actionGroupsFor(const ResultModel &model, const AutoSelection &selection);
 
 using Writer = std::function<void(const QByteArray &)>;
 

@@ -2,6 +2,8 @@
 
 #include "AttributeListing.h"
 #include "CliOptions.h"
+#include "FileActionOptions.h"
+#include "FileActions.h"
 #include "PutBackCommand.h"
 #include "ResultOutput.h"
 #include "attributes/SpotlightAttributesManager.h"
@@ -58,11 +60,25 @@ int main(int argc, char *argv[])
         return runPutBack(app.arguments().mid(2), [](const QByteArray &b) { writeAll(stdout, b); },
                           [](const QByteArray &b) { writeAll(stderr, b); });
 
-    const ParseResult parsed = parseCommandLine(app.arguments().mid(1));
+    QStringList arguments = app.arguments().mid(1);
+    FileActionOptions actionOptions;
+    bool acting = false;
+    if (const QString error = takeFileActionOptions(arguments, &actionOptions, &acting); !error.isEmpty()) {
+        writeAll(stderr, QStringLiteral("selfsame-cli: %1\n").arg(error).toUtf8());
+        return 2;
+    }
+    const ParseResult parsed = parseCommandLine(arguments);
     const CliOptions &options = parsed.options;
     if (options.help) {
-        writeAll(stdout, usageText().toUtf8());
+        writeAll(stdout, (usageText() + u'\n' + fileActionUsageText()).toUtf8());
         return 0;
+    }
+    if (acting && !options.select && parsed.error.isEmpty()) {
+        writeAll(stderr, QCoreApplication::translate("selfsame-cli", "selfsame-cli: --trash, --delete and "
+                                                                     "--replace-with act on the copies that "
+                                                                     "--select selects\n")
+                             .toUtf8());
+        return 2;
     }
     if (options.version) {
         writeAll(stdout, "selfsame-cli " SELFSAME_VERSION "\n");
@@ -108,6 +124,13 @@ int main(int argc, char *argv[])
         if (options.select) {
             model.setResults(search.mainItems(), search.request());
             selected = performAutomaticallySelect(model, *options.select);
+        }
+        if (acting && selected && !search.aborted()) {
+            exitCode = runFileActions(actionOptions, actionGroupsFor(model, selected->selection),
+                                      [](const QByteArray &bytes) { writeAll(stdout, bytes); },
+                                      [](const QByteArray &bytes) { writeAll(stderr, bytes); });
+            QCoreApplication::exit(exitCode);
+            return;
         }
         const QList<ResultItem> &items = options.select ? model.allItems() : search.mainItems();
         writeResults(items, options.format, search.statistics(),

@@ -7,8 +7,11 @@
 #include "support/TempTree.h"
 #include "support/TrashHome.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
+#include <QProcess>
+#include <QProcessEnvironment>
 #include <gtest/gtest.h>
 
 using namespace selfsame;
@@ -152,4 +155,41 @@ TEST(FileActionOptions, AreTakenOutOfTheCommandLineAndActOnlyWithYes)
     ASSERT_EQ(takeFileActionOptions(dry, &dryOptions, &g), QString());
     EXPECT_EQ(dryOptions.replaceWith, ReplaceWithClone);
     EXPECT_FALSE(dryOptions.perform) << "--dry-run wins over --yes";
+}
+
+TEST(FileActions, SelfsameCliActsOnTheCopiesItsRuleSelects)
+{
+    static int argc = 1;
+    static char name[] = "cli-tests", *argv[] = {name, nullptr};
+    if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
+    TrashHome home;
+    TempTree tree;
+    const QString kept = tree.file(QStringLiteral("keep/photo.jpg"), patternBytes(5000, 1));
+    const QString copy = tree.file(QStringLiteral("old/photo.jpg"), patternBytes(5000, 1));
+    auto run = [&](const QStringList &arguments) {
+        QProcess process;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("HOME"), home.path());
+        env.insert(QStringLiteral("XDG_DATA_HOME"), home.path(QStringLiteral("data")));
+        process.setProcessEnvironment(env);
+        process.start(QStringLiteral(SELFSAME_CLI_PATH), arguments);
+        EXPECT_TRUE(process.waitForFinished(60000));
+        return std::make_pair(process.exitCode(), process.readAllStandardOutput());
+    };
+    const QStringList select{QStringLiteral("--select"), QStringLiteral("folder"),
+                             tree.path(QStringLiteral("old")), tree.path()};
+    const auto [dryCode, dryOut] =
+        run(select + QStringList{QStringLiteral("--trash"), QStringLiteral("--replace-with"),
+                                 QStringLiteral("symlink")});
+    EXPECT_EQ(dryCode, 0);
+    EXPECT_TRUE(dryOut.contains("would move to the trash: " + copy.toUtf8())) << dryOut.toStdString();
+    EXPECT_EQ(readLinkText(copy), QString());
+
+    const auto [code, out] =
+        run(select + QStringList{QStringLiteral("--trash"), QStringLiteral("--replace-with"),
+                                 QStringLiteral("symlink"), QStringLiteral("--yes")});
+    EXPECT_EQ(code, 0) << out.toStdString();
+    EXPECT_EQ(readLinkText(copy), kept);
+    EXPECT_EQ(readFile(home.trash() + QStringLiteral("/files/photo.jpg")), patternBytes(5000, 1));
+    EXPECT_EQ(run({QStringLiteral("--delete"), tree.path()}).first, 2) << "an action needs --select";
 }
