@@ -216,24 +216,8 @@ void lockXmpToolkit(void *mutex, bool lock)
 
 } // namespace
 
-const QSet<QString> &imageKeys()
-{
-    static const QSet<QString> keys = {"kMDItemLatitude",         "kMDItemLongitude",
-                                       "kMDItemAltitude",         "kMDItemContentCreationDate",
-                                       "kMDItemPixelWidth",       "kMDItemPixelHeight",
-                                       "kMDItemOrientation",      "kMDItemAcquisitionMake",
-                                       "kMDItemAcquisitionModel", "kMDItemExposureTimeSeconds",
-                                       "kMDItemFNumber",          "kMDItemFocalLength",
-                                       "kMDItemISOSpeed",         "kMDItemFlashOnOff",
-                                       "kMDItemLensModel",        "kMDItemTitle",
-                                       "kMDItemDescription",      "kMDItemHeadline",
-                                       "kMDItemKeywords",         "kMDItemCopyright",
-                                       "kMDItemCreator",          "kMDItemIdentifier",
-                                       "kMDItemOriginalSource"};
-    return keys;
-}
 
-void readImageValues(const QByteArray &localPath, MetadataValues &values)
+void readImageValuesNow(const QByteArray &localPath, MetadataValues &values)
 {
     static std::once_flag setUp;
     std::call_once(setUp, [] {

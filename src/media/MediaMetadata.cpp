@@ -229,32 +229,8 @@ void readStreams(const AVFormatContext *format, double duration, int64_t fileSiz
 
 } // namespace
 
-const QSet<QString> &mediaKeys()
-{
-    static const QSet<QString> keys = {"kMDItemDurationSeconds",
-                                       "kMDItemTotalBitRate",
-                                       "kMDItemCodecs",
-                                       "kMDItemAudioBitRate",
-                                       "kMDItemVideoBitRate",
-                                       "kMDItemAudioSampleRate",
-                                       "kMDItemAudioChannelCount",
-                                       "kMDItemPixelWidth",
-                                       "kMDItemPixelHeight",
-                                       "kMDItemTitle",
-                                       "kMDItemAlbum",
-                                       "kMDItemAuthors",
-                                       "kMDItemComposer",
-                                       "kMDItemMusicalGenre",
-                                       "kMDItemRecordingYear",
-                                       "kMDItemRecordingDate",
-                                       "kMDItemContentCreationDate",
-                                       "kMDItemAudioTrackNumber",
-                                       "kMDItemLatitude",
-                                       "kMDItemLongitude"};
-    return keys;
-}
 
-void readMediaValues(const QByteArray &localPath, MetadataValues &values)
+void readMediaValuesNow(const QByteArray &localPath, MetadataValues &values)
 {
     static std::once_flag quiet;
     std::call_once(quiet, [] { av_log_set_level(AV_LOG_QUIET); });

@@ -1,0 +1,109 @@
+#include "attributes/MetadataSources.h"
+
+#include <QtGlobal>
+
+#include <dlfcn.h>
+#include <sys/stat.h>
+
+namespace selfsame
+{
+
+const QSet<QString> &mediaKeys()
+{
+    static const QSet<QString> keys = {"kMDItemDurationSeconds",
+                                       "kMDItemTotalBitRate",
+                                       "kMDItemCodecs",
+                                       "kMDItemAudioBitRate",
+                                       "kMDItemVideoBitRate",
+                                       "kMDItemAudioSampleRate",
+                                       "kMDItemAudioChannelCount",
+                                       "kMDItemPixelWidth",
+                                       "kMDItemPixelHeight",
+                                       "kMDItemTitle",
+                                       "kMDItemAlbum",
+                                       "kMDItemAuthors",
+                                       "kMDItemComposer",
+                                       "kMDItemMusicalGenre",
+                                       "kMDItemRecordingYear",
+                                       "kMDItemRecordingDate",
+                                       "kMDItemContentCreationDate",
+                                       "kMDItemAudioTrackNumber",
+                                       "kMDItemLatitude",
+                                       "kMDItemLongitude"};
+    return keys;
+}
+
+const QSet<QString> &imageKeys()
+{
+    static const QSet<QString> keys = {"kMDItemLatitude",         "kMDItemLongitude",
+                                       "kMDItemAltitude",         "kMDItemContentCreationDate",
+                                       "kMDItemPixelWidth",       "kMDItemPixelHeight",
+                                       "kMDItemOrientation",      "kMDItemAcquisitionMake",
+                                       "kMDItemAcquisitionModel", "kMDItemExposureTimeSeconds",
+                                       "kMDItemFNumber",          "kMDItemFocalLength",
+                                       "kMDItemISOSpeed",         "kMDItemFlashOnOff",
+                                       "kMDItemLensModel",        "kMDItemTitle",
+                                       "kMDItemDescription",      "kMDItemHeadline",
+                                       "kMDItemKeywords",         "kMDItemCopyright",
+                                       "kMDItemCreator",          "kMDItemIdentifier",
+                                       "kMDItemOriginalSource"};
+    return keys;
+}
+
+namespace
+{
+
+using ReadValues = void (*)(const QByteArray &, MetadataValues &);
+
+struct MediaModule {
+    ReadValues media = nullptr;
+    ReadValues image = nullptr;
+};
+
+// The media libraries and the hundred-odd libraries behind them cost tens of megabytes the
+// moment a process maps them, so they live in a module loaded by the first search that
+// reads audio, video or image metadata, never by a content search.
+MediaModule loadMediaModule()
+{
+    const char *candidates[] = {SELFSAME_MEDIA_MODULE_BUILT, SELFSAME_MEDIA_MODULE_INSTALLED};
+    for (const char *path : candidates) {
+        struct stat st;
+        if (stat(path, &st) != 0)
+            continue;
+        void *handle = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+        if (!handle) {
+            qWarning("Selfsame: cannot load %s: %s", path, dlerror());
+            continue;
+        }
+        MediaModule module;
+        module.media = reinterpret_cast<ReadValues>(dlsym(handle, "selfsameReadMediaValues"));
+        module.image = reinterpret_cast<ReadValues>(dlsym(handle, "selfsameReadImageValues"));
+        if (module.media && module.image)
+            return module;
+        dlclose(handle);
+    }
+    qWarning("Selfsame: the media metadata module is missing; audio, video and image values are not read");
+    return {};
+}
+
+const MediaModule &mediaModule()
+{
+    static const MediaModule module = loadMediaModule();
+    return module;
+}
+
+} // namespace
+
+void readMediaValues(const QByteArray &localPath, MetadataValues &values)
+{
+    if (const ReadValues read = mediaModule().media)
+        read(localPath, values);
+}
+
+void readImageValues(const QByteArray &localPath, MetadataValues &values)
+{
+    if (const ReadValues read = mediaModule().image)
+        read(localPath, values);
+}
+
+} // namespace selfsame
