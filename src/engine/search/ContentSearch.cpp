@@ -301,17 +301,11 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
     for (const Member &member : members) {
         ContentNode &node = m_nodes[member.node];
         const FileEntry &entry = m_entries[node.entry];
-        ResultItem item;
-        const std::string path = m_entries.path(entry);
-        item.path = QString::fromStdString(path);
-        item.size = node.size;
+        ResultItem item = m_entries.resultItem(entry);
+        item.size = node.size; // a compared folder's sums
         item.physicalSize = node.physicalSize;
-        item.modified = entry.modified;
-        item.lastUsed = entry.lastUsed;
-        item.attributes = entry.attributes;
-        item.created = entry.created;
         if (node.has(IsFolder))
-            item.tagList = readUserTags(path.c_str());
+            item.tagList = readUserTags(item.path.toUtf8().constData());
         else if (const auto tags = m_tags.find(member.node); tags != m_tags.end())
             item.tagList = tags->second; // read by the hasher while the file was open
         item.digest = node.has(HasDigest) ? node.digest() : Digest{};
@@ -320,8 +314,6 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
         item.group = member.group;
         item.dupes = member.dupes;
         item.flags = node.flags;
-        item.device = entry.device;
-        item.inode = entry.inode;
         node.releaseDigests();
         items.push_back(std::move(item));
     }

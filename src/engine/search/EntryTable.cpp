@@ -62,6 +62,22 @@ std::string EntryTable::path(const FileEntry &e) const
     return result;
 }
 
+ResultItem EntryTable::resultItem(const FileEntry &e) const
+{
+    ResultItem item;
+    item.path = qPath(e);
+    item.size = e.size;
+    item.physicalSize = e.physicalSize;
+    item.modified = e.modified;
+    item.lastUsed = e.lastUsed;
+    item.attributes = e.attributes;
+    item.created = e.created;
+    item.flags = e.flags;
+    item.device = e.device;
+    item.inode = e.inode;
+    return item;
+}
+
 namespace {
 
 // The parts of a path, folder then "/" then name, walked as one string.

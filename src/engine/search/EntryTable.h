@@ -71,6 +71,9 @@ public:
     std::string path(const FileEntry &e) const;
     QString qPath(const FileEntry &e) const { return QString::fromStdString(path(e)); }
 
+    // A result item with what enumeration recorded of the entry: path, sizes, dates, flags.
+    ResultItem resultItem(const FileEntry &e) const;
+
     // Compares the full paths of two entries as byte strings without building them.
     int comparePaths(const FileEntry &a, const FileEntry &b) const;
 

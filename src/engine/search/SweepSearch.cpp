@@ -155,19 +155,8 @@ std::vector<std::size_t> SweepSearch::sortedByAttribute(std::vector<SweepRun> &r
 ResultItem SweepSearch::makeItem(std::size_t index) const
 {
     const FileEntry &entry = m_entries[index];
-    ResultItem item;
-    const std::string path = m_entries.path(entry);
-    item.path = QString::fromStdString(path);
-    item.size = entry.size;
-    item.physicalSize = entry.physicalSize;
-    item.modified = entry.modified;
-    item.lastUsed = entry.lastUsed;
-    item.attributes = entry.attributes;
-    item.created = entry.created;
-    item.tagList = readUserTags(path.c_str());
-    item.flags = entry.flags;
-    item.device = entry.device;
-    item.inode = entry.inode;
+    ResultItem item = m_entries.resultItem(entry);
+    item.tagList = readUserTags(item.path.toUtf8().constData());
     if (m_request.detectionMode != DetectionMode::FileName) {
         const ItemMetadata &metadata = m_entries.metadata(index);
         item.duration = metadata.duration;
