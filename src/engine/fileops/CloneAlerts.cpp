@@ -16,11 +16,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("CloneAlerts", text);
 }
 
-QString count(qint64 n)
-{
-    return IntegerFormatter::shared().stringForIntegerValue(n);
-}
-
 } // namespace
 
 Alert compareFoldersCloneAlert()
@@ -56,13 +51,13 @@ Alert cloneConfirmationAlert(const CloneCounts &c)
     else
         what = (c.onAllFoundFiles ? tr("%1 duplicates among all found files")
                                   : tr("%1 duplicates among the selected files"))
-                   .arg(count(c.replaceDuplicates));
+                   .arg(formatCount(c.replaceDuplicates));
     const QString clones = c.replaceDuplicates == 1 ? tr("a clone") : tr("clones");
     QString of;
     if (c.byClones == 1)
         of = c.singleFilenameToClone.isEmpty() ? tr("1 file") : tr("“%1”").arg(c.singleFilenameToClone);
     else
-        of = tr("%1 different files").arg(count(c.byClones));
+        of = tr("%1 different files").arg(formatCount(c.byClones));
     return Alert{
         tr("Do you want to replace %1, by %2 of %3? %4 on disk will be reclaimed.")
             .arg(what, clones, of, formatByteCount(c.ofPhysicalSize)),
@@ -78,7 +73,7 @@ Alert writeProtectedCloneAlert(int n)
     Alert alert{tr("Warning: write-protected files"),
                 tr("%1 files to be cloned are write-protected. As you own these files, you may bypass "
                    "write-protection.\n\nDo you want to clone them anyway?")
-                    .arg(count(n)),
+                    .arg(formatCount(n)),
                 {tr("Skip Them"), tr("Clone Them"), tr("Cancel")},
                 0,
                 2};
@@ -92,7 +87,7 @@ Alert otherOwnerCloneAlert(int n)
         tr("Warning: other file owner"),
         tr("%1 files are owned by another user account. File permissions allow you to modify them, but "
            "replacing them by clones will set you as the file owner.\n\nDo you want to clone them anyway?")
-            .arg(count(n)),
+            .arg(formatCount(n)),
         {tr("Skip Them"), tr("Clone and Change Owner"), tr("Cancel")},
         0,
         2};

@@ -20,11 +20,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("DeleteChecks", text);
 }
 
-QString count(qint64 n)
-{
-    return IntegerFormatter::shared().stringForIntegerValue(n);
-}
-
 constexpr long kXfsMagic = 0x58465342;
 constexpr long kBcachefsMagic = 0xca451a4e;
 constexpr long kZfsMagic = 0x2fc12fc1;
@@ -132,7 +127,7 @@ std::optional<Alert> postDeleteActionFailedForCount(int failures, int mode, cons
     const QString object =
         failures == 1
             ? tr("“%1” in “%2”").arg(displayName(lastReference), displayName(parentFolder(lastDeleted)))
-            : tr("%1 files").arg(count(failures));
+            : tr("%1 files").arg(formatCount(failures));
     QString action;
     QString note;
     switch (mode) {
@@ -162,7 +157,7 @@ std::optional<Alert> trashFailureAlert(const DeleteReport &report, const QList<R
     if (report.removalFailures == 0 || targets.isEmpty()) return std::nullopt;
     const QString message =
         targets.size() == 1 ? tr("“%1” could not be put in the Bin.").arg(displayName(targets.first()->path))
-                            : tr("%1 files could not be put in the Bin.").arg(count(report.removalFailures));
+                            : tr("%1 files could not be put in the Bin.").arg(formatCount(report.removalFailures));
     return Alert{message,
                  report.lastErrorText,
                  {tr("OK"), tr("Delete Immediately…"), tr("Grant Access to Bin…")},
@@ -177,7 +172,7 @@ std::optional<Alert> deletionFailureAlert(const DeleteReport &report, const QLis
     const QString message =
         targets.size() == 1
             ? tr("“%1” could not be deleted immediately.").arg(displayName(targets.first()->path))
-            : tr("%1 files could not be deleted immediately.").arg(count(report.removalFailures));
+            : tr("%1 files could not be deleted immediately.").arg(formatCount(report.removalFailures));
     return Alert{message, {}, {tr("OK")}};
 }
 
@@ -193,8 +188,8 @@ Alert deleteConfirmationAlert(const QList<ResultItem *> &targets)
             1,
             0};
     return Alert{
-        tr("Are you sure you want to delete the %1 selected items immediately?").arg(count(targets.size())),
-        tr("%1 items will be deleted immediately. You can’t undo this action.").arg(count(targets.size())),
+        tr("Are you sure you want to delete the %1 selected items immediately?").arg(formatCount(targets.size())),
+        tr("%1 items will be deleted immediately. You can’t undo this action.").arg(formatCount(targets.size())),
         buttons,
         1,
         1,

@@ -78,7 +78,7 @@ std::optional<Alert> putBackFailureAlert(const PutBackSummary &summary, const QL
         targets.size() == 1
             ? tr("“%1” could not be put back from the Bin.").arg(displayName(targets.first()->path))
             : tr("%1 could not be put back from the Bin.")
-                  .arg(IntegerFormatter::shared().stringForIntegerValue(summary.failures));
+                  .arg(formatCount(summary.failures));
     return Alert{message, summary.lastErrorText, {tr("Cancel")}, 0, 0};
 }
 

@@ -173,4 +173,9 @@ QString HourMinuteSecondFormatter::stringForObjectValue(const QVariant &value) c
     return isNumber(value) ? stringFromDoubleValue(value.toDouble()) : QString();
 }
 
+QString formatCount(qint64 value)
+{
+    return IntegerFormatter::shared().stringForIntegerValue(value);
+}
+
 } // namespace selfsame

@@ -24,6 +24,9 @@ private:
 
 // Angles in degrees as 48° 51′ 23.76″, to the hundredth of an arcsecond (truncated).
 // With both cardinal letters the sign is shown by the letter instead of a minus sign.
+// A count for messages and status lines, grouped the locale's way ("#,##0").
+QString formatCount(qint64 value);
+
 class DegreeMinuteSecondFormatter
 {
 public:

@@ -16,11 +16,6 @@ QString tr(const char *text)
     return QCoreApplication::translate("Dupes", text);
 }
 
-QString count(qsizetype n)
-{
-    return IntegerFormatter::shared().stringForIntegerValue(n);
-}
-
 } // namespace
 
 StatusLine statusLine(const ResultModel &model, ResultList active)
@@ -35,14 +30,14 @@ StatusLine statusLine(const ResultModel &model, ResultList active)
         for (const ResultItem *item : selected)
             onDisk += item->physicalSize;
         line.text = tr("%1 %2 selected out of %3 (%4 on disk)")
-                        .arg(count(selected.size()), noun, count(rows), formatByteCount(onDisk));
+                        .arg(formatCount(selected.size()), noun, formatCount(rows), formatByteCount(onDisk));
     } else if (selected.size() == 1) {
         line.path = selected.first()->path;
-        line.text = tr("%1 %2").arg(count(rows), noun);
+        line.text = tr("%1 %2").arg(formatCount(rows), noun);
     } else if (!model.mainItemsHidden().isEmpty()) {
-        line.text = tr("%1 %2 (%3 hidden)").arg(count(rows), noun, count(model.mainItemsHidden().size()));
+        line.text = tr("%1 %2 (%3 hidden)").arg(formatCount(rows), noun, formatCount(model.mainItemsHidden().size()));
     } else {
-        line.text = tr("%1 %2").arg(count(rows), noun);
+        line.text = tr("%1 %2").arg(formatCount(rows), noun);
     }
     return line;
 }

@@ -29,7 +29,7 @@ QList<ResultItem> SearchRun::run()
         m_context.status(
             [count] {
                 return QCoreApplication::translate("DuplicateSearch", "Enumerating files… %1")
-                    .arg(IntegerFormatter::shared().stringForIntegerValue(count));
+                    .arg(formatCount(count));
             },
             -1);
     });
