@@ -83,32 +83,32 @@ private:
 // The values read in the duration and attribute modes, where the item has them.
 void writeMetadata(JsonWriter &json, const ResultItem &item)
 {
-    if (item.duration > 0)
-        json.field("duration", item.duration);
-    if (!std::isnan(item.latitude))
-        json.field("latitude", item.latitude);
-    if (!std::isnan(item.longitude))
-        json.field("longitude", item.longitude);
-    switch (item.spotlight.typeId()) {
+    if (item.duration() > 0)
+        json.field("duration", item.duration());
+    if (!std::isnan(item.latitude()))
+        json.field("latitude", item.latitude());
+    if (!std::isnan(item.longitude()))
+        json.field("longitude", item.longitude());
+    switch (item.spotlight().typeId()) {
     case QMetaType::QDateTime:
-        json.field("spotlight", isoDate(item.spotlight.toDateTime().toSecsSinceEpoch()));
+        json.field("spotlight", isoDate(item.spotlight().toDateTime().toSecsSinceEpoch()));
         break;
     case QMetaType::Bool:
-        json.field("spotlight", item.spotlight.toBool());
+        json.field("spotlight", item.spotlight().toBool());
         break;
     case QMetaType::Double:
-        json.field("spotlight", item.spotlight.toDouble());
+        json.field("spotlight", item.spotlight().toDouble());
         break;
     case QMetaType::QString:
-        json.field("spotlight", item.spotlight.toString());
+        json.field("spotlight", item.spotlight().toString());
         break;
     }
-    if (!item.pixelSize.isEmpty())
-        json.field("pixelSize", item.pixelSize);
-    if (!item.codecs.isEmpty())
-        json.field("codecs", item.codecs);
-    if (item.bitrate > 0)
-        json.field("bitrate", item.bitrate);
+    if (!item.pixelSize().isEmpty())
+        json.field("pixelSize", item.pixelSize());
+    if (!item.codecs().isEmpty())
+        json.field("codecs", item.codecs());
+    if (item.bitrate() > 0)
+        json.field("bitrate", item.bitrate());
 }
 
 // "selected", "kept" or nothing: what the selection rule decided for the item.
@@ -138,10 +138,10 @@ void writeItem(JsonWriter &json, const ResultItem &item, const AutoSelection *se
         json.field("readOnly", true);
     if (item.has(OtherOwner))
         json.field("otherOwner", true);
-    if (!item.tagList.isEmpty()) {
+    if (!item.tagList().isEmpty()) {
         json.key("tags");
         json.begin('[');
-        for (const QString &tag : item.tagList)
+        for (const QString &tag : item.tagList())
             json.value(tag);
         json.end(']');
     }

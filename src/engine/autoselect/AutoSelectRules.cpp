@@ -189,7 +189,7 @@ void automaticallySelectHavingTag(AutoSelection &selection, bool exceptHaving, c
     for (qsizetype i = first; i <= last; ++i) {
         ResultItem *item = from[i];
         if (isGone(*item)) continue;
-        const QStringList &tags = item->tagList;
+        const QStringList &tags = item->tagList();
         const bool has =
             tag.isEmpty() ? !tags.isEmpty() : std::any_of(tags.begin(), tags.end(), [&](const QString &t) {
                 return t.compare(tag, Qt::CaseInsensitive) == 0 || t.toLower().startsWith(colourPrefix);

@@ -108,11 +108,11 @@ int GroupOrder::compare(const ResultItem &a, const ResultItem &b) const
     case DetectionMode::Content:
         return compareDigestsOf(a, b);
     case DetectionMode::Duration:
-        return order(a.duration, b.duration);
+        return order(a.duration(), b.duration());
     case DetectionMode::FileName:
         return order(nameKey(a), nameKey(b));
     case DetectionMode::Attribute:
-        return compareAttributeValues(a.spotlight, b.spotlight);
+        return compareAttributeValues(a.spotlight(), b.spotlight());
     }
     return 0;
 }
@@ -126,7 +126,7 @@ void GroupOrder::sort(QList<ResultItem *> &items) const
         sortByKey(items, [](const ResultItem *item) { return DigestPrefix{digestPrefix(*item), item}; });
         break;
     case DetectionMode::Duration:
-        sortByKey(items, [](const ResultItem *item) { return item->duration; });
+        sortByKey(items, [](const ResultItem *item) { return item->duration(); });
         break;
     case DetectionMode::FileName:
         sortByKey(items, [this](const ResultItem *item) { return nameKey(*item); });
@@ -165,15 +165,15 @@ QList<ResultItem *> GroupOrder::duplicatesFor(const QList<ResultItem *> &sorted,
         break;
     case DetectionMode::Duration: {
         ResultItem low, high;
-        low.duration = item.duration - m_durationTolerance;
-        high.duration = item.duration + m_durationTolerance;
+        low.setDuration(item.duration() - m_durationTolerance);
+        high.setDuration(item.duration() + m_durationTolerance);
         range = equalRange(sorted, low, high, false);
         break;
     }
     case DetectionMode::Attribute: {
         ResultItem low, high;
-        low.spotlight = shifted(item.spotlight, -m_spotlightTolerance);
-        high.spotlight = shifted(item.spotlight, m_spotlightTolerance);
+        low.setSpotlight(shifted(item.spotlight(), -m_spotlightTolerance));
+        high.setSpotlight(shifted(item.spotlight(), m_spotlightTolerance));
         range = equalRange(sorted, low, high, false);
         break;
     }

@@ -1,5 +1,7 @@
 #include "results/ResultItem.h"
 
+#include <cmath>
+
 namespace selfsame
 {
 
@@ -16,31 +18,78 @@ QString ResultItem::parentPath() const
     return parentPathStart < slash ? path.mid(parentPathStart, slash - parentPathStart) : QString();
 }
 
-const QString &ResultItem::trashedURL() const
+namespace
 {
-    static const QString none;
-    return m_rare ? m_rare->trashedURL : none;
+const QString kNoText;
+const QStringList kNoTags;
+const QVariant kNoValue;
+} // namespace
+
+const QStringList &ResultItem::tagList() const { return m_extra ? m_extra->tagList : kNoTags; }
+const QVariant &ResultItem::spotlight() const { return m_extra ? m_extra->spotlight : kNoValue; }
+const QString &ResultItem::pixelSize() const { return m_extra ? m_extra->pixelSize : kNoText; }
+const QString &ResultItem::codecs() const { return m_extra ? m_extra->codecs : kNoText; }
+const QString &ResultItem::trashedURL() const { return m_extra ? m_extra->trashedURL : kNoText; }
+
+ResultItem::Extra &ResultItem::extra()
+{
+    if (!m_extra) m_extra.reset(new Extra);
+    return *m_extra;
 }
 
-ResultItem::Rare &ResultItem::rare()
+void ResultItem::setTagList(const QStringList &tags)
 {
-    if (!m_rare) m_rare.reset(new Rare);
-    return *m_rare;
+    if (!tags.isEmpty() || m_extra) extra().tagList = tags;
+}
+
+void ResultItem::setSpotlight(const QVariant &value)
+{
+    if (value.isValid() || m_extra) extra().spotlight = value;
+}
+
+void ResultItem::setPixelSize(const QString &text)
+{
+    if (!text.isEmpty() || m_extra) extra().pixelSize = text;
+}
+
+void ResultItem::setCodecs(const QString &text)
+{
+    if (!text.isEmpty() || m_extra) extra().codecs = text;
+}
+
+void ResultItem::setDuration(double seconds)
+{
+    if (seconds != 0.0 || m_extra) extra().duration = seconds;
+}
+
+void ResultItem::setLatitude(double degrees)
+{
+    if (!std::isnan(degrees) || m_extra) extra().latitude = degrees;
+}
+
+void ResultItem::setLongitude(double degrees)
+{
+    if (!std::isnan(degrees) || m_extra) extra().longitude = degrees;
+}
+
+void ResultItem::setBitrate(double bitsPerSecond)
+{
+    if (bitsPerSecond != 0.0 || m_extra) extra().bitrate = bitsPerSecond;
 }
 
 void ResultItem::setItemCount(qint64 count)
 {
-    if (count != 0 || m_rare) rare().itemCount = count;
+    if (count != 0 || m_extra) extra().itemCount = count;
 }
 
 void ResultItem::setAddedDate(qint64 date)
 {
-    if (date != kNoDate || m_rare) rare().addedDate = date;
+    if (date != kNoDate || m_extra) extra().addedDate = date;
 }
 
 void ResultItem::setTrashedURL(const QString &trashed)
 {
-    if (!trashed.isEmpty() || m_rare) rare().trashedURL = trashed;
+    if (!trashed.isEmpty() || m_extra) extra().trashedURL = trashed;
 }
 
 } // namespace selfsame

@@ -51,8 +51,9 @@ enum CloneStatus : qint8 {
 };
 
 // One found file or folder. A search may hold millions, so this is a plain struct of typed
-// fields; keyed access by name goes through the accessor table of ItemKeys.h. Values that
-// few items ever carry live out of line, and the displayed folder is a view into the path.
+// fields; keyed access by name goes through the accessor table of ItemKeys.h. Values that only
+// some items carry (tags, media and attribute values, folder counts, Bin places) live out of
+// line behind one pointer, and the displayed folder is a view into the path.
 struct ResultItem {
     QString path;                    // "URL": absolute path
     qint64 size = 0;                 // "size": st_size; sum of children for a compared folder
@@ -65,14 +66,6 @@ struct ResultItem {
     quint64 inode = 0;
     Digest digest{};                 // "digest", valid with HasDigest
     AllocationKey allocDigest{};     // "allocDigest", valid with HasAllocDigest
-    QStringList tagList;             // "tagList": user tags
-    QVariant spotlight;              // "spotlight": the compared attribute's value
-    QString pixelSize;               // "pixelSize": "W × H" or empty
-    QString codecs;                  // "codecs"
-    double duration = 0.0;           // "duration"
-    double latitude = std::numeric_limits<double>::quiet_NaN();  // "latitude", NaN when absent
-    double longitude = std::numeric_limits<double>::quiet_NaN(); // "longitude", NaN when absent
-    double bitrate = 0.0;            // "bitrate"
     int group = -1;                  // "group"
     int dupes = 0;                   // "dupes": members of the group when it was formed
     quint16 flags = 0;
@@ -88,29 +81,56 @@ struct ResultItem {
     // "parentPath": the folder without the searched locations' common prefix.
     QString parentPath() const;
 
-    qint64 itemCount() const { return m_rare ? m_rare->itemCount : 0; }   // "itemCount": files in a folder
-    qint64 addedDate() const { return m_rare ? m_rare->addedDate : kNoDate; } // "addedDate"
-    const QString &trashedURL() const;                                   // "trashedURL": path in the Bin
+    const QStringList &tagList() const; // "tagList": user tags
+    const QVariant &spotlight() const;  // "spotlight": the compared attribute's value
+    const QString &pixelSize() const;   // "pixelSize": "W × H" or empty
+    const QString &codecs() const;      // "codecs"
+    double duration() const { return m_extra ? m_extra->duration : 0.0; } // "duration"
+    double latitude() const { return m_extra ? m_extra->latitude : kNaN; }   // "latitude", NaN when absent
+    double longitude() const { return m_extra ? m_extra->longitude : kNaN; } // "longitude", NaN when absent
+    double bitrate() const { return m_extra ? m_extra->bitrate : 0.0; }      // "bitrate"
+    qint64 itemCount() const { return m_extra ? m_extra->itemCount : 0; }    // "itemCount": files in a folder
+    qint64 addedDate() const { return m_extra ? m_extra->addedDate : kNoDate; } // "addedDate"
+    const QString &trashedURL() const;                                     // "trashedURL": path in the Bin
+
+    // Setting an absent value to an item without extras allocates nothing.
+    void setTagList(const QStringList &tags);
+    void setSpotlight(const QVariant &value);
+    void setPixelSize(const QString &text);
+    void setCodecs(const QString &text);
+    void setDuration(double seconds);
+    void setLatitude(double degrees);
+    void setLongitude(double degrees);
+    void setBitrate(double bitsPerSecond);
     void setItemCount(qint64 count);
     void setAddedDate(qint64 date);
     void setTrashedURL(const QString &path);
 
 private:
-    struct Rare {
+    static constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+    struct Extra {
+        QStringList tagList;
+        QVariant spotlight;
+        QString pixelSize;
+        QString codecs;
+        QString trashedURL;
+        double duration = 0.0;
+        double latitude = kNaN;
+        double longitude = kNaN;
+        double bitrate = 0.0;
         qint64 itemCount = 0;
         qint64 addedDate = kNoDate;
-        QString trashedURL;
     };
     // A pointer that copies what it points to, so that items stay plain values.
-    struct RarePtr : std::unique_ptr<Rare> {
-        RarePtr() = default;
-        RarePtr(const RarePtr &o) : std::unique_ptr<Rare>(o ? std::make_unique<Rare>(*o) : nullptr) {}
-        RarePtr(RarePtr &&) noexcept = default;
-        RarePtr &operator=(const RarePtr &o) { return *this = RarePtr(o); }
-        RarePtr &operator=(RarePtr &&) noexcept = default;
+    struct ExtraPtr : std::unique_ptr<Extra> {
+        ExtraPtr() = default;
+        ExtraPtr(const ExtraPtr &o) : std::unique_ptr<Extra>(o ? std::make_unique<Extra>(*o) : nullptr) {}
+        ExtraPtr(ExtraPtr &&) noexcept = default;
+        ExtraPtr &operator=(const ExtraPtr &o) { return *this = ExtraPtr(o); }
+        ExtraPtr &operator=(ExtraPtr &&) noexcept = default;
     };
-    Rare &rare();
-    RarePtr m_rare;
+    Extra &extra();
+    ExtraPtr m_extra;
 };
 
 } // namespace selfsame

@@ -305,9 +305,9 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
         item.size = node.size; // a compared folder's sums
         item.physicalSize = node.physicalSize;
         if (node.has(IsFolder))
-            item.tagList = readUserTags(item.path.toUtf8().constData());
+            item.setTagList(readUserTags(item.path.toUtf8().constData()));
         else if (const auto tags = m_tags.find(member.node); tags != m_tags.end())
-            item.tagList = tags->second; // read by the hasher while the file was open
+            item.setTagList(tags->second); // read by the hasher while the file was open
         item.digest = node.has(HasDigest) ? node.digest() : Digest{};
         item.allocDigest = node.has(HasAllocDigest) ? allocationKey(node.allocDigest()) : AllocationKey{};
         item.setItemCount(node.itemCount);

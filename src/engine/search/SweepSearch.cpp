@@ -156,16 +156,16 @@ ResultItem SweepSearch::makeItem(std::size_t index) const
 {
     const FileEntry &entry = m_entries[index];
     ResultItem item = m_entries.resultItem(entry);
-    item.tagList = readUserTags(item.path.toUtf8().constData());
+    item.setTagList(readUserTags(item.path.toUtf8().constData()));
     if (m_request.detectionMode != DetectionMode::FileName) {
         const ItemMetadata &metadata = m_entries.metadata(index);
-        item.duration = metadata.duration;
-        item.latitude = metadata.latitude;
-        item.longitude = metadata.longitude;
-        item.spotlight = metadata.spotlight;
-        item.pixelSize = metadata.pixelSize;
-        item.codecs = metadata.codecs;
-        item.bitrate = metadata.bitrate;
+        item.setDuration(metadata.duration);
+        item.setLatitude(metadata.latitude);
+        item.setLongitude(metadata.longitude);
+        item.setSpotlight(metadata.spotlight);
+        item.setPixelSize(metadata.pixelSize);
+        item.setCodecs(metadata.codecs);
+        item.setBitrate(metadata.bitrate);
     }
     return item;
 }

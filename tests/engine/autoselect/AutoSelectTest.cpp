@@ -26,7 +26,7 @@ protected:
             item.path = QString::fromUtf8(c.path);
             item.group = c.group;
             item.modified = c.modified;
-            item.tagList = c.tags;
+            item.setTagList(c.tags);
             item.digest.fill(std::uint8_t(c.group));
             item.set(HasDigest);
             items.append(item);

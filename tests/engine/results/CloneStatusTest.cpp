@@ -22,7 +22,7 @@ ResultItem foundItem(const QString &path, bool digested)
     item.path = path;
     item.size = QFile(path).size();
     item.group = 0;
-    item.duration = 60;
+    item.setDuration(60);
     if (digested) {
         ReadBuffer buffer;
         std::vector<qint64> storage;

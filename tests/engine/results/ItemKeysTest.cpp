@@ -14,9 +14,9 @@ TEST(ItemKeys, ValuesByNameWithAbsentValuesInvalidAndOrderedFirst)
     const struct { const char *key; void (*present)(ResultItem &); } cases[] = {
         {"created", [](ResultItem &i) { i.created = 0; }},
         {"lastUsed", [](ResultItem &i) { i.lastUsed = -5; }},
-        {"latitude", [](ResultItem &i) { i.latitude = -80.5; }},
+        {"latitude", [](ResultItem &i) { i.setLatitude(-80.5); }},
         {"digest", [](ResultItem &i) { i.set(HasDigest); }},
-        {"tagList", [](ResultItem &i) { i.tagList = {QStringLiteral("Red\n6")}; }},
+        {"tagList", [](ResultItem &i) { i.setTagList({QStringLiteral("Red\n6")}); }},
         {"isFolder", [](ResultItem &i) { i.set(IsFolder); }},
     };
     for (const auto &c : cases) {

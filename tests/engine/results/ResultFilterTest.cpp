@@ -13,7 +13,7 @@ ResultItem named(const char *name, QStringList tags = {})
 {
     ResultItem item;
     item.path = QStringLiteral("/m/") + QString::fromUtf8(name);
-    item.tagList = std::move(tags);
+    item.setTagList(std::move(tags));
     item.modified = kNow.toSecsSinceEpoch();
     return item;
 }

@@ -16,7 +16,7 @@ ResultItem item(const char *path, int group, double duration = 0.0)
     ResultItem i;
     i.path = QString::fromUtf8(path);
     i.group = group;
-    i.duration = duration;
+    i.setDuration(duration);
     return i;
 }
 
@@ -116,25 +116,25 @@ TEST(ResultModelLookUp, AttributeRangesForDatesAndNumbersAndExactStrings)
     request.spotlightTolerance = 60;
     const QDateTime ten(QDate(2024, 5, 1), QTime(10, 0), Qt::UTC);
     QList<ResultItem> items = {item("/m/d1", 0), item("/m/d2", 0), item("/m/d3", 1)};
-    items[0].spotlight = ten.addSecs(30);
-    items[1].spotlight = ten;
-    items[2].spotlight = ten.addSecs(-40);
+    items[0].setSpotlight(ten.addSecs(30));
+    items[1].setSpotlight(ten);
+    items[2].setSpotlight(ten.addSecs(-40));
     ResultModel model;
     model.setResults(items, request);
     EXPECT_EQ(lookUp(model, "d1"), "d2 d1");
     EXPECT_EQ(lookUp(model, "d2"), "d3 d2 d1");
 
     items = {item("/m/s1", 0), item("/m/s2", 0), item("/m/s3", 1)};
-    items[0].spotlight = QStringLiteral("Canon");
-    items[1].spotlight = QStringLiteral("Canon");
-    items[2].spotlight = QStringLiteral("canon");
+    items[0].setSpotlight(QStringLiteral("Canon"));
+    items[1].setSpotlight(QStringLiteral("Canon"));
+    items[2].setSpotlight(QStringLiteral("canon"));
     model.setResults(items, request);
     EXPECT_EQ(lookUp(model, "s2"), "s1 s2");
 
     items = {item("/m/n1", 0), item("/m/n2", 0), item("/m/n3", 1)};
-    items[0].spotlight = 100;
-    items[1].spotlight = 40.5;
-    items[2].spotlight = 39.5;
+    items[0].setSpotlight(100);
+    items[1].setSpotlight(40.5);
+    items[2].setSpotlight(39.5);
     model.setResults(items, request);
     EXPECT_EQ(lookUp(model, "n1"), "n2 n1");
     EXPECT_EQ(lookUp(model, "n3"), "n3 n2");
@@ -184,7 +184,7 @@ TEST(ResultModelSort, GroupedRowsAlternateColoursPerGroup)
                                item("/m/e", 2)};
     for (ResultItem &i : items)
         i.dupes = i.group == 2 ? 1 : 2;
-    items[2].duration = 5;
+    items[2].setDuration(5);
     SearchRequest request = requestFor(DetectionMode::Duration);
     model.setResults(items, request);
     model.setSortDescriptor(ResultList::Top, SortDescriptor{QStringLiteral("dupes")});

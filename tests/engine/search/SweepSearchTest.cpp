@@ -122,13 +122,13 @@ TEST_F(MediaSearch, DurationModeGroupsWithinToleranceAndFillsMediaValues)
     EXPECT_TRUE(harness.context.statistics.someDurationFound);
     ASSERT_EQ(items.size(), 5);
     EXPECT_EQ(items[0].dupes, 3);
-    EXPECT_DOUBLE_EQ(items[0].duration, 10.0); // sweep order: longest first
+    EXPECT_DOUBLE_EQ(items[0].duration(), 10.0); // sweep order: longest first
     const auto clip =
         std::find_if(items.begin(), items.end(), [](const ResultItem &i) { return i.name() == "clip.mp4"; });
     ASSERT_NE(clip, items.end());
-    EXPECT_EQ(clip->pixelSize, QStringLiteral("96 × 64"));
-    EXPECT_EQ(clip->codecs, "mpeg4, aac");
-    EXPECT_GT(clip->bitrate, 0);
+    EXPECT_EQ(clip->pixelSize(), QStringLiteral("96 × 64"));
+    EXPECT_EQ(clip->codecs(), "mpeg4, aac");
+    EXPECT_GT(clip->bitrate(), 0);
 
     request.durationTolerance = 0;
     EXPECT_EQ(describeGroups(search(request), tree.path()), "clip-small.mp4 clip.mp4");
@@ -163,8 +163,8 @@ TEST_F(MediaSearch, AttributeModeComparesPlacesInArcSecondsDatesAndExactTitles)
     const QList<ResultItem> all = search(request);
     EXPECT_EQ(describeGroups(all, tree.path()), "a.jpg b.jpg c.jpg");
     ASSERT_EQ(all.size(), 3);
-    EXPECT_NEAR(all[0].latitude, 48 + 51 / 60.0 + 30 / 3600.0, 1e-9);
-    EXPECT_NEAR(all[0].longitude, 2 + 17 / 60.0 + 40 / 3600.0, 1e-9);
+    EXPECT_NEAR(all[0].latitude(), 48 + 51 / 60.0 + 30 / 3600.0, 1e-9);
+    EXPECT_NEAR(all[0].longitude(), 2 + 17 / 60.0 + 40 / 3600.0, 1e-9);
 
     request.spotlightAttribute = "kMDItemContentCreationDate";
     request.spotlightTolerance = 60;
