@@ -299,7 +299,7 @@ Dupes *AppDelegate::searchInFolderURLs(const QStringList &paths)
     }
     m_options->showCanonicalTexts(start.shownOptions);
 
-    auto *dupes = new Dupes;
+    auto *dupes = new Dupes(m_settings);
     m_dupesList.append(dupes);
     m_searchingDupesList.append(dupes);
     connect(dupes, &Dupes::finishedSearching, this, &AppDelegate::dupesFinishedSearching);

@@ -1,157 +1,633 @@
 #include "Dupes.h"
 
+#include "Alert.h"
+#include "Desktop.h"
+#include "FilterBar.h"
 #include "LocationsModel.h"
-#include "format/ByteSize.h"
+#include "PreviewPane.h"
+#include "ResultCellDelegate.h"
+#include "ResultListView.h"
+#include "ResultTableModel.h"
+#include "SearchDefaults.h"
+#include "Settings.h"
+#include "attributes/SpotlightAttributesManager.h"
 #include "format/Formatters.h"
+#include "results/ListColumns.h"
+#include "results/ResultFilter.h"
+#include "results/StatusLine.h"
 
+#include <QActionGroup>
+#include <QApplication>
 #include <QCloseEvent>
-#include <QDateTime>
-#include <QFileInfo>
+#include <QDesktopServices>
+#include <QDir>
+#include <QDragEnterEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
-#include <QTreeWidget>
+#include <QSplitter>
+#include <QTimer>
+#include <QToolBar>
+#include <QUrl>
 #include <QVBoxLayout>
-#include <map>
+
+#include <cmath>
 
 namespace selfsame {
 
 namespace {
-enum Column { NameColumn, FolderColumn, SizeColumn, ModifiedColumn };
-constexpr int kPathRole = Qt::UserRole;
+
+const QString kHiddenColumns = QStringLiteral("hidden columns");
+const QString kResultListSize = QStringLiteral("result list size");
+const QString kListFontSize = QStringLiteral("list font size");
+const QString kMainListLayout = key::mainListColumns;
+const QString kCloneListLayout = key::cloneListColumns;
+
+const std::pair<const char *, int> kListSizes[] = {
+    {QT_TRANSLATE_NOOP("Dupes", "Small"), 16},
+    {QT_TRANSLATE_NOOP("Dupes", "Medium"), 32},
+    {QT_TRANSLATE_NOOP("Dupes", "Large"), 64},
+    {QT_TRANSLATE_NOOP("Dupes", "Extra Large"), 128},
+};
+const int kFontSizes[] = {8, 9, 10, 11, 12, 13, 14, 16, 18};
+
 } // namespace
 
-Dupes::Dupes(QWidget *parent) : QMainWindow(parent)
+Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_settings(settings)
 {
     setAttribute(Qt::WA_DeleteOnClose);
-    auto *central = new QWidget;
-    auto *layout = new QVBoxLayout(central);
+    setAcceptDrops(true);
+    m_settings.registerDefaults({{kResultListSize, 16}, {kListFontSize, QApplication::font().pointSize()}});
 
-    m_statusLbl = new QLabel;
-    m_statusLbl->setWordWrap(true);
-    m_statusLbl->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_progressBar = new QProgressBar;
-    m_progressBar->setTextVisible(false);
+    m_statusFld = new QLabel;
+    m_statusFld->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_statusFld->setMinimumWidth(100);
+    m_progressIndicator = new QProgressBar;
+    m_progressIndicator->setTextVisible(false);
+    m_progressIndicator->setMaximumWidth(240);
     m_abortBtn = new QPushButton(tr("&Stop"));
     connect(m_abortBtn, &QPushButton::clicked, this, [this] { m_search.abort(); });
+    m_searchingRow = new QWidget;
+    auto *searchingLayout = new QHBoxLayout(m_searchingRow);
+    searchingLayout->setContentsMargins(0, 0, 0, 0);
+    searchingLayout->addWidget(m_progressIndicator);
+    searchingLayout->addWidget(m_statusFld, 1);
+    searchingLayout->addWidget(m_abortBtn);
+
+    m_filterBar = new FilterBar;
+    QVariantMap savedFilter = filterSettings(FilterCriteria());
+    for (auto it = savedFilter.begin(); it != savedFilter.end(); ++it)
+        if (m_settings.isStored(it.key())) it.value() = m_settings.value(it.key());
+    m_filterBar->setCriteria(filterCriteriaFromSettings(savedFilter));
+    m_filterBar->setEnabled(false);
+    connect(m_filterBar, &FilterBar::filterChanged, this, &Dupes::applyFilter);
+
+    m_mainModel = new ResultTableModel(m_model, ResultList::Top, m_icons, this);
+    m_cloneModel = new ResultTableModel(m_model, ResultList::Bottom, m_icons, this);
+    m_mainList = new ResultListView;
+    m_mainList->setObjectName(QStringLiteral("mainList"));
+    m_cloneList = new ResultListView;
+    m_cloneList->setObjectName(QStringLiteral("cloneList"));
+    for (auto [view, model] : {std::pair{m_mainList, m_mainModel}, std::pair{m_cloneList, m_cloneModel}}) {
+        view->setModel(model);
+        view->setItemDelegate(new ResultCellDelegate(view));
+        connect(view->selectionModel(), &QItemSelectionModel::selectionChanged, this,
+                [this, view = view] { viewSelectionChanged(view); });
+        connect(model, &ResultTableModel::resorted, this, [this, view = view] { selectInView(view); });
+        connect(view, &ResultListView::previewRequested, this, &Dupes::togglePreview);
+        connect(view, &ResultListView::contextMenuRequested, this,
+                [this, view = view](QMenu *menu) { fillContextMenu(menu, view->resultModel()->list()); });
+        connect(view, &ResultListView::activated, this, [this, view = view] {
+            m_active = view->resultModel()->list();
+            updateStatus();
+        });
+        connect(view, &QAbstractItemView::doubleClicked, this, &Dupes::openSelected);
+        connect(view->horizontalHeader(), &QHeaderView::customContextMenuRequested, this,
+                [this, view = view](const QPoint &at) { columnsMenu(this)->exec(view->horizontalHeader()->mapToGlobal(at)); });
+        connect(view->horizontalHeader(), &QHeaderView::sectionResized, this, &Dupes::saveColumnLayouts);
+        connect(view->horizontalHeader(), &QHeaderView::sectionMoved, this, &Dupes::saveColumnLayouts);
+    }
+    connect(&m_icons, &ItemIcons::iconsChanged, m_mainModel, &ResultTableModel::iconsChanged);
+    connect(&m_icons, &ItemIcons::iconsChanged, m_cloneModel, &ResultTableModel::iconsChanged);
+
+    auto *lists = new QSplitter(Qt::Vertical);
+    lists->addWidget(m_mainList);
+    lists->addWidget(m_cloneList);
+    lists->setStretchFactor(0, 3);
+    lists->setStretchFactor(1, 1);
+    lists->setChildrenCollapsible(false);
+    m_previewPane = new PreviewPane;
+    m_previewPane->hide();
+    m_previewSplitter = new QSplitter(Qt::Horizontal);
+    m_previewSplitter->addWidget(lists);
+    m_previewSplitter->addWidget(m_previewPane);
+    m_previewSplitter->setStretchFactor(0, 3);
+    m_previewSplitter->setStretchFactor(1, 1);
+
+    m_statusLine = new QLabel;
+    m_statusLine->setObjectName(QStringLiteral("statusLine"));
+    m_pathControl = new QLabel;
+    m_pathControl->setObjectName(QStringLiteral("pathControl"));
+    m_pathControl->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_pathControl->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_pathControl->hide();
     auto *statusRow = new QHBoxLayout;
-    statusRow->addWidget(m_progressBar, 1);
-    statusRow->addWidget(m_abortBtn);
+    statusRow->addWidget(m_pathControl, 1);
+    statusRow->addWidget(m_statusLine, 0, Qt::AlignRight);
 
-    m_list = new QTreeWidget;
-    m_list->setHeaderLabels({tr("Name"), tr("Folder"), tr("Size"), tr("Modified")});
-    m_list->setUniformRowHeights(true);
-    m_list->setSelectionMode(QAbstractItemView::ExtendedSelection);
-    m_list->setTextElideMode(Qt::ElideMiddle);
-    m_list->header()->setStretchLastSection(false);
-    m_list->header()->setSectionResizeMode(FolderColumn, QHeaderView::Stretch);
-    m_list->hide();
-
-    layout->addWidget(m_statusLbl);
+    auto *central = new QWidget;
+    auto *layout = new QVBoxLayout(central);
+    layout->addWidget(m_searchingRow);
+    layout->addWidget(m_filterBar);
+    layout->addWidget(m_previewSplitter, 1);
     layout->addLayout(statusRow);
-    layout->addWidget(m_list, 1);
     setCentralWidget(central);
+
+    m_actionsToolBar = addToolBar(tr("Actions"));
+    m_actionsToolBar->setObjectName(QStringLiteral("actionsToolBar"));
+    m_actionsToolBar->setMovable(false);
+    m_actionsToolBar->hide(); // shown once an action is added
+    buildMenus();
+
+    restoreColumnLayouts();
+    m_icons.setSize(int(m_settings.integerValue(kResultListSize)));
+    changeListFontSize(int(m_settings.integerValue(kListFontSize)));
+
     connect(&m_search, &DuplicateSearch::progress, this, &Dupes::showProgress);
     connect(&m_search, &DuplicateSearch::searchDone, this, &Dupes::searchDone);
-    resize(760, 480);
+    resize(1100, 700);
+}
+
+Dupes::~Dupes() = default;
+
+void Dupes::buildMenus()
+{
+    QMenu *file = menuBar()->addMenu(tr("&File"));
+    file->addAction(tr("&Close Window"), QKeySequence::Close, this, &QWidget::close);
+
+    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    edit->addAction(tr("&Filter…"), QKeySequence::Find, this, [this] { m_filterBar->textField()->setFocus(); });
+
+    QMenu *view = menuBar()->addMenu(tr("&View"));
+    m_previewAction = view->addAction(tr("&Preview"), this, &Dupes::togglePreview);
+    m_previewAction->setCheckable(true);
+    view->addSeparator();
+    view->addMenu(columnsMenu(view))->setText(tr("&Columns"));
+    QMenu *sizes = view->addMenu(tr("List &Size"));
+    auto *sizeGroup = new QActionGroup(sizes);
+    for (const auto &[title, size] : kListSizes) {
+        QAction *action = sizes->addAction(tr(title), this, [this, size = size] { changeListSize(size); });
+        action->setCheckable(true);
+        action->setChecked(size == m_settings.integerValue(kResultListSize));
+        sizeGroup->addAction(action);
+    }
+    QMenu *fonts = view->addMenu(tr("List &Font Size"));
+    auto *fontGroup = new QActionGroup(fonts);
+    for (int size : kFontSizes) {
+        QAction *action = fonts->addAction(QString::number(size), this, [this, size] { changeListFontSize(size); });
+        action->setCheckable(true);
+        action->setChecked(size == m_settings.integerValue(kListFontSize));
+        fontGroup->addAction(action);
+    }
+
+    m_actionsMenu = menuBar()->addMenu(tr("&Actions"));
+    m_actionsMenu->setObjectName(QStringLiteral("actionsMenu"));
+
+    QMenu *item = menuBar()->addMenu(tr("&Item"));
+    connect(item, &QMenu::aboutToShow, this, [this, item] {
+        item->clear();
+        fillContextMenu(item, activeList());
+    });
+}
+
+void Dupes::fillContextMenu(QMenu *menu, ResultList list)
+{
+    m_active = list;
+    const QList<ResultItem *> targets = targetItems();
+    QAction *open = menu->addAction(tr("&Open"), this, &Dupes::openSelected);
+    open->setEnabled(!targets.isEmpty());
+    QAction *reveal = menu->addAction(tr("Show in File &Manager"), this, &Dupes::revealSelectedInFileManager);
+    reveal->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    reveal->setEnabled(!targets.isEmpty());
+    QAction *preview = menu->addAction(tr("&Preview"), this, &Dupes::togglePreview);
+    preview->setShortcut(QKeySequence(Qt::Key_Space));
+    menu->addSeparator();
+    const bool located = std::any_of(targets.begin(), targets.end(), [](const ResultItem *item) {
+        return !std::isnan(item->latitude()) && !std::isnan(item->longitude());
+    });
+    const char *services[] = {QT_TR_NOOP("Show Location in Apple &Maps"), QT_TR_NOOP("Show Location in &Google Maps"),
+                              QT_TR_NOOP("Show Location in &OpenStreetMap")};
+    for (int service = 0; service < 3; ++service)
+        menu->addAction(tr(services[service]), this, [this, service] { showGPSLocation(service); })->setEnabled(located);
+    Q_EMIT contextMenuAboutToShow(menu, list);
+}
+
+QMenu *Dupes::columnsMenu(QWidget *parent)
+{
+    auto *menu = new QMenu(parent);
+    connect(menu, &QMenu::aboutToShow, this, [this, menu] {
+        menu->clear();
+        for (const QString &column : listColumnIdentifiers()) {
+            QAction *action = menu->addAction(m_mainModel->headerData(m_mainModel->columnOf(column), Qt::Horizontal,
+                                                                      Qt::DisplayRole).toString());
+            action->setObjectName(column);
+            action->setCheckable(true);
+            action->setEnabled(canShowColumn(column) && column != QLatin1String("name"));
+            action->setChecked(!isColumnHidden(column));
+            connect(action, &QAction::toggled, this, [this, column](bool on) { changeListColumn(column, on); });
+        }
+    });
+    if (parent == this) connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
+    return menu;
+}
+
+void Dupes::prepareWindow(const SearchRequest &request)
+{
+    const QString attribute = request.detectionMode == DetectionMode::Attribute ? request.spotlightAttribute : QString();
+    const QString attributeName =
+        attribute.isEmpty() ? QString() : SpotlightAttributesManager::GetDisplayNameForSpotlightAttribute(attribute);
+    const bool cluster = (request.detectionMode == DetectionMode::Duration && request.durationTolerance > 0) ||
+                         (request.detectionMode == DetectionMode::Attribute && request.spotlightTolerance > 0);
+    for (ResultTableModel *model : {m_mainModel, m_cloneModel})
+        model->setSpotlightAttribute(attribute, attributeName.isEmpty() ? attribute : attributeName);
+    m_mainModel->setClusterTitle(cluster);
+    m_modeHiddenColumns = modeHiddenColumns(request.detectionMode, request.spotlightAttribute);
+    m_userHiddenColumns = m_settings.stringListValue(kHiddenColumns);
+    updateListsLayout();
+    updateWindowTitle(request.searchInFolderURLs);
 }
 
 void Dupes::searchInFolderURLs(const SearchRequest &request)
 {
-    QStringList names;
-    for (const QString &path : request.searchInFolderURLs)
-        names.append(displayName(path));
-    setWindowTitle(tr("Duplicates in %1").arg(QLocale().createSeparatedList(names)));
-    m_statusLbl->setText(tr("Starting the search…"));
-    m_progressBar->setRange(0, 0);
+    prepareWindow(request);
+    m_model.reset();
+    reloadList(m_mainList);
+    reloadList(m_cloneList);
+    m_searchingRow->show();
+    m_statusFld->setText(tr("Enumerating files…"));
+    m_progressIndicator->setRange(0, 0);
+    m_abortBtn->show();
+    m_pathControl->clear();
+    m_pathControl->hide();
+    m_statusLine->clear();
+    m_finished = false;
     m_search.searchInFolderURLs(request);
+}
+
+void Dupes::showFinishedResults(QList<ResultItem> items, const SearchRequest &request)
+{
+    prepareWindow(request);
+    m_model.setResults(std::move(items), request);
+    showResults();
 }
 
 void Dupes::showProgress(const QString &status, double progress)
 {
-    m_statusLbl->setText(status);
+    m_statusFld->setText(status);
     if (progress < 0) {
-        m_progressBar->setRange(0, 0);
+        m_progressIndicator->setRange(0, 0);
     } else {
-        m_progressBar->setRange(0, 1000);
-        m_progressBar->setValue(int(progress * 1000));
+        m_progressIndicator->setRange(0, 1000);
+        m_progressIndicator->setValue(int(progress * 1000));
     }
 }
 
 void Dupes::searchDone()
 {
-    m_progressBar->hide();
-    m_abortBtn->hide();
-    const QList<ResultItem> &items = m_search.mainItems();
-    if (m_search.aborted()) {
-        m_statusLbl->setText(tr("The search was stopped."));
-    } else if (items.isEmpty()) {
-        const EmptyResultMessage empty =
-            emptyResultMessage(m_search.request().detectionMode, m_search.statistics());
-        m_statusLbl->setText(empty.informativeText.isEmpty()
-                                 ? empty.message
-                                 : empty.message + QLatin1Char('\n') + empty.informativeText);
+    m_model.setResults(m_search.takeMainItems(), m_search.request());
+    showResults();
+    if (m_model.mainItems().isEmpty() && m_model.mainItemsHidden().isEmpty()) {
+        if (m_search.aborted()) {
+            QTimer::singleShot(0, this, &QWidget::close);
+        } else {
+            const EmptyResultMessage empty =
+                emptyResultMessage(m_search.request().detectionMode, m_search.statistics());
+            showAlert(this, QMessageBox::Information, empty.message, empty.informativeText, {tr("OK")},
+                      [this](int) { close(); });
+        }
     }
-    if (!items.isEmpty())
-        fillList(items);
     Q_EMIT finishedSearching(this);
+    if (!QApplication::activeWindow()) QApplication::alert(this);
 }
 
-void Dupes::fillList(const QList<ResultItem> &items)
+void Dupes::showResults()
 {
-    std::map<int, QList<const ResultItem *>> groups;
-    for (const ResultItem &item : items)
-        groups[item.group].append(&item);
-    const IntegerFormatter &count = IntegerFormatter::shared();
-    m_statusLbl->setText(tr("%1 files in %2 groups of duplicates")
-                             .arg(count.stringForIntegerValue(items.size()),
-                                  count.stringForIntegerValue(qint64(groups.size()))));
-    QList<QTreeWidgetItem *> rows;
-    for (const auto &[group, members] : groups) {
-        auto *groupRow = new QTreeWidgetItem({tr("%n duplicates", nullptr, int(members.size())), QString(),
-                                              formatByteCount(members.first()->size)});
-        for (const ResultItem *item : members) {
-            auto *row = new QTreeWidgetItem(
-                groupRow,
-                {item->name(), QFileInfo(item->path).path(), formatByteCount(item->size),
-                 QLocale().toString(QDateTime::fromSecsSinceEpoch(item->modified), QLocale::ShortFormat)});
-            row->setData(NameColumn, kPathRole, item->path);
-            row->setToolTip(NameColumn, item->path);
-            row->setTextAlignment(SizeColumn, Qt::AlignRight | Qt::AlignVCenter);
-        }
-        groupRow->setTextAlignment(SizeColumn, Qt::AlignRight | Qt::AlignVCenter);
-        rows.append(groupRow);
+    m_finished = true;
+    m_searchingRow->hide();
+    m_filterBar->setEnabled(true);
+    const std::optional<SortDescriptor> sort = m_model.sortDescriptor(ResultList::Top);
+    m_mainList->horizontalHeader()->blockSignals(true);
+    for (const QString &column : listColumnIdentifiers())
+        if (sort && columnSortKey(column) == sort->key)
+            m_mainList->horizontalHeader()->setSortIndicator(m_mainModel->columnOf(column),
+                                                             sort->ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+    m_mainList->horizontalHeader()->blockSignals(false);
+    m_mainList->horizontalHeader()->setSortIndicatorShown(true);
+    m_cloneList->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    reloadList(m_mainList);
+    reloadList(m_cloneList);
+    m_mainList->setFocus(Qt::OtherFocusReason);
+    m_active = ResultList::Top;
+    updateStatus();
+    Q_EMIT selectionDidChange();
+}
+
+void Dupes::updateWindowTitle(const QStringList &locations)
+{
+    const QString subtitle = locations.size() == 1 ? displayName(locations.first())
+                                                   : tr("%1 locations").arg(formatCount(locations.size()));
+    setWindowTitle(tr("%1 — %2").arg(subtitle, QApplication::applicationName()));
+}
+
+bool Dupes::isColumnHidden(const QString &identifier) const
+{
+    return m_modeHiddenColumns.contains(identifier) || m_userHiddenColumns.contains(identifier);
+}
+
+void Dupes::changeListColumn(const QString &identifier, bool shown)
+{
+    if (shown)
+        m_userHiddenColumns.removeAll(identifier);
+    else if (!m_userHiddenColumns.contains(identifier))
+        m_userHiddenColumns.append(identifier);
+    m_settings.setValue(kHiddenColumns, m_userHiddenColumns);
+    updateListsLayout();
+}
+
+void Dupes::updateListsLayout()
+{
+    for (ResultListView *view : {m_mainList, m_cloneList})
+        for (const QString &column : listColumnIdentifiers())
+            view->setColumnHidden(view->resultModel()->columnOf(column), isColumnHidden(column));
+}
+
+void Dupes::saveColumnLayouts()
+{
+    if (!m_finished) return; // the layout of an empty window while it searches says nothing
+    m_settings.setValue(kMainListLayout, m_mainList->horizontalHeader()->saveState());
+    m_settings.setValue(kCloneListLayout, m_cloneList->horizontalHeader()->saveState());
+}
+
+void Dupes::restoreColumnLayouts()
+{
+    const std::pair<ResultListView *, QString> layouts[] = {{m_mainList, kMainListLayout},
+                                                            {m_cloneList, kCloneListLayout}};
+    for (const auto &[view, key] : layouts) {
+        QHeaderView *header = view->horizontalHeader();
+        header->setDefaultSectionSize(110);
+        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("name")), 240);
+        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("path")), 220);
+        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("size")), 80);
+        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("extension")), 60);
+        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("dupes")), 80);
+        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("modified")), 150);
+        const QByteArray state = m_settings.value(key).toByteArray();
+        if (!state.isEmpty()) header->restoreState(state);
     }
-    m_list->addTopLevelItems(rows);
-    m_list->expandAll();
-    for (int column : {NameColumn, SizeColumn, ModifiedColumn})
-        m_list->resizeColumnToContents(column);
-    m_list->show();
+}
+
+void Dupes::changeListSize(int thumbnailSize)
+{
+    m_icons.setSize(thumbnailSize);
+    const int rowHeight = listRowHeight(QFontInfo(m_mainList->font()).pixelSize(), thumbnailSize);
+    m_mainList->setRowHeight(rowHeight);
+    m_cloneList->setRowHeight(rowHeight);
+    m_mainList->setIconSize(QSize(thumbnailSize, thumbnailSize));
+    m_cloneList->setIconSize(QSize(thumbnailSize, thumbnailSize));
+    m_settings.setValue(kResultListSize, thumbnailSize);
+    m_mainList->viewport()->update();
+    m_cloneList->viewport()->update();
+}
+
+void Dupes::changeListFontSize(int pointSize)
+{
+    m_fontSize = pointSize;
+    for (ResultListView *view : {m_mainList, m_cloneList}) {
+        QFont font = view->font();
+        font.setPointSize(pointSize);
+        view->setFont(font);
+    }
+    m_settings.setValue(kListFontSize, pointSize);
+    changeListSize(m_icons.size());
+}
+
+void Dupes::reloadList(ResultListView *view)
+{
+    ++m_ignoreSelectionChange;
+    view->resultModel()->reload();
+    --m_ignoreSelectionChange;
+    selectInView(view);
+}
+
+// Selects in the view what the engine has selected in that list, scrolling to the first row.
+void Dupes::selectInView(ResultListView *view)
+{
+    const ResultList list = view->resultModel()->list();
+    const QList<qsizetype> rows = m_model.selectedRows(list);
+    QItemSelection selection;
+    for (qsizetype i = 0; i < rows.size();) {
+        qsizetype last = i;
+        while (last + 1 < rows.size() && rows[last + 1] == rows[last] + 1)
+            ++last;
+        selection.select(view->model()->index(int(rows[i]), 0),
+                         view->model()->index(int(rows[last]), view->model()->columnCount() - 1));
+        i = last + 1;
+    }
+    ++m_ignoreSelectionChange;
+    view->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!rows.isEmpty()) {
+        const QModelIndex first = view->model()->index(int(rows.first()), 0);
+        view->selectionModel()->setCurrentIndex(first, QItemSelectionModel::NoUpdate);
+        view->scrollTo(first);
+    }
+    --m_ignoreSelectionChange;
+}
+
+void Dupes::viewSelectionChanged(ResultListView *view)
+{
+    if (m_ignoreSelectionChange) return;
+    const ResultList list = view->resultModel()->list();
+    QList<ResultItem *> items;
+    const QItemSelection selection = view->selectionModel()->selection();
+    for (const QItemSelectionRange &range : selection)
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            items.append(view->resultModel()->item(row));
+    m_model.select(list, items);
+    m_active = list;
+    if (list == ResultList::Top) reloadList(m_cloneList);
+    updateStatus();
+    Q_EMIT selectionDidChange();
+}
+
+void Dupes::modelDidChange()
+{
+    m_model.sortMainItemsIncludingHidden();
+    m_model.sortDescriptorsDidChange(ResultList::Top);
+    m_model.select(ResultList::Top, m_model.selectedItems(ResultList::Top));
+    reloadList(m_mainList);
+    reloadList(m_cloneList);
+    updateStatus();
+    Q_EMIT selectionDidChange();
+}
+
+void Dupes::applyFilter()
+{
+    if (!m_finished) return;
+    const FilterCriteria criteria = m_filterBar->criteria();
+    m_filterBar->showRegexError(filter(m_model, criteria));
+    // The filter keeps the selected items that stay visible; the bottom list follows them.
+    m_model.sortDescriptorsDidChange(ResultList::Top);
+    m_model.select(ResultList::Top, m_model.selectedItems(ResultList::Top));
+    reloadList(m_mainList);
+    reloadList(m_cloneList);
+    const QVariantMap saved = filterSettings(criteria);
+    for (auto it = saved.cbegin(); it != saved.cend(); ++it)
+        m_settings.setValue(it.key(), it.value());
+    updateStatus();
+    Q_EMIT selectionDidChange();
+}
+
+ResultList Dupes::activeList() const
+{
+    return m_active == ResultList::Bottom && m_model.cloneItems().isEmpty() ? ResultList::Top : m_active;
+}
+
+QList<ResultItem *> Dupes::targetItems() const
+{
+    return m_model.selectedItems(activeList());
+}
+
+void Dupes::setStatusImage(const ResultItem *item, const QString &name)
+{
+    m_icons.setStatusImage(item, name);
+}
+
+QString Dupes::statusText() const
+{
+    return m_statusLine->text();
+}
+
+QString Dupes::pathBarText() const
+{
+    return m_pathControl->isVisibleTo(this) ? m_pathControl->toolTip() : QString();
+}
+
+void Dupes::updateStatus()
+{
+    if (m_ignoreSelectionChange || !m_finished) return;
+    const StatusLine line = statusLine(m_model, activeList());
+    m_statusLine->setText(line.text);
+    m_pathControl->setVisible(!line.path.isEmpty());
+    m_pathControl->setToolTip(line.path);
+    m_pathControl->setText(QStringLiteral("<span style='color:gray'>%1</span>")
+                               .arg(QString(line.path).replace(QLatin1Char('/'), QStringLiteral(" › ")).toHtmlEscaped()));
+    if (m_previewPane->isVisible()) {
+        const QList<ResultItem *> targets = targetItems();
+        m_previewPane->showItem(targets.size() == 1 ? targets.first() : nullptr);
+    }
 }
 
 bool Dupes::selectAndRevealInTopList(const QString &path)
 {
-    for (int g = 0; g < m_list->topLevelItemCount(); ++g) {
-        QTreeWidgetItem *group = m_list->topLevelItem(g);
-        for (int i = 0; i < group->childCount(); ++i) {
-            QTreeWidgetItem *row = group->child(i);
-            if (row->data(NameColumn, kPathRole).toString() != path)
-                continue;
-            m_list->setCurrentItem(row);
-            m_list->scrollToItem(row);
-            show();
-            raise();
-            activateWindow();
-            return true;
-        }
+    if (!m_model.selectAndRevealInTopList(path)) return false;
+    selectInView(m_mainList);
+    reloadList(m_cloneList);
+    m_active = ResultList::Top;
+    updateStatus();
+    Q_EMIT selectionDidChange();
+    show();
+    raise();
+    activateWindow();
+    return true;
+}
+
+void Dupes::revealSelectedInFileManager()
+{
+    QStringList paths;
+    for (const ResultItem *item : targetItems())
+        paths.append(item->path);
+    if (!paths.isEmpty()) revealInFileManager(paths);
+}
+
+void Dupes::openSelected()
+{
+    for (const ResultItem *item : targetItems())
+        QDesktopServices::openUrl(QUrl::fromLocalFile(item->path));
+}
+
+void Dupes::togglePreview()
+{
+    m_previewPane->setVisible(!m_previewPane->isVisible());
+    m_previewAction->setChecked(m_previewPane->isVisible());
+    updateStatus();
+}
+
+void Dupes::showGPSLocation(int service)
+{
+    for (const ResultItem *item : targetItems())
+        if (!std::isnan(item->latitude()) && !std::isnan(item->longitude()))
+            QDesktopServices::openUrl(QUrl(mapServiceURLs(item->latitude(), item->longitude()).value(service)));
+}
+
+void Dupes::dragEnterEvent(QDragEnterEvent *event)
+{
+    const QObject *source = event->source();
+    const bool ownList = source && (source == m_mainList || source == m_cloneList ||
+                                    source == m_mainList->viewport() || source == m_cloneList->viewport());
+    if (ownList || !event->mimeData()->hasUrls()) {
+        event->ignore();
+        return;
     }
-    return false;
+    event->acceptProposedAction();
+    if (!m_dropIndicatorView) {
+        m_dropIndicatorView = new QWidget(centralWidget());
+        m_dropIndicatorView->setObjectName(QStringLiteral("dropIndicator"));
+        m_dropIndicatorView->setAttribute(Qt::WA_TransparentForMouseEvents);
+        QColor colour = palette().color(QPalette::Highlight);
+        colour.setAlphaF(0.5);
+        m_dropIndicatorView->setStyleSheet(QStringLiteral("background-color: %1").arg(colour.name(QColor::HexArgb)));
+        m_dropIndicatorView->setGeometry(centralWidget()->rect());
+        m_dropIndicatorView->show();
+        m_dropIndicatorView->raise();
+    }
+}
+
+void Dupes::dragLeaveEvent(QDragLeaveEvent *event)
+{
+    removeDropIndicator();
+    event->accept();
+}
+
+void Dupes::dropEvent(QDropEvent *event)
+{
+    removeDropIndicator();
+    QList<QUrl> files;
+    for (const QUrl &url : event->mimeData()->urls())
+        if (url.isLocalFile()) files.append(url);
+    if (files.size() != 1) {
+        event->ignore();
+        return;
+    }
+    selectAndRevealInTopList(QDir::cleanPath(files.first().toLocalFile()));
+    event->acceptProposedAction();
+}
+
+void Dupes::removeDropIndicator()
+{
+    delete m_dropIndicatorView;
+    m_dropIndicatorView = nullptr;
 }
 
 void Dupes::closeEvent(QCloseEvent *event)
 {
+    m_icons.cancelPendingThumbnails();
+    saveColumnLayouts();
     m_search.abortAndWait(true);
     Q_EMIT closed(this);
     event->accept();

@@ -1,44 +1,145 @@
 #pragma once
 
+#include "ItemIcons.h"
+#include "results/ResultModel.h"
 #include "search/DuplicateSearch.h"
 
 #include <QMainWindow>
 
 class QLabel;
+class QMenu;
 class QProgressBar;
 class QPushButton;
-class QTreeWidget;
+class QSplitter;
+class QToolBar;
 
 namespace selfsame {
 
-// A results window: runs one search and lists its groups of duplicates.
+class FilterBar;
+class PreviewPane;
+class ResultListView;
+class ResultTableModel;
+class Settings;
+
+// A results window: runs one search (or shows finished results) in two linked lists, the
+// top list of every item and the bottom list of the selected item's duplicates, with the
+// filter bar above them, the status line and the path of the selected item below them.
+//
+// File actions plug in from outside: they work on resultModel(), put their commands into
+// actionsMenu(), actionsToolBar() and the lists' context menus (contextMenuAboutToShow), mark
+// changed items with setStatusImage() and call modelDidChange() once the items have changed.
 class Dupes : public QMainWindow {
     Q_OBJECT
 public:
-    explicit Dupes(QWidget *parent = nullptr);
+    explicit Dupes(Settings &settings, QWidget *parent = nullptr);
+    ~Dupes() override;
 
+    // Starts a search; the lists fill when it is done.
     void searchInFolderURLs(const SearchRequest &request);
+    // Shows results that are already complete (saved results, for instance), without a search.
+    void showFinishedResults(QList<ResultItem> items, const SearchRequest &request);
 
-    // Selects and shows the item with this path; false when the results do not hold it.
+    // Selects and shows the visible item with this path; false when the results do not hold it.
     bool selectAndRevealInTopList(const QString &path);
+
+    ResultModel &resultModel() { return m_model; }
+    const ResultModel &resultModel() const { return m_model; }
+    bool isSearching() const { return !m_finished; }
+
+    QMenu *actionsMenu() const { return m_actionsMenu; }
+    QToolBar *actionsToolBar() const { return m_actionsToolBar; }
+    // The list that has (or last had) the keyboard focus; an empty bottom list counts as the top.
+    ResultList activeList() const;
+    // The items the commands of the active list apply to: its selected items in row order.
+    QList<ResultItem *> targetItems() const;
+    // Marks an item with the state badge of what an action did to it ("trashed", "deleted",
+    // "cloned", "hard linked", "aliased").
+    void setStatusImage(const ResultItem *item, const QString &name);
+
+    ResultListView *mainList() const { return m_mainList; }
+    ResultListView *cloneList() const { return m_cloneList; }
+    FilterBar *filterBar() const { return m_filterBar; }
+    PreviewPane *previewPane() const { return m_previewPane; }
+    QString statusText() const;
+    QString pathBarText() const;
+
+    // Column visibility: the mode's hidden columns cannot be shown by the user.
+    bool isColumnHidden(const QString &identifier) const;
+    bool canShowColumn(const QString &identifier) const { return !m_modeHiddenColumns.contains(identifier); }
+    void changeListColumn(const QString &identifier, bool shown);
+    void changeListSize(int thumbnailSize);
+    void changeListFontSize(int pointSize);
+
+public Q_SLOTS:
+    // The items changed (moved, deleted, hidden or shown again): both lists are read again,
+    // the selection that is left is kept, and the status line is brought up to date.
+    void modelDidChange();
+    void applyFilter();
+    void revealSelectedInFileManager();
+    void openSelected();
+    void togglePreview();
 
 Q_SIGNALS:
     void finishedSearching(Dupes *dupes);
     void closed(Dupes *dupes);
+    // The context menu of a list is about to open; add commands to `menu`.
+    void contextMenuAboutToShow(QMenu *menu, ResultList list);
+    // The selection of either list changed, or the lists were read again: commands revalidate.
+    void selectionDidChange();
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragLeaveEvent(QDragLeaveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
+    void buildMenus();
+    void fillContextMenu(QMenu *menu, ResultList list);
+    QMenu *columnsMenu(QWidget *parent);
     void showProgress(const QString &status, double progress);
     void searchDone();
-    void fillList(const QList<ResultItem> &items);
+    void prepareWindow(const SearchRequest &request);
+    void showResults();
+    void updateListsLayout();
+    void saveColumnLayouts();
+    void restoreColumnLayouts();
+    void viewSelectionChanged(ResultListView *view);
+    void selectInView(ResultListView *view);
+    void reloadList(ResultListView *view);
+    void updateStatus();
+    void updateWindowTitle(const QStringList &locations);
+    void showGPSLocation(int service);
+    void removeDropIndicator();
 
+    Settings &m_settings;
     DuplicateSearch m_search;
-    QLabel *m_statusLbl;
-    QProgressBar *m_progressBar;
+    ResultModel m_model;
+    ItemIcons m_icons;
+    bool m_finished = false;
+    int m_ignoreSelectionChange = 0;
+    ResultList m_active = ResultList::Top;
+    QStringList m_modeHiddenColumns;
+    QStringList m_userHiddenColumns;
+    int m_fontSize = 0;
+
+    QWidget *m_searchingRow;
+    QLabel *m_statusFld;
+    QProgressBar *m_progressIndicator;
     QPushButton *m_abortBtn;
-    QTreeWidget *m_list;
+    FilterBar *m_filterBar;
+    ResultTableModel *m_mainModel;
+    ResultTableModel *m_cloneModel;
+    ResultListView *m_mainList;
+    ResultListView *m_cloneList;
+    QSplitter *m_previewSplitter;
+    PreviewPane *m_previewPane;
+    QLabel *m_statusLine;
+    QLabel *m_pathControl;
+    QMenu *m_actionsMenu = nullptr;
+    QToolBar *m_actionsToolBar = nullptr;
+    QAction *m_previewAction = nullptr;
+    QWidget *m_dropIndicatorView = nullptr;
 };
 
 } // namespace selfsame

@@ -40,6 +40,8 @@ public:
     const SearchRequest &request() const { return m_request; }
     // Valid once searchDone has been emitted.
     const QList<ResultItem> &mainItems() const { return m_mainItems; }
+    // Hands the items over to their results without copying a million of them.
+    QList<ResultItem> takeMainItems() { return std::move(m_mainItems); }
     const SearchStatistics &statistics() const { return m_statistics; }
 
 Q_SIGNALS:

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QWidget>
+
+class QLabel;
+class QPlainTextEdit;
+
+namespace selfsame {
+
+struct ResultItem;
+
+// A quick look at the selected item beside the lists: the picture of an image, the beginning
+// of a text file, and what the search learnt of the file (size, dates, media values, place).
+class PreviewPane : public QWidget {
+    Q_OBJECT
+public:
+    explicit PreviewPane(QWidget *parent = nullptr);
+
+    // Nothing selected, or several items: the pane says so.
+    void showItem(const ResultItem *item);
+
+private:
+    void showPicture(quint64 request, const QImage &image);
+
+    QLabel *m_picture;
+    QPlainTextEdit *m_text;
+    QLabel *m_info;
+    quint64 m_request = 0; // pictures of earlier items that arrive late are dropped
+};
+
+} // namespace selfsame
