@@ -103,6 +103,8 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
         connect(view, &ResultListView::previewRequested, this, &Dupes::togglePreview);
         connect(view, &ResultListView::contextMenuRequested, this,
                 [this, view = view](QMenu *menu) { fillContextMenu(menu, view->resultModel()->list()); });
+        // A click on an already selected row makes its list the active one as well.
+        connect(view, &QAbstractItemView::pressed, view, &ResultListView::activated);
         connect(view, &ResultListView::activated, this, [this, view = view] {
             m_active = view->resultModel()->list();
             updateStatus();
@@ -575,16 +577,11 @@ void Dupes::showGPSLocation(int service)
             QDesktopServices::openUrl(QUrl(mapServiceURLs(item->latitude(), item->longitude()).value(service)));
 }
 
-void Dupes::dragEnterEvent(QDragEnterEvent *event)
+bool Dupes::draggingEntered(const QMimeData *data, const QObject *source)
 {
-    const QObject *source = event->source();
     const bool ownList = source && (source == m_mainList || source == m_cloneList ||
                                     source == m_mainList->viewport() || source == m_cloneList->viewport());
-    if (ownList || !event->mimeData()->hasUrls()) {
-        event->ignore();
-        return;
-    }
-    event->acceptProposedAction();
+    if (ownList || !data->hasUrls()) return false;
     if (!m_dropIndicatorView) {
         m_dropIndicatorView = new QWidget(centralWidget());
         m_dropIndicatorView->setObjectName(QStringLiteral("dropIndicator"));
@@ -596,6 +593,26 @@ void Dupes::dragEnterEvent(QDragEnterEvent *event)
         m_dropIndicatorView->show();
         m_dropIndicatorView->raise();
     }
+    return true;
+}
+
+bool Dupes::performDragOperation(const QMimeData *data)
+{
+    removeDropIndicator();
+    QList<QUrl> files;
+    for (const QUrl &url : data->urls())
+        if (url.isLocalFile()) files.append(url);
+    if (files.size() != 1) return false;
+    selectAndRevealInTopList(QDir::cleanPath(files.first().toLocalFile()));
+    return true;
+}
+
+void Dupes::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (draggingEntered(event->mimeData(), event->source()))
+        event->acceptProposedAction();
+    else
+        event->ignore();
 }
 
 void Dupes::dragLeaveEvent(QDragLeaveEvent *event)
@@ -606,16 +623,10 @@ void Dupes::dragLeaveEvent(QDragLeaveEvent *event)
 
 void Dupes::dropEvent(QDropEvent *event)
 {
-    removeDropIndicator();
-    QList<QUrl> files;
-    for (const QUrl &url : event->mimeData()->urls())
-        if (url.isLocalFile()) files.append(url);
-    if (files.size() != 1) {
+    if (performDragOperation(event->mimeData()))
+        event->acceptProposedAction();
+    else
         event->ignore();
-        return;
-    }
-    selectAndRevealInTopList(QDir::cleanPath(files.first().toLocalFile()));
-    event->acceptProposedAction();
 }
 
 void Dupes::removeDropIndicator()

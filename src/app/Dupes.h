@@ -7,6 +7,7 @@
 #include <QMainWindow>
 
 class QLabel;
+class QMimeData;
 class QMenu;
 class QProgressBar;
 class QPushButton;
@@ -41,6 +42,11 @@ public:
 
     // Selects and shows the visible item with this path; false when the results do not hold it.
     bool selectAndRevealInTopList(const QString &path);
+
+    // A drag over the window: refused when it comes from the window's own lists, else shown
+    // with the drop indicator. A drop of exactly one file reveals it; false for any other drop.
+    bool draggingEntered(const QMimeData *data, const QObject *source);
+    bool performDragOperation(const QMimeData *data);
 
     ResultModel &resultModel() { return m_model; }
     const ResultModel &resultModel() const { return m_model; }
