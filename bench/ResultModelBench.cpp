@@ -2,83 +2,15 @@
 // groups. Measures building the sorted arrays, one look-up of a group, one full re-sort of
 // the top list by name, and the memory the whole model takes per item.
 
+#include "BenchSupport.h"
 #include "results/ResultModel.h"
 #include "search/FilenameSortKey.h"
 
 #include <QCoreApplication>
-#include <chrono>
 #include <cstdio>
-#include <cstring>
-#include <ctime>
-#include <malloc.h>
 #include <random>
 
 using namespace selfsame;
-
-namespace
-{
-
-// Wall and processor time of one step: on a shared machine the processor time is the
-// steadier figure (this program runs on one thread).
-struct Timer {
-    std::chrono::steady_clock::time_point wall = std::chrono::steady_clock::now();
-    std::clock_t cpu = std::clock();
-    QByteArray stop(int repeats = 1) const
-    {
-        const double wallMs =
-            std::chrono::duration<double, std::milli>(std::chrono::steady_clock::now() - wall).count();
-        const double cpuMs = 1000.0 * double(std::clock() - cpu) / CLOCKS_PER_SEC;
-        const int precision = repeats > 1 ? 4 : (wallMs < 10 ? 3 : 0);
-        return QByteArray::number(wallMs / repeats, 'f', precision) + " ms (processor " +
-               QByteArray::number(cpuMs / repeats, 'f', precision) + " ms)";
-    }
-};
-
-// Small blocks from the heap plus the large ones that malloc maps on their own.
-std::size_t heapInUse()
-{
-    const struct mallinfo2 info = mallinfo2();
-    return info.uordblks + info.hblkhd;
-}
-
-// Paths shaped like a photo and document collection: a few thousand folders, numbered names.
-QList<ResultItem> syntheticItems(int count, int groups, std::mt19937_64 &random)
-{
-    static const char *kinds[] = {"Pictures/Camera", "Documents/Scans", "Music/Albums", "Downloads/Archive"};
-    static const char *extensions[] = {"jpg", "pdf", "flac", "zip", "png", "mp4"};
-    QList<ResultItem> items;
-    items.reserve(count);
-    for (int i = 0; i < count; ++i) {
-        const int group = int(std::uint64_t(i) * std::uint64_t(groups) / std::uint64_t(count));
-        ResultItem item;
-        const std::uint64_t folder = random() % 4000;
-        item.path = QStringLiteral("/home/someone/%1/%2-%3/file_%4 copy.%5")
-                        .arg(QLatin1String(kinds[folder % 4]))
-                        .arg(2000 + folder % 25)
-                        .arg(folder)
-                        .arg(random() % 1'000'000)
-                        .arg(QLatin1String(extensions[group % 6]));
-        item.group = group;
-        item.dupes = 3;
-        item.size = qint64(1000 + group * 37);
-        item.physicalSize = (item.size + 4095) / 4096 * 4096;
-        item.modified = 1'600'000'000 + qint64(random() % 100'000'000);
-        item.lastUsed = item.modified;
-        item.attributes = item.modified;
-        item.device = 2049;
-        item.inode = 1'000'000 + std::uint64_t(i);
-        std::mt19937_64 content(std::uint64_t(group) * 2654435761u); // equal within a group
-        for (std::size_t b = 0; b < item.digest.size(); b += 8) {
-            const std::uint64_t word = content();
-            std::memcpy(item.digest.data() + b, &word, 8);
-        }
-        item.set(HasDigest);
-        items.append(std::move(item));
-    }
-    return items;
-}
-
-} // namespace
 
 int main(int argc, char *argv[])
 {
