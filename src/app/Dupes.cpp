@@ -527,8 +527,9 @@ void Dupes::updateStatus()
     m_statusLine->setText(line.text);
     m_pathControl->setVisible(!line.path.isEmpty());
     m_pathControl->setToolTip(line.path);
+    const QStringList components = line.path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
     m_pathControl->setText(QStringLiteral("<span style='color:gray'>%1</span>")
-                               .arg(QString(line.path).replace(QLatin1Char('/'), QStringLiteral(" › ")).toHtmlEscaped()));
+                               .arg(components.join(QStringLiteral(" › ")).toHtmlEscaped()));
     if (m_previewPane->isVisible()) {
         const QList<ResultItem *> targets = targetItems();
         m_previewPane->showItem(targets.size() == 1 ? targets.first() : nullptr);

@@ -3,6 +3,7 @@
 // since the epoch) until the main window was first drawn.
 #include "AppDelegate.h"
 #include "AttributeChooser.h"
+#include "ResultPictures.h"
 #include "SearchOptionsPanel.h"
 #include "Settings.h"
 #include "WelcomePanel.h"
@@ -54,8 +55,8 @@ int main(int argc, char *argv[])
     QApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/selfsame.svg")));
     const QStringList args = QApplication::arguments();
-    if (args.size() != 3) {
-        std::fprintf(stderr, "usage: selfsame-screenshot OUTPUT_FOLDER STARTED_AT_NS\n");
+    if (args.size() != 3 && args.size() != 5) {
+        std::fprintf(stderr, "usage: selfsame-screenshot OUTPUT_FOLDER STARTED_AT_NS [CORPUS SCRATCH_FOLDER]\n");
         return 2;
     }
     const QDir output(args[1]);
@@ -88,6 +89,8 @@ int main(int argc, char *argv[])
         welcome.showCentered();
         settle();
         welcome.grab().save(output.filePath(QStringLiteral("welcome.png")));
+        welcome.close();
+        if (args.size() == 5) selfsame::drawResultWindows(settings, args[3], args[4], output);
         QApplication::quit();
     });
     window.installEventFilter(&firstPaint);

@@ -1,0 +1,169 @@
+#include "ResultPictures.h"
+
+#include "Dupes.h"
+#include "FilterBar.h"
+#include "ResultListView.h"
+#include "ResultTableModel.h"
+
+#include <QApplication>
+#include <QComboBox>
+#include <QDataStream>
+#include <QFile>
+#include <QLineEdit>
+#include <QPainter>
+#include <QEventLoop>
+#include <QTimer>
+
+#include <cstring>
+#include <sys/xattr.h>
+
+namespace selfsame {
+
+namespace {
+
+void settle(int ms)
+{
+    QEventLoop loop;
+    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+// A photo-like picture: a gradient with a few shapes, different for every seed.
+void writePicture(const QString &path, int seed, int width, int height)
+{
+    QImage image(width, height, QImage::Format_RGB32);
+    QPainter painter(&image);
+    QLinearGradient sky(0, 0, 0, height);
+    sky.setColorAt(0, QColor::fromHsv((seed * 47) % 360, 120, 230));
+    sky.setColorAt(1, QColor::fromHsv((seed * 47 + 40) % 360, 160, 120));
+    painter.fillRect(image.rect(), sky);
+    painter.setBrush(QColor::fromHsv((seed * 91) % 360, 200, 250));
+    painter.setPen(Qt::NoPen);
+    painter.drawEllipse(QPoint(width / 3 + seed * 13 % (width / 3), height / 3), height / 6, height / 6);
+    painter.setBrush(QColor(40, 70, 40));
+    painter.drawRect(0, height * 3 / 4, width, height / 4);
+    painter.end();
+    image.save(path, "JPG", 85);
+}
+
+// A silent sound of the given length: 8 kHz, 8 bits, one channel.
+void writeSound(const QString &path, double seconds, char fill)
+{
+    const quint32 samples = quint32(seconds * 8000);
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) return;
+    QDataStream out(&file);
+    out.setByteOrder(QDataStream::LittleEndian);
+    out.writeRawData("RIFF", 4);
+    out << quint32(36 + samples);
+    out.writeRawData("WAVEfmt ", 8);
+    out << quint32(16) << quint16(1) << quint16(1) << quint32(8000) << quint32(8000) << quint16(1) << quint16(8);
+    out.writeRawData("data", 4);
+    out << samples;
+    file.write(QByteArray(samples, fill));
+}
+
+void tag(const QString &path, const char *tags)
+{
+    ::setxattr(QFile::encodeName(path).constData(), "user.xdg.tags", tags, std::strlen(tags), 0);
+}
+
+QString makeSamples(const QString &scratch)
+{
+    QDir root(scratch);
+    for (const char *folder : {"Photos/2023 Holiday", "Photos/Backup", "Photos/Phone", "Sounds/Recordings", "Sounds/Copies"})
+        root.mkpath(QLatin1String(folder));
+    const struct {
+        const char *name;
+        int seed, width, height;
+    } pictures[] = {{"Beach", 1, 640, 480}, {"Sunset", 2, 640, 480}, {"Harbour", 3, 800, 600}, {"Market", 4, 480, 360}};
+    for (const auto &picture : pictures) {
+        const QString original = root.filePath(QStringLiteral("Photos/2023 Holiday/%1.jpg").arg(QLatin1String(picture.name)));
+        writePicture(original, picture.seed, picture.width, picture.height);
+        QFile::copy(original, root.filePath(QStringLiteral("Photos/Backup/%1 copy.jpg").arg(QLatin1String(picture.name))));
+        if (picture.seed % 2)
+            QFile::copy(original, root.filePath(QStringLiteral("Photos/Phone/IMG_%1.jpg").arg(1000 + picture.seed)));
+    }
+    tag(root.filePath(QStringLiteral("Photos/2023 Holiday/Beach.jpg")), "Blue,Holiday");
+    tag(root.filePath(QStringLiteral("Photos/Backup/Sunset copy.jpg")), "Red");
+    writeSound(root.filePath(QStringLiteral("Sounds/Recordings/Interview.wav")), 4, 1);
+    writeSound(root.filePath(QStringLiteral("Sounds/Copies/Interview (edited).wav")), 4, 2);
+    writeSound(root.filePath(QStringLiteral("Sounds/Recordings/Birds.wav")), 6.5, 3);
+    writeSound(root.filePath(QStringLiteral("Sounds/Copies/Birds.wav")), 6.5, 3);
+    writeSound(root.filePath(QStringLiteral("Sounds/Recordings/Rain.wav")), 9, 4);
+    return scratch;
+}
+
+Dupes *search(Settings &settings, DetectionMode mode, const QStringList &locations, const QString &attribute = {})
+{
+    auto *dupes = new Dupes(settings);
+    dupes->setAttribute(Qt::WA_DeleteOnClose, false);
+    dupes->resize(1180, 640);
+    dupes->show();
+    SearchRequest request;
+    request.searchInFolderURLs = locations;
+    request.detectionMode = mode;
+    request.spotlightAttribute = attribute;
+    request.durationTolerance = 0.1;
+    QEventLoop loop;
+    QObject::connect(dupes, &Dupes::finishedSearching, &loop, &QEventLoop::quit);
+    dupes->searchInFolderURLs(request);
+    loop.exec();
+    return dupes;
+}
+
+void selectRow(Dupes *dupes, int row)
+{
+    ResultListView *top = dupes->mainList();
+    top->selectionModel()->select(top->model()->index(row, 0),
+                                  QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    top->setFocus();
+}
+
+void save(Dupes *dupes, const QDir &output, const QString &name)
+{
+    settle(400); // thumbnails
+    dupes->grab().save(output.filePath(name));
+    delete dupes;
+}
+
+} // namespace
+
+void drawResultWindows(Settings &settings, const QString &corpus, const QString &scratch, const QDir &output)
+{
+    const QString samples = makeSamples(scratch);
+    const QString photos = samples + QStringLiteral("/Photos");
+    const QString sounds = samples + QStringLiteral("/Sounds");
+
+    Dupes *content = search(settings, DetectionMode::Content, {photos, corpus});
+    content->changeListSize(32);
+    selectRow(content, 0);
+    save(content, output, QStringLiteral("results-content.png"));
+
+    Dupes *duration = search(settings, DetectionMode::Duration, {sounds});
+    duration->changeListSize(16);
+    selectRow(duration, 0);
+    save(duration, output, QStringLiteral("results-duration.png"));
+
+    Dupes *filename = search(settings, DetectionMode::FileName, {corpus});
+    selectRow(filename, 2);
+    save(filename, output, QStringLiteral("results-filename.png"));
+
+    Dupes *attribute = search(settings, DetectionMode::Attribute, {photos}, QStringLiteral("kMDItemPixelHeight"));
+    attribute->changeListSize(32);
+    selectRow(attribute, 1);
+    attribute->togglePreview();
+    save(attribute, output, QStringLiteral("results-attribute.png"));
+
+    Dupes *filtered = search(settings, DetectionMode::Content, {photos, corpus});
+    auto *criterion = filtered->filterBar()->findChild<QComboBox *>(QStringLiteral("filterStringCriterion"));
+    criterion->setCurrentIndex(criterion->findData(QStringLiteral("URL.path.lastPathComponent")));
+    auto *op = filtered->filterBar()->findChild<QComboBox *>(QStringLiteral("filterStringOperator"));
+    op->setCurrentIndex(op->findData(0));
+    filtered->filterBar()->textField()->setText(QStringLiteral("jpg"));
+    filtered->applyFilter();
+    selectRow(filtered, 0);
+    save(filtered, output, QStringLiteral("results-filter.png"));
+}
+
+} // namespace selfsame
