@@ -108,6 +108,7 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
         connect(view, &ResultListView::activated, this, [this, view = view] {
             m_active = view->resultModel()->list();
             updateStatus();
+            validateItemActions();
         });
         connect(view, &QAbstractItemView::doubleClicked, this, &Dupes::openSelected);
         connect(view->horizontalHeader(), &QHeaderView::customContextMenuRequested, this,
@@ -202,31 +203,38 @@ void Dupes::buildMenus()
     m_actionsMenu->setObjectName(QStringLiteral("actionsMenu"));
 
     QMenu *item = menuBar()->addMenu(tr("&Item"));
-    connect(item, &QMenu::aboutToShow, this, [this, item] {
-        item->clear();
-        fillContextMenu(item, activeList());
+    m_openAction = item->addAction(tr("&Open"), this, &Dupes::openSelected);
+    m_revealAction = item->addAction(tr("Show in File &Manager"), this, &Dupes::revealSelectedInFileManager);
+    m_revealAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
+    item->addAction(m_previewAction);
+    item->addSeparator();
+    const char *services[] = {QT_TR_NOOP("Show Location in Apple &Maps"), QT_TR_NOOP("Show Location in &Google Maps"),
+                              QT_TR_NOOP("Show Location in &OpenStreetMap")};
+    for (int service = 0; service < 3; ++service)
+        m_mapActions.append(item->addAction(tr(services[service]), this, [this, service] { showGPSLocation(service); }));
+    connect(this, &Dupes::selectionDidChange, this, &Dupes::validateItemActions);
+    validateItemActions();
+}
+
+void Dupes::validateItemActions()
+{
+    const QList<ResultItem *> targets = targetItems();
+    m_openAction->setEnabled(!targets.isEmpty());
+    m_revealAction->setEnabled(!targets.isEmpty());
+    const bool located = std::any_of(targets.begin(), targets.end(), [](const ResultItem *item) {
+        return !std::isnan(item->latitude()) && !std::isnan(item->longitude());
     });
+    for (QAction *action : m_mapActions)
+        action->setEnabled(located);
 }
 
 void Dupes::fillContextMenu(QMenu *menu, ResultList list)
 {
     m_active = list;
-    const QList<ResultItem *> targets = targetItems();
-    QAction *open = menu->addAction(tr("&Open"), this, &Dupes::openSelected);
-    open->setEnabled(!targets.isEmpty());
-    QAction *reveal = menu->addAction(tr("Show in File &Manager"), this, &Dupes::revealSelectedInFileManager);
-    reveal->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
-    reveal->setEnabled(!targets.isEmpty());
-    QAction *preview = menu->addAction(tr("&Preview"), this, &Dupes::togglePreview);
-    preview->setShortcut(QKeySequence(Qt::Key_Space));
+    validateItemActions();
+    menu->addActions({m_openAction, m_revealAction, m_previewAction});
     menu->addSeparator();
-    const bool located = std::any_of(targets.begin(), targets.end(), [](const ResultItem *item) {
-        return !std::isnan(item->latitude()) && !std::isnan(item->longitude());
-    });
-    const char *services[] = {QT_TR_NOOP("Show Location in Apple &Maps"), QT_TR_NOOP("Show Location in &Google Maps"),
-                              QT_TR_NOOP("Show Location in &OpenStreetMap")};
-    for (int service = 0; service < 3; ++service)
-        menu->addAction(tr(services[service]), this, [this, service] { showGPSLocation(service); })->setEnabled(located);
+    menu->addActions(m_mapActions);
     Q_EMIT contextMenuAboutToShow(menu, list);
 }
 

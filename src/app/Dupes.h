@@ -102,6 +102,7 @@ protected:
 private:
     void buildMenus();
     void fillContextMenu(QMenu *menu, ResultList list);
+    void validateItemActions();
     QMenu *columnsMenu(QWidget *parent);
     void showProgress(const QString &status, double progress);
     void searchDone();
@@ -145,6 +146,9 @@ private:
     QMenu *m_actionsMenu = nullptr;
     QToolBar *m_actionsToolBar = nullptr;
     QAction *m_previewAction = nullptr;
+    QAction *m_openAction = nullptr;
+    QAction *m_revealAction = nullptr;
+    QList<QAction *> m_mapActions;
     QWidget *m_dropIndicatorView = nullptr;
 };
 

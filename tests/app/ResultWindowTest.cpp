@@ -108,6 +108,18 @@ TEST(ResultWindow, TheSelectedTopRowFillsTheBottomListWithItsGroup)
     EXPECT_EQ(w.cell(w.bottom(), QStringLiteral("b"), QStringLiteral("clone")), QStringLiteral("selected"));
     EXPECT_EQ(w.cell(w.bottom(), QStringLiteral("a"), QStringLiteral("clone")), QString());
     EXPECT_EQ(w.cell(w.top(), QStringLiteral("c"), QStringLiteral("path")), QStringLiteral("sub"));
+    // Sorted by size, the top list shows its groups in alternating colours; the status of the
+    // selected item itself has its colour in the bottom list.
+    auto background = [&](ResultListView *view, const char *name, const char *column) {
+        return view->model()->data(view->model()->index(w.rowOf(view, QLatin1String(name)),
+                                                        view->resultModel()->columnOf(QLatin1String(column))),
+                                   Qt::BackgroundRole);
+    };
+    EXPECT_EQ(background(w.top(), "a", "name"), background(w.top(), "c", "name"));
+    EXPECT_NE(background(w.top(), "a", "name"), background(w.top(), "d", "name"));
+    EXPECT_FALSE(background(w.top(), "a", "size").isValid());
+    EXPECT_TRUE(background(w.bottom(), "b", "clone").isValid());
+    EXPECT_FALSE(background(w.bottom(), "a", "clone").isValid());
     EXPECT_EQ(w.selectedNames(w.bottom()).size(), 1) << "the first duplicate is selected";
     EXPECT_EQ(w.dupes->pathBarText(), w.tree.path(QStringLiteral("x/b")));
     EXPECT_EQ(w.dupes->statusText(), QStringLiteral("5 items"));

@@ -2,6 +2,7 @@
 
 #include "results/ItemKeys.h"
 #include "results/NameCompare.h"
+#include "results/ParallelSort.h"
 #include "search/FilenameSortKey.h"
 
 #include <algorithm>
@@ -84,7 +85,7 @@ QList<SortDescriptor> sortDescriptorsFor(const SortDescriptor &clicked, Detectio
 void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, DetectionMode mode)
 {
     if (clicked.key == QLatin1String("extension")) {
-        std::stable_sort(items.begin(), items.end(), [&](const ResultItem *a, const ResultItem *b) {
+        parallelStableSort(items.begin(), items.end(), [&](const ResultItem *a, const ResultItem *b) {
             return compareExtensions(*a, *b, clicked.ascending) < 0;
         });
         return;
@@ -105,7 +106,7 @@ void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, Detect
         return false;
     };
     if (!naturalKey) {
-        std::stable_sort(items.begin(), items.end(), inOrder);
+        parallelStableSort(items.begin(), items.end(), inOrder);
         return;
     }
     // Natural comparison of texts is slow to repeat: compute each item's key once, all of
@@ -128,7 +129,7 @@ void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, Detect
     }
     const std::u16string_view all(keys);
     const bool ascending = comparisons.first().ascending;
-    std::stable_sort(keyed.begin(), keyed.end(), [&](const Keyed &a, const Keyed &b) {
+    parallelStableSort(keyed.begin(), keyed.end(), [&](const Keyed &a, const Keyed &b) {
         if (const int c = all.substr(a.offset, a.length).compare(all.substr(b.offset, b.length)))
             return ascending ? c < 0 : c > 0;
         return inOrder(a.item, b.item);
