@@ -59,6 +59,9 @@ QVariant ResultTableModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         if (isDateColumn(column)) return {};
+        // A status is relative to the item selected in the top list: in the top list itself it
+        // would be left over from an earlier selection.
+        if (m_list == ResultList::Top && column == QLatin1String("clone")) return {};
         return cellText(*item, column, m_spotlightAttribute);
     case DateRole:
         if (const std::optional<qint64> date = cellDate(*item, column)) return *date;

@@ -107,6 +107,7 @@ TEST(ResultWindow, TheSelectedTopRowFillsTheBottomListWithItsGroup)
     EXPECT_EQ(group, (QStringList{QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c")}));
     EXPECT_EQ(w.cell(w.bottom(), QStringLiteral("b"), QStringLiteral("clone")), QStringLiteral("selected"));
     EXPECT_EQ(w.cell(w.bottom(), QStringLiteral("a"), QStringLiteral("clone")), QString());
+    EXPECT_EQ(w.cell(w.top(), QStringLiteral("b"), QStringLiteral("clone")), QString()) << "statuses are the bottom list's";
     EXPECT_EQ(w.cell(w.top(), QStringLiteral("c"), QStringLiteral("path")), QStringLiteral("sub"));
     // Sorted by size, the top list shows its groups in alternating colours; the status of the
     // selected item itself has its colour in the bottom list.
@@ -197,8 +198,16 @@ TEST(ResultWindow, ColumnsHiddenByTheModeCannotBeShownAndTheUsersChoiceIsKept)
     EXPECT_TRUE(hidden(w.top(), "size") && hidden(w.bottom(), "size"));
     EXPECT_EQ(w.settings.stringListValue(QStringLiteral("hidden columns")), QStringList{QStringLiteral("size")});
 
+    // Widths and order are kept for the next window.
+    QHeaderView *header = w.top()->horizontalHeader();
+    const int folder = w.top()->resultModel()->columnOf(QStringLiteral("folder"));
+    header->resizeSection(folder, 321);
+    header->moveSection(header->visualIndex(folder), 0);
+
     // The next window in another mode hides the user's columns and that mode's own.
     w.open(DetectionMode::FileName);
+    EXPECT_EQ(w.top()->horizontalHeader()->sectionSize(folder), 321);
+    EXPECT_EQ(w.top()->horizontalHeader()->visualIndex(folder), 0);
     EXPECT_TRUE(hidden(w.top(), "size"));
     EXPECT_FALSE(hidden(w.top(), "modified"));
     w.dupes->changeListColumn(QStringLiteral("size"), true);

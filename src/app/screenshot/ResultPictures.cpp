@@ -4,6 +4,7 @@
 #include "FilterBar.h"
 #include "ResultListView.h"
 #include "ResultTableModel.h"
+#include "Settings.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -151,9 +152,17 @@ void drawResultWindows(Settings &settings, const QString &corpus, const QString 
 
     Dupes *attribute = search(settings, DetectionMode::Attribute, {photos}, QStringLiteral("kMDItemPixelHeight"));
     attribute->changeListSize(32);
+    // Room for the attribute's own column and the tags.
+    const QStringList narrower{QStringLiteral("folder"), QStringLiteral("extension"), QStringLiteral("modified"),
+                               QStringLiteral("created"), QStringLiteral("lastUsed"), QStringLiteral("addedDate"),
+                               QStringLiteral("attributes"), QStringLiteral("duration"), QStringLiteral("codecs"),
+                               QStringLiteral("bitrate"), QStringLiteral("path")};
+    for (const QString &column : narrower)
+        attribute->changeListColumn(column, false);
     selectRow(attribute, 1);
     attribute->togglePreview();
     save(attribute, output, QStringLiteral("results-attribute.png"));
+    settings.remove(QStringLiteral("hidden columns"));
 
     Dupes *filtered = search(settings, DetectionMode::Content, {photos, corpus});
     auto *criterion = filtered->filterBar()->findChild<QComboBox *>(QStringLiteral("filterStringCriterion"));
