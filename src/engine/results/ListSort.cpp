@@ -6,6 +6,10 @@
 #include "search/FilenameSortKey.h"
 
 #include <algorithm>
+#include <string>
+#include <string_view>
+#include <thread>
+#include <vector>
 
 namespace selfsame
 {
@@ -109,29 +113,46 @@ void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, Detect
         parallelStableSort(items.begin(), items.end(), inOrder);
         return;
     }
-    // Natural comparison of texts is slow to repeat: compute each item's key once, all of
-    // them in one buffer, and compare the items themselves only where the keys tie.
+    // Natural comparison of texts is slow to repeat: compute each item's key once, into one
+    // buffer per share of the items (the shares on all cores), and compare the items themselves
+    // only where the keys tie.
     struct Keyed {
-        std::size_t offset, length;
+        std::u16string_view key;
         ResultItem *item;
     };
-    std::u16string keys;
-    keys.reserve(std::size_t(items.size()) * 32); // names are mostly shorter: one allocation
-    std::vector<Keyed> keyed;
-    keyed.reserve(std::size_t(items.size()));
-    for (ResultItem *item : items) {
-        const std::size_t offset = keys.size();
+    const auto keyOf = [naturalKey](const ResultItem &item, std::u16string &keys) {
         if (naturalKey->text)
-            appendNaturalSortKey(naturalKey->text(*item), keys);
+            appendNaturalSortKey(naturalKey->text(item), keys);
         else
-            appendNaturalSortKey(naturalKey->value(*item).toString(), keys);
-        keyed.push_back({offset, keys.size() - offset, item});
-    }
-    const std::u16string_view all(keys);
+            appendNaturalSortKey(naturalKey->value(item).toString(), keys);
+    };
+    const std::size_t count = std::size_t(items.size());
+    const std::size_t shares = count < 65'536 ? 1 : std::clamp(std::thread::hardware_concurrency(), 1u, 8u);
+    std::vector<std::u16string> buffers(shares);
+    std::vector<Keyed> keyed(count);
+    const auto makeKeys = [&](std::size_t share) {
+        const std::size_t first = count * share / shares, last = count * (share + 1) / shares;
+        std::u16string &keys = buffers[share];
+        keys.reserve((last - first) * 32); // names are mostly shorter: one allocation
+        std::vector<std::size_t> ends;
+        ends.reserve(last - first);
+        for (std::size_t i = first; i < last; ++i) {
+            keyOf(*items[qsizetype(i)], keys);
+            ends.push_back(keys.size());
+        }
+        // Views only once the buffer has stopped growing.
+        for (std::size_t i = first, begin = 0; i < last; begin = ends[i - first], ++i)
+            keyed[i] = {std::u16string_view(keys).substr(begin, ends[i - first] - begin), items[qsizetype(i)]};
+    };
+    std::vector<std::thread> helpers;
+    for (std::size_t share = 1; share < shares; ++share)
+        helpers.emplace_back(makeKeys, share);
+    makeKeys(0);
+    for (std::thread &helper : helpers)
+        helper.join();
     const bool ascending = comparisons.first().ascending;
     parallelStableSort(keyed.begin(), keyed.end(), [&](const Keyed &a, const Keyed &b) {
-        if (const int c = all.substr(a.offset, a.length).compare(all.substr(b.offset, b.length)))
-            return ascending ? c < 0 : c > 0;
+        if (const int c = a.key.compare(b.key)) return ascending ? c < 0 : c > 0;
         return inOrder(a.item, b.item);
     });
     for (std::size_t i = 0; i < keyed.size(); ++i)
