@@ -127,11 +127,11 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
     lists->setChildrenCollapsible(false);
     m_previewPane = new PreviewPane;
     m_previewPane->hide();
-    m_previewSplitter = new QSplitter(Qt::Horizontal);
-    m_previewSplitter->addWidget(lists);
-    m_previewSplitter->addWidget(m_previewPane);
-    m_previewSplitter->setStretchFactor(0, 3);
-    m_previewSplitter->setStretchFactor(1, 1);
+    auto *previewSplitter = new QSplitter(Qt::Horizontal);
+    previewSplitter->addWidget(lists);
+    previewSplitter->addWidget(m_previewPane);
+    previewSplitter->setStretchFactor(0, 3);
+    previewSplitter->setStretchFactor(1, 1);
 
     m_statusLine = new QLabel;
     m_statusLine->setObjectName(QStringLiteral("statusLine"));
@@ -148,7 +148,7 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
     auto *layout = new QVBoxLayout(central);
     layout->addWidget(m_searchingRow);
     layout->addWidget(m_filterBar);
-    layout->addWidget(m_previewSplitter, 1);
+    layout->addWidget(previewSplitter, 1);
     layout->addLayout(statusRow);
     setCentralWidget(central);
 
@@ -417,7 +417,6 @@ void Dupes::changeListSize(int thumbnailSize)
 
 void Dupes::changeListFontSize(int pointSize)
 {
-    m_fontSize = pointSize;
     for (ResultListView *view : {m_mainList, m_cloneList}) {
         QFont font = view->font();
         font.setPointSize(pointSize);

@@ -11,7 +11,6 @@ class QMimeData;
 class QMenu;
 class QProgressBar;
 class QPushButton;
-class QSplitter;
 class QToolBar;
 
 namespace selfsame {
@@ -50,7 +49,6 @@ public:
 
     ResultModel &resultModel() { return m_model; }
     const ResultModel &resultModel() const { return m_model; }
-    bool isSearching() const { return !m_finished; }
 
     QMenu *actionsMenu() const { return m_actionsMenu; }
     QToolBar *actionsToolBar() const { return m_actionsToolBar; }
@@ -128,7 +126,6 @@ private:
     ResultList m_active = ResultList::Top;
     QStringList m_modeHiddenColumns;
     QStringList m_userHiddenColumns;
-    int m_fontSize = 0;
 
     QWidget *m_searchingRow;
     QLabel *m_statusFld;
@@ -139,7 +136,6 @@ private:
     ResultTableModel *m_cloneModel;
     ResultListView *m_mainList;
     ResultListView *m_cloneList;
-    QSplitter *m_previewSplitter;
     PreviewPane *m_previewPane;
     QLabel *m_statusLine;
     QLabel *m_pathControl;

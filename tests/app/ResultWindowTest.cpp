@@ -246,6 +246,19 @@ TEST(ResultWindow, TheFilterBarHidesItemsAndTheStatusLineCountsThem)
     EXPECT_EQ(w.top()->model()->rowCount(), 5);
     EXPECT_TRUE(bar->findChild<QToolButton *>()->isVisibleTo(bar));
 
+    // Modified within the last day: the files were just made, all pass; older than a day: none.
+    bar->textField()->clear();
+    auto *dateOperator = bar->findChild<QComboBox *>(QStringLiteral("filterDateOperator"));
+    bar->dateValueField()->setValue(1);
+    Q_EMIT bar->textField()->returnPressed();
+    EXPECT_EQ(w.top()->model()->rowCount(), 5);
+    dateOperator->setCurrentIndex(dateOperator->findData(1));
+    Q_EMIT bar->textField()->returnPressed();
+    EXPECT_EQ(w.top()->model()->rowCount(), 0);
+    EXPECT_EQ(w.bottom()->model()->rowCount(), 0);
+    EXPECT_EQ(w.dupes->statusText(), QStringLiteral("0 items (5 hidden)"));
+    dateOperator->setCurrentIndex(dateOperator->findData(0));
+
     // Clearing the text and the date number shows everything again.
     bar->textField()->clear();
     bar->dateValueField()->setValue(0);
