@@ -31,6 +31,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSignalBlocker>
 #include <QSplitter>
 #include <QTimer>
 #include <QToolBar>
@@ -331,15 +332,18 @@ void Dupes::showResults()
     m_finished = true;
     m_searchingRow->hide();
     m_filterBar->setEnabled(true);
-    const std::optional<SortDescriptor> sort = m_model.sortDescriptor(ResultList::Top);
-    m_mainList->horizontalHeader()->blockSignals(true);
-    for (const QString &column : listColumnIdentifiers())
-        if (sort && columnSortKey(column) == sort->key)
-            m_mainList->horizontalHeader()->setSortIndicator(m_mainModel->columnOf(column),
-                                                             sort->ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
-    m_mainList->horizontalHeader()->blockSignals(false);
-    m_mainList->horizontalHeader()->setSortIndicatorShown(true);
-    m_cloneList->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    // The headers show the engine's sorts (the top list's default, the bottom list's last one)
+    // without sorting again.
+    for (ResultListView *view : {m_mainList, m_cloneList}) {
+        const std::optional<SortDescriptor> sort = m_model.sortDescriptor(view->resultModel()->list());
+        int section = -1;
+        for (const QString &column : listColumnIdentifiers())
+            if (sort && columnSortKey(column) == sort->key) section = view->resultModel()->columnOf(column);
+        QHeaderView *header = view->horizontalHeader();
+        const QSignalBlocker blocker(header);
+        header->setSortIndicator(section, sort && !sort->ascending ? Qt::DescendingOrder : Qt::AscendingOrder);
+        header->viewport()->update();
+    }
     reloadList(m_mainList);
     reloadList(m_cloneList);
     m_mainList->setFocus(Qt::OtherFocusReason);

@@ -100,6 +100,8 @@ TEST(ResultWindow, TheSelectedTopRowFillsTheBottomListWithItsGroup)
     ASSERT_EQ(w.top()->model()->rowCount(), 5);
     EXPECT_EQ(w.dupes->statusText(), QStringLiteral("5 items"));
     EXPECT_EQ(w.bottom()->model()->rowCount(), 0);
+    EXPECT_EQ(w.top()->horizontalHeader()->sortIndicatorSection(), w.top()->resultModel()->columnOf(QStringLiteral("size")));
+    EXPECT_EQ(w.top()->horizontalHeader()->sortIndicatorOrder(), Qt::DescendingOrder) << "largest first";
 
     w.click(w.top(), QStringLiteral("b"));
     QStringList group = w.names(w.bottom());
