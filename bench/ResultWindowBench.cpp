@@ -57,12 +57,14 @@ int main(int argc, char *argv[])
     const std::size_t heapAfter = heapInUse();
 
     ResultListView *top = window->mainList();
+    // As a click on the header does it: QTableView::sortByColumn would sort twice.
+    QHeaderView *header = top->horizontalHeader();
     timer = Timer();
-    top->sortByColumn(top->resultModel()->columnOf(QStringLiteral("name")), Qt::AscendingOrder);
+    header->setSortIndicator(top->resultModel()->columnOf(QStringLiteral("name")), Qt::AscendingOrder);
     drawNow(top->viewport());
     const QByteArray byName = timer.stop();
     timer = Timer();
-    top->sortByColumn(top->resultModel()->columnOf(QStringLiteral("size")), Qt::DescendingOrder);
+    header->setSortIndicator(top->resultModel()->columnOf(QStringLiteral("size")), Qt::DescendingOrder);
     drawNow(top->viewport());
     const QByteArray bySize = timer.stop();
 

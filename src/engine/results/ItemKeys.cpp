@@ -58,9 +58,14 @@ int compareVariants(const QVariant &a, const QVariant &b)
 #define NUMBER_KEY(key, field)                                                                                \
     ItemKey { key, [](const ResultItem &i) { return QVariant(i.field); },                                     \
               [](const ResultItem &a, const ResultItem &b) { return order(a.field, b.field); } }
+#define INTEGER_KEY(key, field)                                                                               \
+    ItemKey { key, [](const ResultItem &i) { return QVariant(i.field); },                                     \
+              [](const ResultItem &a, const ResultItem &b) { return order(a.field, b.field); }, nullptr, nullptr, \
+              [](const ResultItem &i) { return qint64(i.field); } }
 #define DATE_KEY(key, field)                                                                                  \
     ItemKey { key, [](const ResultItem &i) { return date(i.field); },                                         \
-              [](const ResultItem &a, const ResultItem &b) { return order(a.field, b.field); } }
+              [](const ResultItem &a, const ResultItem &b) { return order(a.field, b.field); }, nullptr, nullptr, \
+              [](const ResultItem &i) { return qint64(i.field); } }
 #define STRING_KEY(key, field)                                                                                \
     ItemKey { key, [](const ResultItem &i) { return QVariant(i.field); },                                     \
               [](const ResultItem &a, const ResultItem &b) { return order(a.field, b.field); } }
@@ -105,12 +110,11 @@ const std::array kKeys = {
             [](const ResultItem &a, const ResultItem &b) {
                 return compareLowercase(pathExtension(a.nameView()), pathExtension(b.nameView()));
             }},
-    NUMBER_KEY("size", size),
-    NUMBER_KEY("physicalSize", physicalSize),
+    INTEGER_KEY("size", size),
+    INTEGER_KEY("physicalSize", physicalSize),
     DATE_KEY("modified", modified),
     DATE_KEY("lastUsed", lastUsed),
-    ItemKey{"addedDate", [](const ResultItem &i) { return date(i.addedDate()); },
-            [](const ResultItem &a, const ResultItem &b) { return order(a.addedDate(), b.addedDate()); }},
+    DATE_KEY("addedDate", addedDate()),
     DATE_KEY("attributes", attributes),
     DATE_KEY("created", created),
     ItemKey{"tagList", [](const ResultItem &i) { return i.tagList().isEmpty() ? QVariant() : QVariant(i.tagList()); },
@@ -142,12 +146,12 @@ const std::array kKeys = {
             }},
     ItemKey{"itemCount", [](const ResultItem &i) { return QVariant(i.itemCount()); },
             [](const ResultItem &a, const ResultItem &b) { return order(a.itemCount(), b.itemCount()); }},
-    NUMBER_KEY("group", group),
-    NUMBER_KEY("dupes", dupes),
+    INTEGER_KEY("group", group),
+    INTEGER_KEY("dupes", dupes),
     ItemKey{"parentPath", [](const ResultItem &i) { return QVariant(i.parentPath()); },
             [](const ResultItem &a, const ResultItem &b) { return order(a.parentPath(), b.parentPath()); },
             [](const ResultItem &a, const ResultItem &b) { return naturalCompare(a.parentPath(), b.parentPath()); }},
-    NUMBER_KEY("clone", clone),
+    INTEGER_KEY("clone", clone),
     FLAG_KEY("alternateColor", AlternateColor),
     ItemKey{"trashedURL",
             [](const ResultItem &i) { return i.trashedURL().isEmpty() ? QVariant() : QVariant(i.trashedURL()); },
@@ -156,6 +160,7 @@ const std::array kKeys = {
 };
 
 #undef NUMBER_KEY
+#undef INTEGER_KEY
 #undef DATE_KEY
 #undef STRING_KEY
 #undef FLAG_KEY

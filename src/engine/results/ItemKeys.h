@@ -17,6 +17,9 @@ struct ItemKey {
     int (*naturalCompare)(const ResultItem &, const ResultItem &) = nullptr;
     // The text those keys compare, as a view into the item, where there is one to view.
     QStringView (*text)(const ResultItem &) = nullptr;
+    // For keys of whole numbers and dates: the number `compare` orders by, so that a long list
+    // can be sorted by numbers taken out of the items once.
+    qint64 (*integer)(const ResultItem &) = nullptr;
 };
 
 // The key path of the folder column (the name column's is kSortByNameKeyPath).

@@ -96,11 +96,13 @@ void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, Detect
     }
     QList<Comparison> comparisons;
     const ItemKey *naturalKey = nullptr; // the first key, when its texts sort naturally
+    const ItemKey *integerKey = nullptr; // the first key, when it orders by whole numbers
     for (const SortDescriptor &d : sortDescriptorsFor(clicked, mode)) {
         const ItemKey *key = findItemKey(d.key);
         if (!key) continue; // an unknown key orders nothing
         const bool natural = d.key.startsWith(QLatin1String("URL.path")) && key->naturalCompare;
         if (natural && comparisons.isEmpty()) naturalKey = key;
+        if (!natural && key->integer && comparisons.isEmpty()) integerKey = key;
         comparisons.append({natural ? key->naturalCompare : key->compare, d.ascending});
     }
     if (comparisons.isEmpty()) return;
@@ -109,6 +111,25 @@ void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, Detect
             if (const int result = c.compare(*a, *b)) return c.ascending ? result < 0 : result > 0;
         return false;
     };
+    const bool ascending = comparisons.first().ascending;
+    if (integerKey) {
+        // The numbers side by side: the sort reads the items themselves only where they tie.
+        struct Numbered {
+            qint64 number;
+            ResultItem *item;
+        };
+        std::vector<Numbered> numbered;
+        numbered.reserve(std::size_t(items.size()));
+        for (ResultItem *item : items)
+            numbered.push_back({integerKey->integer(*item), item});
+        parallelStableSort(numbered.begin(), numbered.end(), [&](const Numbered &a, const Numbered &b) {
+            if (a.number != b.number) return ascending ? a.number < b.number : a.number > b.number;
+            return inOrder(a.item, b.item);
+        });
+        for (std::size_t i = 0; i < numbered.size(); ++i)
+            items[qsizetype(i)] = numbered[i].item;
+        return;
+    }
     if (!naturalKey) {
         parallelStableSort(items.begin(), items.end(), inOrder);
         return;
@@ -150,7 +171,6 @@ void sortItems(QList<ResultItem *> &items, const SortDescriptor &clicked, Detect
     makeKeys(0);
     for (std::thread &helper : helpers)
         helper.join();
-    const bool ascending = comparisons.first().ascending;
     parallelStableSort(keyed.begin(), keyed.end(), [&](const Keyed &a, const Keyed &b) {
         if (const int c = a.key.compare(b.key)) return ascending ? c < 0 : c > 0;
         return inOrder(a.item, b.item);

@@ -81,3 +81,37 @@ TEST(ItemKeys, RareValuesLiveOutOfLineAndAreCopiedNotShared)
 }
 
 } // namespace
+
+// Long lists sort numeric keys by numbers taken out of the items: those numbers must order
+// the items exactly as the key's comparison does, absent dates included.
+TEST(ItemKeys, NumbersForSortingOrderAsTheKeysCompare)
+{
+    std::vector<ResultItem> items(5);
+    const qint64 dates[] = {kNoDate, -5, 0, 1'700'000'000, 1'700'000'000};
+    for (int i = 0; i < 5; ++i) {
+        items[i].size = (i * 7) % 5;
+        items[i].physicalSize = 4096 * (i % 2);
+        items[i].modified = dates[i];
+        items[i].created = dates[4 - i];
+        items[i].lastUsed = dates[(i + 2) % 5];
+        items[i].attributes = dates[(i + 1) % 5];
+        items[i].group = i % 3;
+        items[i].dupes = 5 - i;
+        items[i].clone = qint8(i % 7);
+        if (i % 2) items[i].setAddedDate(dates[i]);
+    }
+    int numbered = 0;
+    for (const char *name : {"size", "physicalSize", "modified", "created", "lastUsed", "addedDate", "attributes",
+                             "group", "dupes", "clone"}) {
+        const ItemKey *key = findItemKey(QString::fromLatin1(name));
+        ASSERT_TRUE(key && key->integer) << name;
+        ++numbered;
+        for (const ResultItem &a : items)
+            for (const ResultItem &b : items) {
+                const qint64 x = key->integer(a), y = key->integer(b);
+                EXPECT_EQ(key->compare(a, b), x < y ? -1 : (x > y ? 1 : 0)) << name;
+            }
+    }
+    EXPECT_EQ(numbered, 10);
+    EXPECT_FALSE(findItemKey(u"duration")->integer) << "fractions would lose their order";
+}
