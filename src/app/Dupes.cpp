@@ -138,7 +138,9 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
     m_statusLine->setObjectName(QStringLiteral("statusLine"));
     m_pathControl = new QLabel;
     m_pathControl->setObjectName(QStringLiteral("pathControl"));
-    m_pathControl->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_pathControl->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
+    connect(m_pathControl, &QLabel::linkActivated, this,
+            [](const QString &link) { revealInFileManager({QUrl(link).toLocalFile()}); });
     m_pathControl->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_pathControl->hide();
     auto *statusRow = new QHBoxLayout;
@@ -538,9 +540,16 @@ void Dupes::updateStatus()
     m_statusLine->setText(line.text);
     m_pathControl->setVisible(!line.path.isEmpty());
     m_pathControl->setToolTip(line.path);
-    const QStringList components = line.path.split(QLatin1Char('/'), Qt::SkipEmptyParts);
-    m_pathControl->setText(QStringLiteral("<span style='color:gray'>%1</span>")
-                               .arg(components.join(QStringLiteral(" › ")).toHtmlEscaped()));
+    // Each folder of the path is a link that shows it in the file manager.
+    QStringList links;
+    QString folder;
+    for (const QString &component : line.path.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
+        folder += QLatin1Char('/') + component;
+        links.append(QStringLiteral("<a href=\"%1\" style=\"color: gray; text-decoration: none\">%2</a>")
+                         .arg(QUrl::fromLocalFile(folder).toString(QUrl::FullyEncoded).toHtmlEscaped(),
+                              component.toHtmlEscaped()));
+    }
+    m_pathControl->setText(links.join(QStringLiteral(" <span style=\"color: gray\">›</span> ")));
     if (m_previewPane->isVisible()) {
         const QList<ResultItem *> targets = targetItems();
         m_previewPane->showItem(targets.size() == 1 ? targets.first() : nullptr);

@@ -82,7 +82,7 @@ QPixmap ItemIcons::icon(const ResultItem &item)
     } else {
         base = typeIcon(item);
         if (m_size >= 32 && !item.has(IsFolder) && !m_requested.contains(item.path) &&
-            ThumbnailLoader::canMakeThumbnail(item.nameView())) {
+            (ThumbnailLoader::canMakeThumbnail(item.nameView()) || hasVideoName(item))) {
             m_requested.insert(item.path, true);
             m_loader.request(item.path, m_size);
         }
@@ -98,6 +98,14 @@ void ItemIcons::setStatusImage(const ResultItem *item, const QString &name)
     m_statusImages.insert(item, name);
     m_icons.remove(item);
     m_changed.start();
+}
+
+// Videos have pictures only where the desktop has made them before.
+bool ItemIcons::hasVideoName(const ResultItem &item) const
+{
+    return m_mimeDatabase.mimeTypeForFile(item.name(), QMimeDatabase::MatchExtension)
+        .name()
+        .startsWith(QLatin1String("video/"));
 }
 
 QPixmap ItemIcons::typeIcon(const ResultItem &item)

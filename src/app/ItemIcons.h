@@ -12,8 +12,8 @@
 
 namespace selfsame {
 
-// The icons of the result lists: the file type's icon or the picture's thumbnail at the
-// list's size, with the badges of items that are read-only or belong to another user, and the
+// The icons of the result lists: the file type's icon or the thumbnail of a picture (or of a
+// video the desktop has a thumbnail of) at the list's size, with the badges of items that are read-only or belong to another user, and the
 // state badge of items that an action trashed, deleted or replaced. Thumbnails arrive later;
 // `iconsChanged` then asks the lists to draw their visible rows again.
 class ItemIcons : public QObject {
@@ -38,6 +38,7 @@ Q_SIGNALS:
 
 private:
     QPixmap typeIcon(const ResultItem &item);
+    bool hasVideoName(const ResultItem &item) const;
     QPixmap decorated(QPixmap base, const ResultItem &item) const;
     void thumbnailLoaded(const QString &path, int size, const QImage &image);
 

@@ -10,9 +10,8 @@
 
 namespace selfsame {
 
-// Makes thumbnails of image files on worker threads, never on the caller's: from the
-// desktop's thumbnail cache when it holds a current one, else by decoding the image at the
-// requested size. The newest requests are served first (they are the rows on screen) and old
+// Makes thumbnails of files on worker threads, never on the caller's: from the desktop's
+// thumbnail cache when it holds a current one, else by decoding an image at the requested size. The newest requests are served first (they are the rows on screen) and old
 // ones are dropped when many pile up, so scrolling through a long list never builds a backlog.
 class ThumbnailLoader : public QObject {
     Q_OBJECT

@@ -116,3 +116,30 @@ TEST(ThumbnailLoader, UsesTheDesktopsCachedThumbnailWhileItIsCurrent)
     EXPECT_FALSE(ThumbnailLoader::canMakeThumbnail(u"notes.txt"));
     EXPECT_FALSE(ThumbnailLoader::canMakeThumbnail(u"jpg"));
 }
+
+TEST(ItemIcons, VideosShowTheDesktopsThumbnailWhenItHasOne)
+{
+    TempTree tree;
+    const ResultItem video = itemAt(tree.file(QStringLiteral("clip.mp4"), "not really a film"));
+    const ResultItem other = itemAt(tree.file(QStringLiteral("other.mp4"), "nor this"));
+    const QByteArray oldCache = qgetenv("XDG_CACHE_HOME");
+    qputenv("XDG_CACHE_HOME", tree.path(QStringLiteral("cache")).toLocal8Bit());
+    QDir().mkpath(tree.path(QStringLiteral("cache/thumbnails/normal")));
+    const QByteArray uri = QUrl::fromLocalFile(video.path).toEncoded();
+    QImage frame(128, 72, QImage::Format_RGB32);
+    frame.fill(Qt::magenta);
+    frame.setText(QStringLiteral("Thumb::MTime"), QString::number(QFileInfo(video.path).lastModified().toSecsSinceEpoch()));
+    frame.save(tree.path(QStringLiteral("cache/thumbnails/normal/")) +
+               QString::fromLatin1(QCryptographicHash::hash(uri, QCryptographicHash::Md5).toHex()) + QStringLiteral(".png"));
+
+    ItemIcons icons;
+    icons.setSize(64);
+    QSignalSpy changed(&icons, &ItemIcons::iconsChanged);
+    const QSize typeIconSize = icons.icon(video).size();
+    icons.icon(other);
+    ASSERT_TRUE(changed.wait(10000));
+    EXPECT_EQ(icons.icon(video).size(), QSize(64, 36));
+    EXPECT_EQ(icons.icon(video).toImage().pixelColor(32, 18), QColor(Qt::magenta));
+    EXPECT_EQ(icons.icon(other).size(), typeIconSize) << "without one it keeps its type icon";
+    qputenv("XDG_CACHE_HOME", oldCache);
+}

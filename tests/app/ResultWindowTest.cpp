@@ -125,6 +125,9 @@ TEST(ResultWindow, TheSelectedTopRowFillsTheBottomListWithItsGroup)
     EXPECT_FALSE(background(w.bottom(), "a", "clone").isValid());
     EXPECT_EQ(w.selectedNames(w.bottom()).size(), 1) << "the first duplicate is selected";
     EXPECT_EQ(w.dupes->pathBarText(), w.tree.path(QStringLiteral("x/b")));
+    const QString pathLinks = w.dupes->findChild<QLabel *>(QStringLiteral("pathControl"))->text();
+    EXPECT_TRUE(pathLinks.contains(QUrl::fromLocalFile(w.tree.path(QStringLiteral("x"))).toString(QUrl::FullyEncoded)))
+        << "each folder of the path shows itself in the file manager";
     EXPECT_EQ(w.dupes->statusText(), QStringLiteral("5 items"));
 
     w.click(w.top(), QStringLiteral("d"), Qt::ControlModifier);
