@@ -109,6 +109,13 @@ QString cloneByMovingAside(const ResultItem &reference, const ResultItem &duplic
 
 } // namespace
 
+std::unique_ptr<QTemporaryDir> makePlanFolder()
+{
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    const QString base = runtime.isEmpty() || !QDir(runtime).exists() ? QDir::tempPath() : runtime;
+    return std::make_unique<QTemporaryDir>(base + QStringLiteral("/Selfsame-XXXXXX"));
+}
+
 CloneSteps CloneSteps::real()
 {
     return CloneSteps{dedupeFile, renameNoReplace, cloneItem, restoreFSMetadata};
@@ -188,9 +195,7 @@ bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool ch
         m_logFilePath.clear();
         QString path = planPath;
         if (path.isEmpty()) {
-            const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-            const QString base = runtime.isEmpty() || !QDir(runtime).exists() ? QDir::tempPath() : runtime;
-            m_planFolder = std::make_unique<QTemporaryDir>(base + QStringLiteral("/Selfsame-XXXXXX"));
+            m_planFolder = makePlanFolder();
             if (m_planFolder->isValid()) path = m_planFolder->filePath(QStringLiteral("Selfsame.log"));
         }
         plan.setFileName(path);
@@ -227,6 +232,7 @@ bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool ch
                     continue;
                 }
                 m_cloned.append(d);
+                d->setStatusImage(QStringLiteral("cloned"));
             }
             done.insert(d);
             ++c.replaceDuplicates;

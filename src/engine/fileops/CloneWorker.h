@@ -53,6 +53,9 @@ QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, cons
 QString cloneDuplicate(const ResultItem &reference, const ResultItem &duplicate, bool changeOwner,
                        const CloneSteps &steps);
 
+// A private temporary folder for the cloning plan, under the user's runtime folder.
+std::unique_ptr<QTemporaryDir> makePlanFolder();
+
 // Replaces duplicates by clones in two passes: planning (counts and a plan file) and cloning.
 class CloneWorker
 {
@@ -71,7 +74,7 @@ public:
                  CloneCounts *counts = nullptr);
 
     QString logFilePath() const { return m_logFilePath; }          // plan of the last planning pass
-    const QList<ResultItem *> &cloned() const { return m_cloned; } // items to show as "cloned"
+    const QList<ResultItem *> &cloned() const { return m_cloned; } // now shown as "cloned"
     const QList<CloneFailure> &failures() const { return m_failures; }
 
 private:

@@ -139,6 +139,7 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
                 outcome.status = statusImageName(kind == DeleteKind::Trash, mode);
             }
         }
+        if (!outcome.status.isEmpty()) item->setStatusImage(outcome.status);
         report.outcomes.append(outcome);
     }
     return report;

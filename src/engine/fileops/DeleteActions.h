@@ -31,7 +31,8 @@ struct DeleteReport {
 // first checked against what the search recorded, and the reference too when replacing; a
 // changed file is left alone and counts as a failure. A replacement is made beside the file
 // first, then swapped in: when any step fails the file stays where it was, unchanged.
-// Marks the items: trashedURL for a plain move to the trash, the Deleted flag after deletion.
+// Marks the items: trashedURL for a plain move to the trash, the Deleted flag after deletion,
+// and the status image of what was done.
 // Without a reference the items are removed and given the mode's status, as asked.
 DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference,
                                  const QList<ResultItem *> &targets);

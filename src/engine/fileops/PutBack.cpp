@@ -42,6 +42,7 @@ PutBackResult putBackItem(ResultItem &item)
         removePutBackAttribute(item.path);
         QFile::remove(trashInfoPathFor(trashed));
         item.setTrashedURL({});
+        item.setStatusImage({});
     }
     return result;
 }

@@ -18,7 +18,8 @@ struct PutBackResult {
 
 // Moves a trashed item back from its trashedURL to its path, never over an existing file;
 // on success removes the put-back attribute from the restored file and the .trashinfo
-// record, and clears trashedURL. Items without trashedURL or already deleted are refused.
+// record, and clears trashedURL and the status image. Items without trashedURL or already
+// deleted are refused.
 PutBackResult putBackItem(ResultItem &item);
 
 // Moves a file handed over from the trash to `destination`, never over an existing file.

@@ -157,6 +157,9 @@ const std::array kKeys = {
             [](const ResultItem &i) { return i.trashedURL().isEmpty() ? QVariant() : QVariant(i.trashedURL()); },
             [](const ResultItem &a, const ResultItem &b) { return order(a.trashedURL(), b.trashedURL()); }},
     FLAG_KEY("deleted", Deleted),
+    ItemKey{"icon",
+            [](const ResultItem &i) { return i.statusImage().isEmpty() ? QVariant() : QVariant(i.statusImage()); },
+            [](const ResultItem &a, const ResultItem &b) { return order(a.statusImage(), b.statusImage()); }},
 };
 
 #undef NUMBER_KEY

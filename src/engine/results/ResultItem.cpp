@@ -30,6 +30,7 @@ const QVariant &ResultItem::spotlight() const { return m_extra ? m_extra->spotli
 const QString &ResultItem::pixelSize() const { return m_extra ? m_extra->pixelSize : kNoText; }
 const QString &ResultItem::codecs() const { return m_extra ? m_extra->codecs : kNoText; }
 const QString &ResultItem::trashedURL() const { return m_extra ? m_extra->trashedURL : kNoText; }
+const QString &ResultItem::statusImage() const { return m_extra ? m_extra->statusImage : kNoText; }
 
 ResultItem::Extra &ResultItem::extra()
 {
@@ -90,6 +91,11 @@ void ResultItem::setAddedDate(qint64 date)
 void ResultItem::setTrashedURL(const QString &trashed)
 {
     if (!trashed.isEmpty() || m_extra) extra().trashedURL = trashed;
+}
+
+void ResultItem::setStatusImage(const QString &name)
+{
+    if (!name.isEmpty() || m_extra) extra().statusImage = name;
 }
 
 } // namespace selfsame

@@ -92,6 +92,9 @@ struct ResultItem {
     qint64 itemCount() const { return m_extra ? m_extra->itemCount : 0; }    // "itemCount": files in a folder
     qint64 addedDate() const { return m_extra ? m_extra->addedDate : kNoDate; } // "addedDate"
     const QString &trashedURL() const;                                     // "trashedURL": path in the Bin
+    // "icon": what a file operation made of the item ("trashed", "deleted", "aliased",
+    // "hard linked", "cloned"); empty while the file is as found.
+    const QString &statusImage() const;
 
     // Setting an absent value to an item without extras allocates nothing.
     void setTagList(const QStringList &tags);
@@ -105,6 +108,7 @@ struct ResultItem {
     void setItemCount(qint64 count);
     void setAddedDate(qint64 date);
     void setTrashedURL(const QString &path);
+    void setStatusImage(const QString &name);
 
 private:
     static constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
@@ -114,6 +118,7 @@ private:
         QString pixelSize;
         QString codecs;
         QString trashedURL;
+        QString statusImage;
         double duration = 0.0;
         double latitude = kNaN;
         double longitude = kNaN;
