@@ -5,12 +5,6 @@
 
 namespace selfsame {
 
-QString displayName(const QString &path)
-{
-    const QString name = QFileInfo(path).fileName();
-    return name.isEmpty() ? path : name;
-}
-
 LocationsModel::LocationsModel(Settings &settings, std::function<NestingRule()> currentRule, QObject *parent)
     : QAbstractTableModel(parent), m_settings(settings), m_currentRule(std::move(currentRule))
 {

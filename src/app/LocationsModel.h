@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Locations.h"
+#include "fileops/DeleteChecks.h" // displayName
 
 #include <QAbstractTableModel>
 #include <QFileIconProvider>
@@ -49,8 +50,5 @@ private:
     QFileIconProvider m_iconProvider;
     mutable QHash<QString, QIcon> m_icons;
 };
-
-// The name a file manager shows for a path.
-QString displayName(const QString &path);
 
 } // namespace selfsame

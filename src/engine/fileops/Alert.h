@@ -19,4 +19,10 @@ struct Alert {
 
 inline constexpr int kFirstButton = 1000;
 
+// What the user did with an alert.
+struct AlertAnswer {
+    int code = kFirstButton;
+    bool suppress = false; // the "do not show again" box was ticked
+};
+
 } // namespace selfsame

@@ -31,7 +31,8 @@ constexpr long kJfsMagic = 0x3153464a;
 
 QString displayName(const QString &path)
 {
-    return path.mid(path.lastIndexOf(u'/') + 1);
+    const QString name = path.mid(path.lastIndexOf(u'/') + 1);
+    return name.isEmpty() ? path : name;
 }
 
 bool isCloneCapableFileSystem(long type)

@@ -46,6 +46,7 @@ Alert deleteConfirmationAlert(const QList<ResultItem *> &targets);
 Alert putBackTipAlert();
 Alert grantTrashAccessAlert();
 
+// The name a file manager shows for a path: its last component, or the path itself for "/".
 QString displayName(const QString &path);
 
 } // namespace selfsame

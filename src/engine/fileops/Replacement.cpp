@@ -13,6 +13,14 @@
 namespace selfsame
 {
 
+void ReplaceWithModes::choose(int mode, bool forAlternate)
+{
+    int &slot = forAlternate ? alternate : replaceWith;
+    int &other = forAlternate ? replaceWith : alternate;
+    if (other == mode) other = slot;
+    slot = mode;
+}
+
 QString statusImageName(bool trashed, int mode)
 {
     switch (mode) {

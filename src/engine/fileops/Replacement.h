@@ -14,6 +14,15 @@ enum ReplaceWithMode : int {
     ReplaceWithClone = 5,
 };
 
+// The two modes of the delete commands: the plain one and the alternate one, used while a
+// modifier is held. Choosing for one slot the mode that the other holds swaps them.
+struct ReplaceWithModes {
+    int replaceWith = ReplaceWithNone; // "replace with"
+    int alternate = ReplaceWithNone;   // "alternate replace with"
+    void choose(int mode, bool forAlternate);
+    int inForce(bool alternateMode) const { return alternateMode ? alternate : replaceWith; }
+};
+
 // The status image name of an item after a move to the trash (trashed true) or an immediate
 // deletion, followed by a replacement in `mode`: "trashed", "deleted", "aliased",
 // "hard linked" or "cloned".

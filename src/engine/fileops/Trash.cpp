@@ -43,19 +43,6 @@ QString existingAncestor(QString path)
     return path;
 }
 
-// The mount point holding `path`: the highest ancestor on the same device.
-QString topDirectory(const QString &path)
-{
-    const dev_t device = deviceOf(path);
-    QString top = path;
-    while (top != u'/') {
-        const QString up = QFileInfo(top).path();
-        if (deviceOf(up) != device) break;
-        top = up;
-    }
-    return top;
-}
-
 bool isOwnFolder(const QString &path)
 {
     struct stat st {
@@ -143,6 +130,18 @@ QString errorText(int error)
 }
 
 } // namespace
+
+QString topDirectory(const QString &path)
+{
+    const dev_t device = deviceOf(path);
+    QString top = path;
+    while (top != u'/') {
+        const QString up = QFileInfo(top).path();
+        if (deviceOf(up) != device) break;
+        top = up;
+    }
+    return top;
+}
 
 QByteArray encodeTrashInfoPath(const QString &path)
 {

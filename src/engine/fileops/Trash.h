@@ -21,6 +21,9 @@ struct TrashResult {
 // (never by copy) and writes the put-back attribute on the moved file itself.
 TrashResult trashItem(const QString &path);
 
+// The mount point holding `path`: the highest ancestor on the same device.
+QString topDirectory(const QString &path);
+
 // The trash folder (holding files/ and info/) that trashItem would use for `path`; empty
 // when there is none.
 QString trashFolderFor(const QString &path);
