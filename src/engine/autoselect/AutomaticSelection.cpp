@@ -103,6 +103,36 @@ AutoSelectSettings autoSelectSettingsFrom(const QVariantMap &stored)
     return s;
 }
 
+std::optional<Alert> autoSelectWarning(DetectionMode mode, const QVariantMap &doNotShowAgain)
+{
+    QString what;
+    switch (mode) {
+    case DetectionMode::Duration:
+        what = QCoreApplication::translate("AutomaticSelection", "duration");
+        break;
+    case DetectionMode::FileName:
+        what = QCoreApplication::translate("AutomaticSelection", "file name");
+        break;
+    case DetectionMode::Attribute:
+        what = QCoreApplication::translate("AutomaticSelection", "Spotlight attribute");
+        break;
+    default:
+        return std::nullopt;
+    }
+    if (doNotShowAgain.value(QString::fromLatin1(kAutoSelectTimeBased)).toBool()) return std::nullopt;
+    Alert alert{QCoreApplication::translate("AutomaticSelection",
+                                            "Warning: You may end up selecting documents that are completely "
+                                            "unrelated and that only have the same %1")
+                    .arg(what),
+                {},
+                {QCoreApplication::translate("AutomaticSelection", "Continue"),
+                 QCoreApplication::translate("AutomaticSelection", "Cancel")},
+                0,
+                1};
+    alert.suppressible = true;
+    return alert;
+}
+
 AutoSelectOutcome performAutomaticallySelect(ResultModel &model, const AutoSelectSettings &settings)
 {
     if (model.hasHiddenArray() && model.hiddenBecauseOfAutomaticallySelect())

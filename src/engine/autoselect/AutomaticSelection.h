@@ -1,9 +1,11 @@
 #pragma once
 
 #include "autoselect/AutoSelectRules.h"
+#include "fileops/Alert.h"
 #include "results/ResultModel.h"
 
 #include <QVariantMap>
+#include <optional>
 
 namespace selfsame
 {
@@ -29,6 +31,13 @@ struct AutoSelectSettings {
 QVariantMap autoSelectRegisteredDefaults();
 // The settings read from stored values, registered defaults filling the gaps.
 AutoSelectSettings autoSelectSettingsFrom(const QVariantMap &stored);
+
+// The entry of the "do not show again" dictionary that silences the warning below.
+inline constexpr char kAutoSelectTimeBased[] = "auto select time-based";
+
+// Outside the content mode copies may share only a duration, a name or an attribute: the
+// warning before the sheet opens, unless silenced. Its answer 1000 continues.
+std::optional<Alert> autoSelectWarning(DetectionMode mode, const QVariantMap &doNotShowAgain);
 
 struct AutoSelectOutcome {
     AutoSelection selection;
