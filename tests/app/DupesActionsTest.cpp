@@ -2,7 +2,9 @@
 // by a test hook, on files in temporary folders and a temporary trash.
 #include "Alert.h"
 #include "CloneProgressWindow.h"
+#include "AutoSelectSheet.h"
 #include "DupesActions.h"
+#include "ResultActionsWiring.h"
 #include "SearchDefaults.h"
 #include "Settings.h"
 #include "support/FileItems.h"
@@ -16,9 +18,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QKeyEvent>
+#include <QMenu>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTimer>
+#include <QToolBar>
 #include <QWidget>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -260,6 +264,38 @@ TEST_F(DupesActionsTest, CloningFindsNothingOnAFileSystemThatCannotAndStopsWhenT
     }
     EXPECT_EQ(readFile(b), content);
     EXPECT_EQ(changes->count(), 0);
+}
+
+TEST_F(DupesActionsTest, AWindowGetsTheCommandsInItsMenusAndIsRefreshedAfterEachChange)
+{
+    const QString a = tree.file(QStringLiteral("keep/a.bin"), content);
+    const QString b = tree.file(QStringLiteral("old/a.bin"), content);
+    load(tree.path(), {{QStringLiteral("keep/a.bin"), 0}, {QStringLiteral("old/a.bin"), 0}});
+    settings.setValue(QStringLiteral("put back tip shown"), true);
+    QMenu menu, context;
+    QToolBar toolBar;
+    int refreshed = 0;
+    const ResultActions wired = installResultActions(
+        {&window, &model, &settings, &menu, &toolBar,
+         [this] { return DupesActions::Targets{ResultList::Top, model.selectedItems(ResultList::Top)}; },
+         [&] { ++refreshed; }});
+    EXPECT_TRUE(menu.actions().contains(wired.files->moveToTrashAction()));
+    EXPECT_TRUE(menu.actions().contains(wired.autoSelect->unhideAction()));
+    EXPECT_FALSE(wired.files->moveToTrashAction()->isEnabled()); // nothing selected yet
+
+    model.select(ResultList::Top, {item(b)});
+    updateResultActions(wired);
+    addResultActionsToContextMenu(&context, wired, {item(b)});
+    QMenu *folders = context.actions().first()->menu();
+    ASSERT_NE(folders, nullptr);
+    EXPECT_EQ(folders->actions().first()->data().toString(), tree.path(QStringLiteral("old")));
+
+    wired.files->moveToTrashAction()->trigger();
+    EXPECT_FALSE(exists(b));
+    EXPECT_TRUE(exists(a));
+    EXPECT_EQ(refreshed, 1);
+    EXPECT_FALSE(wired.files->moveToTrashAction()->isEnabled()); // revalidated after the change
+    EXPECT_TRUE(wired.files->putBackAction()->isEnabled());
 }
 
 class CloneActionsOn : public DupesActionsTest, public ::testing::WithParamInterface<const char *> {
