@@ -160,6 +160,7 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
     m_actionsToolBar->setMovable(false);
     m_actionsToolBar->hide(); // shown once an action is added
     buildMenus();
+    installActions();
 
     restoreColumnLayouts();
     m_icons.setSize(int(m_settings.integerValue(kResultListSize)));
@@ -217,6 +218,24 @@ void Dupes::buildMenus()
         m_mapActions.append(item->addAction(tr(services[service]), this, [this, service] { showGPSLocation(service); }));
     connect(this, &Dupes::selectionDidChange, this, &Dupes::validateItemActions);
     validateItemActions();
+}
+
+void Dupes::installActions()
+{
+    m_resultActions = installResultActions(
+        {this, &m_model, &m_settings, m_actionsMenu, m_actionsToolBar,
+         [this] { return DupesActions::Targets{activeList(), targetItems()}; }, [this] {
+             // The items carry what the commands made of them; the icons show it.
+             for (const ResultItem &item : std::as_const(m_model.allItems()))
+                 if (item.statusImage() != m_icons.statusImage(&item))
+                     setStatusImage(&item, item.statusImage());
+             modelDidChange();
+         }});
+    connect(this, &Dupes::contextMenuAboutToShow, this, [this](QMenu *menu, ResultList) {
+        menu->addSeparator();
+        addResultActionsToContextMenu(menu, m_resultActions, targetItems());
+    });
+    connect(this, &Dupes::selectionDidChange, this, [this] { updateResultActions(m_resultActions); });
 }
 
 void Dupes::validateItemActions()

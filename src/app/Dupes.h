@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ItemIcons.h"
+#include "ResultActionsWiring.h"
 #include "results/ResultModel.h"
 #include "search/DuplicateSearch.h"
 
@@ -60,6 +61,8 @@ public:
     // "cloned", "hard linked", "aliased").
     void setStatusImage(const ResultItem *item, const QString &name);
 
+    // The file commands and the automatic selection of this window.
+    const ResultActions &resultActions() const { return m_resultActions; }
     ResultListView *mainList() const { return m_mainList; }
     ResultListView *cloneList() const { return m_cloneList; }
     FilterBar *filterBar() const { return m_filterBar; }
@@ -99,6 +102,7 @@ protected:
 
 private:
     void buildMenus();
+    void installActions();
     void fillContextMenu(QMenu *menu, ResultList list);
     void validateItemActions();
     QMenu *columnsMenu(QWidget *parent);
@@ -146,6 +150,7 @@ private:
     QAction *m_revealAction = nullptr;
     QList<QAction *> m_mapActions;
     QWidget *m_dropIndicatorView = nullptr;
+    ResultActions m_resultActions;
 };
 
 } // namespace selfsame
