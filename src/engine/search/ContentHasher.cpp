@@ -39,10 +39,13 @@ struct ContentHasher::Worker {
     std::vector<char> chunks; // side-by-side chunks of one bucket
     std::vector<qint64> allocStorage;
     SearchStatistics statistics;
+    KnownDigests::Batch learnt;
 };
 
-ContentHasher::ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst)
-    : m_entries(entries), m_folders(entries), m_context(context), m_ignoreMp4Header(ignoreMp4Header), m_sampleFirst(sampleFirst)
+ContentHasher::ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst,
+                             qint64 walkStartedNs)
+    : m_entries(entries), m_folders(entries), m_context(context), m_ignoreMp4Header(ignoreMp4Header),
+      m_sampleFirst(sampleFirst), m_known(context.digestCache, entries, walkStartedNs)
 {
 }
 
@@ -72,12 +75,14 @@ template <typename Job> void ContentHasher::parallel(std::size_t count, Job job)
         Worker worker;
         for (std::size_t i = next++; i < count && !m_context.aborted(); i = next++)
             job(i, worker);
+        m_known.flush(worker.learnt);
         std::lock_guard lock(mutex);
         SearchStatistics &total = m_context.statistics;
         total.bytesRead += worker.statistics.bytesRead;
         total.filesHashed += worker.statistics.filesHashed;
         total.filesSampled += worker.statistics.filesSampled;
         total.unreadableFiles += worker.statistics.unreadableFiles;
+        total.filesFromCache += worker.statistics.filesFromCache;
     };
     const std::size_t threads = std::min<std::size_t>(std::clamp(std::thread::hardware_concurrency(), 1u, 16u),
                                                       std::max<std::size_t>(count, 1));
@@ -121,6 +126,17 @@ void ContentHasher::hash(std::vector<ContentNode> &nodes, const std::vector<Size
         if (!files.empty())
             candidates.push_back(std::move(files));
     }
+    if (m_known.enabled()) {
+        m_headerSkipped.assign(nodes.size(), 0);
+        m_complete.assign(nodes.size(), 0);
+        std::vector<std::size_t> all;
+        for (const auto &files : candidates)
+            for (std::size_t i : files) {
+                m_headerSkipped[i] = hashedLength(nodes[i]) != nodes[i].size;
+                all.push_back(i);
+            }
+        m_known.lookUp(nodes, all, m_headerSkipped);
+    }
 
     parallel(symlinks.size(), [&](std::size_t i, Worker &) {
         ContentNode &node = nodes[symlinks[i]];
@@ -158,26 +174,75 @@ void ContentHasher::hashSize(std::vector<ContentNode> &nodes, const std::vector<
         else
             whole[length == nodes[i].size ? 0 : 1].push_back(i);
     }
-    for (const auto &group : whole) {
-        if (group.size() == 1 && !m_needsDigest[group.front()])
-            reportProgress(nodes[group.front()]); // alone in its size: cannot have a duplicate
-        else if (!group.empty())
-            hashBucket(nodes, group, {}, worker);
+    for (const auto &group : whole)
+        hashWhole(nodes, group, worker);
+    std::vector<std::pair<std::size_t, quint64>> freshSamples;
+    hashSampled(nodes, sampled, worker, freshSamples);
+    if (m_known.enabled()) {
+        completeKnown(nodes, files, worker);
+        recordLearnt(nodes, files, freshSamples, worker);
     }
-    if (sampled.empty())
-        return;
+}
 
+void ContentHasher::hashWhole(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker)
+{
+    std::vector<std::size_t> unknown;
+    bool someKnown = false;
+    for (std::size_t i : files) {
+        const CachedDigest *known = m_known.known(i);
+        if (known && known->digest) {
+            nodes[i].setDigest(*known->digest);
+            ++worker.statistics.filesFromCache;
+            someKnown = true;
+            reportProgress(nodes[i]);
+        } else {
+            unknown.push_back(i);
+        }
+    }
+    // A file may equal one whose digest is known: it is read to the end, never dropped.
+    if (someKnown)
+        for (std::size_t i : unknown)
+            m_needsDigest[i] = 1;
+    if (unknown.size() == 1 && !m_needsDigest[unknown.front()])
+        reportProgress(nodes[unknown.front()]); // alone in its size: cannot have a duplicate
+    else if (!unknown.empty())
+        hashBucket(nodes, unknown, {}, worker);
+}
+
+void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
+                                Worker &worker, std::vector<std::pair<std::size_t, quint64>> &freshSamples)
+{
+    if (files.empty())
+        return;
     // Files stay open from their sample to their digest, unless there are too many of one size.
-    const bool keepOpen = sampled.size() <= kMaxOpenFiles;
+    const bool keepOpen = files.size() <= kMaxOpenFiles;
     struct Sample {
         quint64 key;
         std::size_t node;
         int fd;
+        bool known; // its digest came from the cache
     };
     std::vector<Sample> samples;
-    for (std::size_t i : sampled) {
+    bool knownWithoutSample = false; // then no unknown file can be proved different by its sample
+    for (std::size_t i : files) {
         ContentNode &node = nodes[i];
         const bool skip = hashedLength(node) != node.size;
+        const CachedDigest *known = m_known.known(i);
+        if (known && known->digest) {
+            node.setDigest(*known->digest);
+            ++worker.statistics.filesFromCache;
+            reportProgress(node);
+            if (known->sample)
+                samples.push_back({*known->sample ^ quint64(skip), i, -1, true});
+            else
+                knownWithoutSample = true;
+            continue;
+        }
+        if (known && known->sample) {
+            ++worker.statistics.filesFromCache;
+            samples.push_back({*known->sample ^ quint64(skip), i, -1, false});
+            continue;
+        }
         int fd = m_folders.openFile(m_entries[node.entry]);
         std::optional<quint64> fingerprint;
         if (fd >= 0)
@@ -188,7 +253,9 @@ void ContentHasher::hashSize(std::vector<ContentNode> &nodes, const std::vector<
             fd = -1;
         }
         if (fingerprint) {
-            samples.push_back({*fingerprint ^ quint64(skip), i, fd}); // the header rule is part of the key
+            samples.push_back({*fingerprint ^ quint64(skip), i, fd, false}); // the header rule is part of the key
+            if (m_known.enabled())
+                freshSamples.emplace_back(i, *fingerprint);
         } else {
             ++worker.statistics.unreadableFiles;
             reportProgress(node);
@@ -201,21 +268,85 @@ void ContentHasher::hashSize(std::vector<ContentNode> &nodes, const std::vector<
         std::size_t end = begin + 1;
         while (end < samples.size() && samples[end].key == samples[begin].key)
             ++end;
-        if (end - begin >= 2 || m_needsDigest[samples[begin].node]) {
-            std::vector<std::size_t> bucket;
-            std::vector<int> fds;
-            for (std::size_t k = begin; k < end; ++k) {
-                bucket.push_back(samples[k].node);
-                fds.push_back(samples[k].fd);
+        std::vector<std::size_t> bucket;
+        std::vector<int> fds;
+        bool someKnown = knownWithoutSample;
+        for (std::size_t k = begin; k < end; ++k) {
+            if (samples[k].known) {
+                someKnown = true;
+                continue;
             }
-            hashBucket(nodes, bucket, keepOpen ? fds : std::vector<int>(), worker);
-        } else {
-            if (samples[begin].fd >= 0)
-                close(samples[begin].fd);
+            bucket.push_back(samples[k].node);
+            fds.push_back(samples[k].fd);
+        }
+        if (someKnown)
+            for (std::size_t i : bucket)
+                m_needsDigest[i] = 1;
+        if (bucket.size() >= 2 || (bucket.size() == 1 && m_needsDigest[bucket.front()])) {
+            hashBucket(nodes, bucket, fds, worker);
+        } else if (bucket.size() == 1) {
+            if (fds.front() >= 0)
+                close(fds.front());
             ++worker.statistics.filesSampled;
-            reportProgress(nodes[samples[begin].node]);
+            reportProgress(nodes[bucket.front()]);
         }
         begin = end;
+    }
+}
+
+void ContentHasher::completeKnown(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
+                                  Worker &worker)
+{
+    std::vector<std::size_t> digested;
+    for (std::size_t i : files)
+        if (nodes[i].has(HasDigest))
+            digested.push_back(i);
+    std::sort(digested.begin(), digested.end(), [&](std::size_t a, std::size_t b) {
+        return compareDigests(nodes[a].digest(), nodes[b].digest()) < 0;
+    });
+    for (std::size_t k = 0; k < digested.size(); ++k) {
+        const std::size_t i = digested[k];
+        const CachedDigest *known = m_known.known(i);
+        if (!known || !known->digest)
+            continue;
+        // Folders sum their children's allocation digests; hard links share this one.
+        const bool mayGroup = !m_sampleFirst || m_needsDigest[i] ||
+                              (k > 0 && nodes[digested[k - 1]].digest() == nodes[i].digest()) ||
+                              (k + 1 < digested.size() && nodes[digested[k + 1]].digest() == nodes[i].digest());
+        if (!mayGroup)
+            continue;
+        const int fd = m_folders.openFile(m_entries[nodes[i].entry]);
+        if (fd < 0)
+            continue;
+        if (auto alloc = computeAllocDigest(fd, worker.allocStorage))
+            nodes[i].setAllocDigest(*alloc);
+        if (QStringList tags = readUserTags(fd); !tags.isEmpty()) {
+            std::lock_guard lock(m_tagsMutex);
+            m_tags.emplace_back(i, std::move(tags));
+        }
+        close(fd);
+    }
+}
+
+void ContentHasher::recordLearnt(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
+                                 const std::vector<std::pair<std::size_t, quint64>> &freshSamples, Worker &worker)
+{
+    auto fresh = freshSamples.begin();
+    for (std::size_t i : files) {
+        while (fresh != freshSamples.end() && fresh->first < i)
+            ++fresh;
+        CachedDigest value;
+        if (fresh != freshSamples.end() && fresh->first == i)
+            value.sample = fresh->second;
+        const CachedDigest *known = m_known.known(i);
+        if (known && known->digest)
+            continue; // nothing new
+        if (known && !value.sample)
+            value.sample = known->sample;
+        if (m_complete[i])
+            value.digest = nodes[i].digest();
+        if (value.digest || (value.sample && !known))
+            m_known.learnt(worker.learnt, nodes[i], m_headerSkipped[i], std::move(value));
     }
 }
 
@@ -230,6 +361,8 @@ void ContentHasher::hashAlone(std::vector<ContentNode> &nodes, std::size_t index
     if (result.digest) {
         node.setDigest(*result.digest);
         ++worker.statistics.filesHashed;
+        if (m_known.enabled() && result.bytesRead == hashedLength(node))
+            m_complete[index] = 1;
     } else {
         ++worker.statistics.unreadableFiles;
     }
@@ -268,7 +401,8 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
     std::vector<Member> members;
     for (std::size_t k = 0; k < count; ++k) {
         const std::size_t node = bucket[k];
-        const int fd = openFiles.empty() ? m_folders.openFile(m_entries[nodes[node].entry]) : openFiles[k];
+        const int fd = openFiles.empty() || openFiles[k] < 0 ? m_folders.openFile(m_entries[nodes[node].entry])
+                                                           : openFiles[k];
         if (fd < 0) {
             ++worker.statistics.unreadableFiles;
             reportProgress(nodes[node]);
@@ -289,11 +423,13 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
     classes.back().members.resize(members.size());
     std::iota(classes.back().members.begin(), classes.back().members.end(), 0);
 
-    auto finish = [&](Class &c) {
+    auto finish = [&](Class &c, bool complete) {
         const Digest digest = c.hash.final();
         for (std::size_t m : c.members) {
             ContentNode &node = nodes[members[m].node];
             node.setDigest(digest);
+            if (complete && m_known.enabled())
+                m_complete[members[m].node] = 1;
             if (auto alloc = computeAllocDigest(members[m].fd, worker.allocStorage))
                 node.setAllocDigest(*alloc);
             if (QStringList tags = readUserTags(members[m].fd); !tags.isEmpty()) {
@@ -311,7 +447,8 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
         reportProgress(nodes[members[m].node]);
     };
 
-    for (qint64 offset = start; offset < size && !classes.empty(); offset += qint64(chunk)) {
+    qint64 offset = start;
+    for (; offset < size && !classes.empty(); offset += qint64(chunk)) {
         if (m_context.aborted())
             break;
         const std::size_t want = std::size_t(std::min<qint64>(qint64(chunk), size - offset));
@@ -342,7 +479,7 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
                     part.hash.update(bytesOf(ms[begin]), std::size_t(first.got));
                     // A short read ends the file here: its digest covers what was read.
                     if (first.got < qint64(want))
-                        finish(part);
+                        finish(part, false);
                     else
                         next.push_back(std::move(part));
                 }
@@ -352,7 +489,7 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
         classes = std::move(next);
     }
     for (Class &c : classes)
-        finish(c);
+        finish(c, offset >= size);
     for (Member &member : members) {
         if (!member.done)
             reportProgress(nodes[member.node]);

@@ -3,6 +3,7 @@
 #include "search/ContentNode.h"
 #include "search/EntryTable.h"
 #include "search/FolderHandles.h"
+#include "search/KnownDigests.h"
 #include "search/RunContext.h"
 
 #include <QStringList>
@@ -25,10 +26,14 @@ struct SizeRun {
 //   its size is never read whole: it cannot have a duplicate, so no digest is needed;
 // - files that may be equal are read side by side and compared chunk by chunk; SHA-512 runs
 //   once per distinct content, and a file that turns out unique stops being read.
+// - with a digest cache, files whose key is unchanged since an earlier search take their
+//   digest (or sample) from it; when every file of a size has its digest there, none is read.
 // Every digest produced is the SHA-512 of the file's bytes, as if each file were hashed alone.
 class ContentHasher {
 public:
-    ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst);
+    // `walkStartedNs`: when enumeration began, which tells files too fresh for the cache.
+    ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst,
+                  qint64 walkStartedNs = 0);
 
     void hash(std::vector<ContentNode> &nodes, const std::vector<SizeRun> &runs);
 
@@ -42,6 +47,13 @@ private:
 
     // All files of one size: sampled, split by their samples, and digested where they agree.
     void hashSize(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker);
+    void hashWhole(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker);
+    void hashSampled(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker,
+                     std::vector<std::pair<std::size_t, quint64>> &freshSamples);
+    // Files that took their digest from the cache and may join a group: allocation digest and tags.
+    void completeKnown(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker);
+    void recordLearnt(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
+                      const std::vector<std::pair<std::size_t, quint64>> &freshSamples, Worker &worker);
     // Files that may share their content; `openFiles` holds their descriptors when already open.
     void hashBucket(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &bucket,
                     const std::vector<int> &openFiles, Worker &worker);
@@ -56,6 +68,9 @@ private:
     bool m_ignoreMp4Header;
     bool m_sampleFirst;
     std::vector<char> m_needsDigest; // per node: hard links share it, so it cannot be skipped
+    std::vector<char> m_headerSkipped; // per node: its digest leaves out the MP4 header
+    std::vector<char> m_complete;      // per node: digested over every byte, worth keeping
+    KnownDigests m_known;
     qint64 m_total = 0;
     std::atomic<qint64> m_handled{0};
     std::mutex m_tagsMutex;

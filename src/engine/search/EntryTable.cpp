@@ -62,15 +62,21 @@ std::string EntryTable::path(const FileEntry &e) const
     return result;
 }
 
+namespace {
+
+qint64 seconds(qint64 nanoseconds) { return nanoseconds >= 0 ? nanoseconds / 1'000'000'000 : -((-nanoseconds + 999'999'999) / 1'000'000'000); }
+
+} // namespace
+
 ResultItem EntryTable::resultItem(const FileEntry &e) const
 {
     ResultItem item;
     item.path = qPath(e);
     item.size = e.size;
     item.physicalSize = e.physicalSize;
-    item.modified = e.modified;
+    item.modified = seconds(e.modifiedNs);
     item.lastUsed = e.lastUsed;
-    item.attributes = e.attributes;
+    item.attributes = seconds(e.changedNs);
     item.created = e.created;
     item.flags = e.flags;
     item.device = e.device;

@@ -21,8 +21,8 @@ struct FileEntry {
     quint16 flags = 0; // ItemFlag bits set at enumeration
     qint64 size = 0;
     qint64 physicalSize = 0;
-    qint64 modified = 0;
-    qint64 attributes = 0; // status change time
+    qint64 modifiedNs = 0; // nanoseconds: with the change time, they tell a file's state apart
+    qint64 changedNs = 0;  // status change time
     qint64 lastUsed = kNoDate;
     qint64 created = kNoDate;
     quint64 device = 0;

@@ -16,6 +16,7 @@
 #include <sys/statvfs.h>
 #include <sys/sysmacros.h>
 #include <thread>
+#include <time.h>
 #include <unistd.h>
 
 namespace selfsame {
@@ -184,8 +185,8 @@ bool Enumerator::Walk::visit(int dirfd, const FolderAccess &folder, quint32 fold
                 entry.flags = quint16((writable ? 0 : ReadOnly) | (otherOwner ? OtherOwner : 0));
                 entry.size = qint64(st.stx_size);
                 entry.physicalSize = st.stx_blocks ? qint64(st.stx_blocks) * 512 : entry.size;
-                entry.modified = st.stx_mtime.tv_sec;
-                entry.attributes = st.stx_ctime.tv_sec;
+                entry.modifiedNs = st.stx_mtime.tv_sec * 1'000'000'000 + st.stx_mtime.tv_nsec;
+                entry.changedNs = st.stx_ctime.tv_sec * 1'000'000'000 + st.stx_ctime.tv_nsec;
                 entry.lastUsed = st.stx_atime.tv_sec;
                 entry.created = (st.stx_mask & STATX_BTIME) ? qint64(st.stx_btime.tv_sec) : kNoDate;
                 entry.device = makedev(st.stx_dev_major, st.stx_dev_minor);
@@ -356,6 +357,9 @@ void Enumerator::Walk::work()
 EnumerationResult Enumerator::run()
 {
     EnumerationResult result;
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    result.startedNs = qint64(now.tv_sec) * 1'000'000'000 + now.tv_nsec;
     Walk walk(*this, result);
     for (const QString &location : m_request.searchInFolderURLs)
         walk.location(location);

@@ -17,6 +17,7 @@ struct EnumerationResult {
     std::vector<std::string> packages;  // package folder paths, each with "/" appended
     qint64 enumerated = 0;              // items seen before any filter
     qint64 unreadableFolders = 0;       // folders that could not be listed
+    qint64 startedNs = 0;               // wall clock when the walk began
 };
 
 // Walks the locations of a request on several threads and keeps the items that pass its

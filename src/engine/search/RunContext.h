@@ -9,6 +9,8 @@
 
 namespace selfsame {
 
+class DigestCache;
+
 enum SearchingState : int { Running = 0, AbortRequested = 1, Finished = 2 };
 
 // Counts that tell what a search did, for summaries and benchmarks.
@@ -20,6 +22,7 @@ struct SearchStatistics {
     qint64 filesHashed = 0;       // files read whole for a content digest
     qint64 filesSampled = 0;      // files told apart by their first and last bytes alone
     qint64 bytesRead = 0;
+    qint64 filesFromCache = 0;    // files whose digest or sample the digest cache supplied
     bool someDurationFound = false;       // duration mode: some item had a duration
     bool someSpotlightValueFound = false; // attribute mode: some item had the attribute
 };
@@ -31,6 +34,7 @@ struct RunContext {
     std::function<void(const QString &status, double progress)> post; // called from any thread
     QString stepPrefix;                                                   // "Step %1 of %2: " or empty
     SearchStatistics statistics;
+    DigestCache *digestCache = nullptr; // none: every file is read
 
     bool aborted() const { return searchingState.load(std::memory_order_relaxed) == AbortRequested; }
 

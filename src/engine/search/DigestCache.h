@@ -1,0 +1,95 @@
+#pragma once
+
+#include "results/ResultItem.h"
+
+#include <QString>
+
+#include <condition_variable>
+#include <mutex>
+#include <optional>
+#include <thread>
+#include <vector>
+
+struct sqlite3;
+
+namespace selfsame {
+
+// What identifies one state of a file: a write, a rename over it or a metadata change gives
+// another key (the change time cannot be set by users), and the header rule is part of it
+// because it changes which bytes the digest covers.
+struct DigestKey {
+    quint64 device = 0;
+    quint64 inode = 0;
+    qint64 size = 0;
+    qint64 modifiedNs = 0;
+    qint64 changedNs = 0;
+    bool headerSkipped = false;
+};
+
+// What earlier searches learnt about a file: the check value of its first and last bytes,
+// and its content digest when it was read whole. Either may be missing.
+struct CachedDigest {
+    std::optional<quint64> sample;
+    std::optional<Digest> digest;
+};
+
+// Digests of files kept between searches, in an SQLite database that several processes may
+// use at once. Results never depend on it: a record is used only when the file's key is
+// unchanged and the record's own check value is intact; a database that cannot be used is
+// moved aside and started afresh. Records are written by a thread of the cache's own, in
+// batches. Least recently used records go once the database outgrows its size limit.
+class DigestCache {
+public:
+    struct Options {
+        qint64 sizeLimit = qint64(512) << 20; // bytes of live records
+        int busyTimeoutMs = 5000;             // waiting for another process's transaction
+    };
+
+    explicit DigestCache(QString path) : DigestCache(std::move(path), Options()) {}
+    DigestCache(QString path, Options options);
+    ~DigestCache(); // writes what is still queued
+    DigestCache(const DigestCache &) = delete;
+    DigestCache &operator=(const DigestCache &) = delete;
+
+    // `$XDG_CACHE_HOME/selfsame/digests.sqlite`
+    static QString defaultPath();
+    // Removes the database; false when a file stayed.
+    static bool clear(const QString &path);
+
+    bool isOpen() const { return m_db != nullptr; }
+    const QString &path() const { return m_path; }
+
+    // One answer per key, in the keys' order.
+    std::vector<std::optional<CachedDigest>> lookup(const std::vector<DigestKey> &keys);
+    // Queued for the writing thread; a later record of a key replaces the earlier one.
+    void store(std::vector<std::pair<DigestKey, CachedDigest>> records);
+    // Returns once every queued record is written (or dropped on a database error).
+    void flush();
+
+private:
+    struct Pending;
+    bool open();
+    bool openOnce(QString *problem);
+    void closeDatabase();
+    void moveAside(const QString &reason);
+    void writeLoop();
+    void write(const Pending &batch);
+    void evictIfOverLimit();
+    bool failed(int code, const char *what);
+
+    QString m_path;
+    Options m_options;
+    sqlite3 *m_db = nullptr;
+    std::mutex m_dbMutex; // one connection, used by the caller and by the writing thread
+    bool m_broken = false; // an error showed the database damaged: moved aside at close
+    bool m_complained = false;
+
+    std::mutex m_queueMutex;
+    std::condition_variable m_queueChanged;
+    std::vector<Pending> m_queue;
+    bool m_writing = false;
+    bool m_stopping = false;
+    std::thread m_writer;
+};
+
+} // namespace selfsame

@@ -1,0 +1,63 @@
+#include "search/KnownDigests.h"
+
+namespace selfsame {
+
+KnownDigests::KnownDigests(DigestCache *cache, const EntryTable &entries, qint64 walkStartedNs)
+    : m_cache(cache && cache->isOpen() ? cache : nullptr), m_entries(entries),
+      m_settledBeforeNs(walkStartedNs - kSettleNs)
+{
+}
+
+DigestKey KnownDigests::key(const ContentNode &node, bool headerSkipped) const
+{
+    const FileEntry &entry = m_entries[node.entry];
+    return {entry.device, entry.inode, entry.size, entry.modifiedNs, entry.changedNs, headerSkipped};
+}
+
+bool KnownDigests::settled(const ContentNode &node) const
+{
+    const FileEntry &entry = m_entries[node.entry];
+    return entry.changedNs < m_settledBeforeNs && entry.modifiedNs < m_settledBeforeNs;
+}
+
+void KnownDigests::lookUp(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &candidates,
+                          const std::vector<char> &headerSkipped)
+{
+    if (!m_cache)
+        return;
+    std::vector<DigestKey> keys;
+    std::vector<std::size_t> asked;
+    keys.reserve(candidates.size());
+    for (std::size_t node : candidates) {
+        if (!settled(nodes[node]))
+            continue;
+        keys.push_back(key(nodes[node], headerSkipped[node]));
+        asked.push_back(node);
+    }
+    std::vector<std::optional<CachedDigest>> answers = m_cache->lookup(keys);
+    m_index.assign(nodes.size(), 0);
+    for (std::size_t i = 0; i < answers.size(); ++i) {
+        if (!answers[i])
+            continue;
+        m_values.push_back(std::move(*answers[i]));
+        m_index[asked[i]] = quint32(m_values.size());
+    }
+}
+
+void KnownDigests::learnt(Batch &batch, const ContentNode &node, bool headerSkipped, CachedDigest value)
+{
+    if (!m_cache || !settled(node) || (!value.sample && !value.digest))
+        return;
+    batch.records.emplace_back(key(node, headerSkipped), std::move(value));
+    if (batch.records.size() >= 4096)
+        flush(batch);
+}
+
+void KnownDigests::flush(Batch &batch)
+{
+    if (m_cache && !batch.records.empty())
+        m_cache->store(std::move(batch.records));
+    batch.records.clear();
+}
+
+} // namespace selfsame
