@@ -473,7 +473,9 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
                     ++end;
                 Class part{c.hash, {ms.begin() + qsizetype(begin), ms.begin() + qsizetype(end)}};
                 const Member &first = members[ms[begin]];
-                if (end - begin == 1 && !m_needsDigest[first.node]) {
+                // With a cache, a file that parts from the others is still read to its end:
+                // its digest spares reading it at the next search.
+                if (end - begin == 1 && !m_needsDigest[first.node] && !m_known.enabled()) {
                     drop(ms[begin]);
                 } else {
                     part.hash.update(bytesOf(ms[begin]), std::size_t(first.got));

@@ -43,6 +43,10 @@ public:
     struct Options {
         qint64 sizeLimit = qint64(512) << 20; // bytes of live records
         int busyTimeoutMs = 5000;             // waiting for another process's transaction
+        // Files changed less than this long before a search began are neither taken from the
+        // cache nor written to it: a second change within the file system's clock step would
+        // leave their key as it was.
+        qint64 settleNs = 2'000'000'000;
     };
 
     explicit DigestCache(QString path) : DigestCache(std::move(path), Options()) {}
@@ -58,6 +62,7 @@ public:
 
     bool isOpen() const { return m_db != nullptr; }
     const QString &path() const { return m_path; }
+    const Options &options() const { return m_options; }
 
     // One answer per key, in the keys' order.
     std::vector<std::optional<CachedDigest>> lookup(const std::vector<DigestKey> &keys);

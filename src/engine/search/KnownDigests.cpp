@@ -4,7 +4,7 @@ namespace selfsame {
 
 KnownDigests::KnownDigests(DigestCache *cache, const EntryTable &entries, qint64 walkStartedNs)
     : m_cache(cache && cache->isOpen() ? cache : nullptr), m_entries(entries),
-      m_settledBeforeNs(walkStartedNs - kSettleNs)
+      m_settledBeforeNs(m_cache ? walkStartedNs - m_cache->options().settleNs : 0)
 {
 }
 

@@ -12,11 +12,6 @@ namespace selfsame {
 // hashing began, and what the step learns, handed to the cache in batches.
 class KnownDigests {
 public:
-    // Files changed less than this long before the walk began are neither taken from the
-    // cache nor written to it: a second change within the file system's clock step would
-    // leave their key as it was.
-    static constexpr qint64 kSettleNs = 2'000'000'000;
-
     KnownDigests(DigestCache *cache, const EntryTable &entries, qint64 walkStartedNs);
 
     bool enabled() const { return m_cache != nullptr; }
