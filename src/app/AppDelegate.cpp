@@ -13,6 +13,9 @@
 #include "Settings.h"
 #include "WelcomePanel.h"
 
+#include "search/DigestCache.h"
+#include "search/DuplicateSearch.h"
+
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
@@ -144,6 +147,8 @@ void AppDelegate::buildMenus()
     m_revealAction = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("document-open-folder")),
                                          tr("Show in File &Manager"), this, &AppDelegate::revealTargetRows);
     fileMenu->addSeparator();
+    fileMenu->addAction(tr("Clear Digest &Cache"), this, &AppDelegate::clearDigestCache);
+    fileMenu->addSeparator();
     QAction *quit = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("application-exit")), tr("&Quit"),
                                         qApp, &QApplication::closeAllWindows);
     quit->setShortcut(QKeySequence::Quit);
@@ -182,6 +187,15 @@ void AppDelegate::buildMenus()
     });
     for (QAction *menu : menuBar()->actions())
         replaceAppNameInMenu(menu->menu());
+}
+
+void AppDelegate::clearDigestCache()
+{
+    // Searches running now keep what they opened; the next search starts with an empty cache.
+    const QString path = DigestCache::defaultPath();
+    if (!DigestCache::clear(path))
+        showAlert(this, QMessageBox::Warning, tr("The digest cache could not be cleared."),
+                  tr("Check the permissions of %1.").arg(path), {tr("OK")}, [](int) {});
 }
 
 void AppDelegate::loadSettings()
@@ -298,6 +312,8 @@ Dupes *AppDelegate::searchInFolderURLs(const QStringList &paths)
         return nullptr;
     }
     m_options->showCanonicalTexts(start.shownOptions);
+    DuplicateSearch::setDigestCachePath(m_settings.boolValue(key::useDigestCache) ? DigestCache::defaultPath()
+                                                                                   : QString());
 
     auto *dupes = new Dupes(m_settings);
     m_dupesList.append(dupes);

@@ -60,6 +60,7 @@ private:
     QWidget *buildLocations();
     void buildMenus();
     void loadSettings();
+    void clearDigestCache();
     void placeWindow();
     // Opens a chooser modal to the window; the chosen items are added.
     void chooseLocations(QFileDialog::FileMode fileMode, const QString &title, const QString &prompt,

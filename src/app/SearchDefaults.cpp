@@ -35,6 +35,7 @@ void registerSearchDefaults(Settings &settings)
         {key::filenameIgnoreExtension, false},
         {key::filenameIgnoreCommonSuffixes, false},
         {key::commonSuffixes, QString(kDefaultCommonSuffixes)},
+        {key::useDigestCache, true},
     });
 }
 

@@ -41,6 +41,7 @@ QString usageText()
 {
     return tr("Usage: selfsame-cli [OPTIONS] PATH...\n"
               "       selfsame-cli put-back FILE...   (files in the trash, back to where they came from)\n"
+              "       selfsame-cli clear-cache        (forget the file digests kept between searches)\n"
               "Finds files (and with --compare-folders, folders) of equal content, or of equal duration,\n"
               "name or metadata attribute.\n"
               "\n"
@@ -70,6 +71,8 @@ QString usageText()
               "                             that files with this extension can carry, and exit\n"
               "  --format text|json|csv     output format (default text: a blank line between groups)\n"
               "  --summary                  counts to standard error\n"
+              "  --no-cache                 read every compared file: neither use nor update the digest\n"
+              "                             cache (kept in $XDG_CACHE_HOME/selfsame)\n"
               "  --select RULE [OPTIONS]    show which copies a selection rule picks (see below)\n"
               "  -h, --help                 show this help\n"
               "  --version                  show the version\n"
@@ -167,6 +170,8 @@ ParseResult parseCommandLine(const QStringList &arguments)
                 return fail(tr("--format takes text, json or csv, not '%1'").arg(value));
         } else if (argument == QLatin1String("--summary")) {
             options.summary = true;
+        } else if (argument == QLatin1String("--no-cache")) {
+            options.useCache = false;
         } else if (argument == QLatin1String("--mode")) {
             static const QStringList modes = {"content", "duration", "name", "attribute"};
             const qsizetype mode = modes.indexOf(value);

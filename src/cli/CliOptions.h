@@ -16,6 +16,7 @@ struct CliOptions {
     SearchRequest request;
     OutputFormat format = OutputFormat::Text;
     bool summary = false;
+    bool useCache = true; // keep and use file digests between searches
     bool help = false;
     bool version = false;
     std::optional<QString> listAttributes; // list the catalogue: all of it (""), or for an extension

@@ -166,6 +166,7 @@ QJsonObject summaryObject(const QList<ResultItem> &items, const SearchStatistics
             {"filesHashed", statistics.filesHashed},
             {"filesToldApartBySample", statistics.filesSampled},
             {"bytesRead", statistics.bytesRead},
+            {"filesFromCache", statistics.filesFromCache},
             {"unreadableFolders", statistics.unreadableFolders},
             {"unreadableFiles", statistics.unreadableFiles},
             {"groups", summary.groups},
@@ -299,7 +300,9 @@ QByteArray summaryText(const QList<ResultItem> &items, const SearchStatistics &s
     static const std::pair<const char *, const char *> kLines[] = {
         {"filesEnumerated", "files enumerated"},     {"filesHashed", "files hashed"},
         {"filesToldApartBySample", "files told apart by their first and last bytes"},
-        {"bytesRead", "bytes read"},                  {"unreadableFolders", "unreadable folders"},
+        {"bytesRead", "bytes read"},
+        {"filesFromCache", "files known from the digest cache"},
+        {"unreadableFolders", "unreadable folders"},
         {"unreadableFiles", "unreadable files"},      {"groups", "groups"},
         {"duplicates", "duplicates"},                 {"reclaimableBytes", "reclaimable bytes"}};
     QByteArray out;

@@ -9,6 +9,7 @@
 #include "attributes/SpotlightAttributesManager.h"
 #include "autoselect/AutomaticSelection.h"
 #include "results/ResultModel.h"
+#include "search/DigestCache.h"
 #include "search/DuplicateSearch.h"
 
 #include <QCoreApplication>
@@ -60,6 +61,16 @@ int main(int argc, char *argv[])
         return runPutBack(app.arguments().mid(2), [](const QByteArray &b) { writeAll(stdout, b); },
                           [](const QByteArray &b) { writeAll(stderr, b); });
 
+    if (app.arguments().value(1) == u"clear-cache" && app.arguments().size() == 2) {
+        const QString path = DigestCache::defaultPath();
+        if (!DigestCache::clear(path)) {
+            writeAll(stderr, QStringLiteral("selfsame-cli: cannot remove the digest cache %1\n").arg(path).toUtf8());
+            return 1;
+        }
+        writeAll(stdout, QStringLiteral("cleared the digest cache %1\n").arg(path).toUtf8());
+        return 0;
+    }
+
     QStringList arguments = app.arguments().mid(1);
     FileActionOptions actionOptions;
     bool acting = false;
@@ -109,6 +120,7 @@ int main(int argc, char *argv[])
         return 2;
     }
 
+    DuplicateSearch::setDigestCachePath(options.useCache ? DigestCache::defaultPath() : QString());
     DuplicateSearch search;
     const bool terminal = isatty(STDERR_FILENO);
     if (terminal)

@@ -1,10 +1,13 @@
 #include "search/DuplicateSearch.h"
 
+#include "search/DigestCache.h"
 #include "search/SearchRun.h"
 
 #include <QCoreApplication>
 
 #include <chrono>
+#include <mutex>
+#include <optional>
 
 namespace selfsame {
 
@@ -20,6 +23,25 @@ EmptyResultMessage emptyResultMessage(DetectionMode mode, const SearchStatistics
                 tr("Make sure the folder you are searching contains some audio or video files, and that your "
                    "Spotlight index is not disabled.")};
     return {tr("No duplicate files were found."), {}};
+}
+
+namespace {
+
+std::mutex g_cachePathMutex;
+QString g_cachePath;
+
+} // namespace
+
+void DuplicateSearch::setDigestCachePath(const QString &path)
+{
+    std::lock_guard lock(g_cachePathMutex);
+    g_cachePath = path;
+}
+
+QString DuplicateSearch::digestCachePath()
+{
+    std::lock_guard lock(g_cachePathMutex);
+    return g_cachePath;
 }
 
 DuplicateSearch::DuplicateSearch(QObject *parent) : QObject(parent) {}
@@ -64,6 +86,12 @@ void DuplicateSearch::searchInFolderURLsInBackground()
                                Qt::QueuedConnection);
                        },
                        {}, {}};
+    // Only content digests are kept; the cache writes what it still holds after searchDone.
+    std::optional<DigestCache> cache;
+    if (const QString path = digestCachePath(); !path.isEmpty() && m_request.detectionMode == DetectionMode::Content) {
+        cache.emplace(path);
+        context.digestCache = &*cache;
+    }
     QList<ResultItem> items = SearchRun(m_request, context).run();
     const SearchStatistics statistics = context.statistics;
     // Finished before searchDone is scheduled: its receivers must see a search that has ended.

@@ -30,6 +30,11 @@ public:
     // Stores the request (with its storage rules applied) and starts the search.
     void searchInFolderURLs(const SearchRequest &request);
 
+    // Where the content searches of this process keep file digests between searches
+    // (see DigestCache); empty: nowhere, every search reads every file it compares.
+    static void setDigestCachePath(const QString &path);
+    static QString digestCachePath();
+
     void abort() { abortAndWait(false); }
     // Requests an abort when the search is running; with `wait`, returns once it has stopped.
     // Safe to call from a signal handler when `wait` is false.
