@@ -40,6 +40,7 @@ bool parseSize(const QString &text, qint64 *bytes)
 QString usageText()
 {
     return tr("Usage: selfsame-cli [OPTIONS] PATH...\n"
+              "       selfsame-cli [OPTIONS] --anywhere FILE [PATH...]\n"
               "       selfsame-cli put-back FILE...   (files in the trash, back to where they came from)\n"
               "       selfsame-cli clear-cache        (forget the file digests kept between searches)\n"
               "Finds files (and with --compare-folders, folders) of equal content, or of equal duration,\n"
@@ -71,6 +72,8 @@ QString usageText()
               "                             that files with this extension can carry, and exit\n"
               "  --format text|json|csv     output format (default text: a blank line between groups)\n"
               "  --summary                  counts to standard error\n"
+              "  --anywhere                 the first path is a file: find its copies in the other paths,\n"
+              "                             or without them anywhere on the file's drive\n"
               "  --no-cache                 read every compared file: neither use nor update the digest\n"
               "                             cache (kept in $XDG_CACHE_HOME/selfsame)\n"
               "  --select RULE [OPTIONS]    show which copies a selection rule picks (see below)\n"
@@ -92,7 +95,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
     bool extensionGiven = false;
     std::optional<double> tolerance;
     std::optional<QString> suffixes;
-    bool ignoreSuffixes = false, attributeGiven = false;
+    bool ignoreSuffixes = false, attributeGiven = false, anywhere = false;
     SelectRequest select;
     auto fail = [&](const QString &error) {
         result.error = error;
@@ -170,6 +173,8 @@ ParseResult parseCommandLine(const QStringList &arguments)
                 return fail(tr("--format takes text, json or csv, not '%1'").arg(value));
         } else if (argument == QLatin1String("--summary")) {
             options.summary = true;
+        } else if (argument == QLatin1String("--anywhere")) {
+            anywhere = true;
         } else if (argument == QLatin1String("--no-cache")) {
             options.useCache = false;
         } else if (argument == QLatin1String("--mode")) {
@@ -266,6 +271,22 @@ ParseResult parseCommandLine(const QStringList &arguments)
 
     if (paths.isEmpty())
         return fail(tr("no folder or file to search"));
+    if (anywhere) {
+        const QFileInfo file(paths.takeFirst());
+        if (!file.isFile() || file.isSymLink())
+            return fail(tr("--anywhere needs a file, not '%1'").arg(file.filePath()));
+        request.searchInFolderURLs.append(QDir::cleanPath(file.absoluteFilePath()));
+        request.findAllDupesForSingleFiles = true;
+        for (const QString &path : paths) {
+            if (QFileInfo::exists(path))
+                options.singleFileScope.append(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+            else
+                options.missingPaths.append(path);
+        }
+        if (!paths.isEmpty() && options.singleFileScope.isEmpty())
+            result.error = tr("none of the given paths exists");
+        return result;
+    }
     for (const QString &path : paths) {
         const QFileInfo info(path);
         if (!info.exists()) {

@@ -17,6 +17,7 @@ struct CliOptions {
     OutputFormat format = OutputFormat::Text;
     bool summary = false;
     bool useCache = true; // keep and use file digests between searches
+    QStringList singleFileScope; // --anywhere: the folders searched for copies; empty: the file's volume
     bool help = false;
     bool version = false;
     std::optional<QString> listAttributes; // list the catalogue: all of it (""), or for an extension

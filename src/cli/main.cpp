@@ -122,6 +122,7 @@ int main(int argc, char *argv[])
 
     DuplicateSearch::setDigestCachePath(options.useCache ? DigestCache::defaultPath() : QString());
     DuplicateSearch search;
+    search.setSingleFileScope(options.singleFileScope);
     const bool terminal = isatty(STDERR_FILENO);
     if (terminal)
         QObject::connect(&search, &DuplicateSearch::progress, &app,

@@ -86,6 +86,7 @@ void DuplicateSearch::searchInFolderURLsInBackground()
                                Qt::QueuedConnection);
                        },
                        {}, {}};
+    context.singleFileScope = m_singleFileScope;
     // Only content digests are kept; the cache writes what it still holds after searchDone.
     std::optional<DigestCache> cache;
     if (const QString path = digestCachePath(); !path.isEmpty() && m_request.detectionMode == DetectionMode::Content) {

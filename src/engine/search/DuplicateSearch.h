@@ -35,6 +35,10 @@ public:
     static void setDigestCachePath(const QString &path);
     static QString digestCachePath();
 
+    // The folders searched for copies of single-file locations when the request asks for them;
+    // empty (the default): the volumes of the locations.
+    void setSingleFileScope(const QStringList &folders) { m_singleFileScope = folders; }
+
     void abort() { abortAndWait(false); }
     // Requests an abort when the search is running; with `wait`, returns once it has stopped.
     // Safe to call from a signal handler when `wait` is false.
@@ -57,6 +61,7 @@ private:
     void searchInFolderURLsInBackground();
 
     SearchRequest m_request;
+    QStringList m_singleFileScope;
     std::atomic<int> m_searchingState{Finished};
     std::atomic<bool> m_aborted{false};
     StatusThrottle m_throttle;

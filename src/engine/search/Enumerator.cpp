@@ -13,6 +13,8 @@
 #include <mutex>
 #include <strings.h>
 #include <sys/stat.h>
+#include <linux/magic.h>
+#include <sys/statfs.h>
 #include <sys/statvfs.h>
 #include <sys/sysmacros.h>
 #include <thread>
@@ -64,6 +66,24 @@ bool readableAndWritable(int dirfd, const char *name, const struct statx &st, co
     if (st.stx_uid == realUser)
         return (st.stx_mode & (S_IRUSR | S_IWUSR)) == (S_IRUSR | S_IWUSR);
     return faccessat(dirfd, name, R_OK | W_OK, 0) == 0;
+}
+
+// File systems that hold no user files, by their statfs magic numbers.
+bool isPseudoFileSystem(int dirfd)
+{
+    struct statfs volume;
+    if (fstatfs(dirfd, &volume) != 0)
+        return false;
+    switch (static_cast<unsigned long>(volume.f_type)) {
+    case PROC_SUPER_MAGIC: case SYSFS_MAGIC: case DEVPTS_SUPER_MAGIC: case CGROUP_SUPER_MAGIC:
+    case CGROUP2_SUPER_MAGIC: case SECURITYFS_MAGIC: case DEBUGFS_MAGIC: case TRACEFS_MAGIC:
+    case PSTOREFS_MAGIC: case BPF_FS_MAGIC: case 0x62656570 /* configfs */: case 0x65735543 /* fusectl */:
+    case 0x19800202 /* mqueue */: case HUGETLBFS_MAGIC: case 0x0187 /* autofs */: case BINFMTFS_MAGIC:
+    case EFIVARFS_MAGIC: case SELINUX_MAGIC: case NSFS_MAGIC: case 0x67596969 /* rpc_pipefs */:
+        return true;
+    default:
+        return false;
+    }
 }
 
 std::string parentOf(const std::string &path)
@@ -212,7 +232,13 @@ bool Enumerator::Walk::visit(int dirfd, const FolderAccess &folder, quint32 fold
         batch.names.resize(batch.names.size() - name.size());
     };
     const bool regular = S_ISREG(st.stx_mode);
-    if (m_request.filterFileSize && regular) {
+    if (!m_owner.m_onlySizes.empty()) {
+        if (!regular || !std::binary_search(m_owner.m_onlySizes.begin(), m_owner.m_onlySizes.end(),
+                                            qint64(st.stx_size))) {
+            drop();
+            return enter;
+        }
+    } else if (m_request.filterFileSize && regular) {
         const qint64 size = qint64(st.stx_size);
         if (size < m_request.minFileSize ||
             (m_request.maxFileSize >= m_request.minFileSize && size > m_request.maxFileSize)) {
@@ -279,6 +305,10 @@ void Enumerator::Walk::list(const Job &job)
         if (dirfd >= 0)
             close(dirfd);
         ++m_unreadable;
+        return;
+    }
+    if (!m_owner.m_onlySizes.empty() && isPseudoFileSystem(dirfd)) {
+        closedir(dir);
         return;
     }
     const FolderAccess access = folderAccess(dirfd);

@@ -30,6 +30,9 @@ public:
 
     // In the modes that compare metadata: the filter that reads it, the last one applied.
     void setMetadataFilter(MetadataFilter *filter) { m_metadataFilter = filter; }
+    // For look-ups of files by size: only regular files of these sizes (sorted) are kept, and
+    // folders of pseudo file systems (proc, sysfs, cgroups…) are not listed.
+    void keepOnlySizes(std::vector<qint64> sortedSizes) { m_onlySizes = std::move(sortedSizes); }
 
     EnumerationResult run();
 
@@ -52,6 +55,7 @@ private:
     uid_t m_realUser;
     std::function<void(qint64)> m_onItem;
     MetadataFilter *m_metadataFilter = nullptr;
+    std::vector<qint64> m_onlySizes;
 };
 
 } // namespace selfsame

@@ -3,6 +3,7 @@
 #include "search/StatusThrottle.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <atomic>
 #include <functional>
@@ -35,6 +36,7 @@ struct RunContext {
     QString stepPrefix;                                                   // "Step %1 of %2: " or empty
     SearchStatistics statistics;
     DigestCache *digestCache = nullptr; // none: every file is read
+    QStringList singleFileScope = {};   // where copies of single files are looked for; empty: their volumes
 
     bool aborted() const { return searchingState.load(std::memory_order_relaxed) == AbortRequested; }
 

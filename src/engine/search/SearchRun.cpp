@@ -5,6 +5,8 @@
 #include "results/PathPrefix.h"
 #include "search/ContentSearch.h"
 #include "search/Enumerator.h"
+#include "search/ExactSizeIndex.h"
+#include "search/SingleFileDuplicates.h"
 #include "search/SweepSearch.h"
 
 #include <QCoreApplication>
@@ -19,13 +21,18 @@ QList<ResultItem> SearchRun::run()
     const int steps = m_request.compareFolders ? 6 : 4;
 
     m_context.beginStep(1, steps, content);
-    const bool readsMetadata = m_request.detectionMode == DetectionMode::Duration ||
-                               m_request.detectionMode == DetectionMode::Attribute;
-    const int expectedType = m_request.detectionMode == DetectionMode::Attribute
-                                 ? SpotlightAttributesManager::GetTypeIDForSpotlightAttribute(m_request.spotlightAttribute)
+    SearchRequest request = m_request;
+    if (m_request.findAllDupesForSingleFiles) {
+        const auto index = ExactSizeIndex::create(m_context.singleFileScope, m_request, m_context);
+        request.searchInFolderURLs = SingleFileDuplicates(m_request, m_context, *index).extendedLocations();
+    }
+    const bool readsMetadata = request.detectionMode == DetectionMode::Duration ||
+                               request.detectionMode == DetectionMode::Attribute;
+    const int expectedType = request.detectionMode == DetectionMode::Attribute
+                                 ? SpotlightAttributesManager::GetTypeIDForSpotlightAttribute(request.spotlightAttribute)
                                  : AnyType;
-    MetadataFilter metadataFilter(m_request, expectedType);
-    Enumerator enumerator(m_request, m_context.searchingState, geteuid(), [this](qint64 count) {
+    MetadataFilter metadataFilter(request, expectedType);
+    Enumerator enumerator(request, m_context.searchingState, geteuid(), [this](qint64 count) {
         m_context.status(
             [count] {
                 return QCoreApplication::translate("DuplicateSearch", "Enumerating files… %1")
@@ -44,10 +51,10 @@ QList<ResultItem> SearchRun::run()
 
     QList<ResultItem> items;
     if (content)
-        items = ContentSearch(m_request, enumeration, m_context).run();
+        items = ContentSearch(request, enumeration, m_context).run();
     else
-        items = SweepSearch(m_request, enumeration).run();
-    removeCommonPathPrefix(m_request.searchInFolderURLs, items);
+        items = SweepSearch(request, enumeration).run();
+    removeCommonPathPrefix(request.searchInFolderURLs, items);
     return items;
 }
 

@@ -1,4 +1,5 @@
-// selfsame-cli keeps digests in the cache under XDG_CACHE_HOME unless told not to.
+// selfsame-cli keeps digests in the cache under XDG_CACHE_HOME unless told not to, and finds the
+// copies of one file with --anywhere.
 
 #include "support/TempTree.h"
 
@@ -39,6 +40,28 @@ TEST(DigestCacheCli, NoCacheLeavesItAloneAndClearCacheRemovesIt)
     EXPECT_EQ(runCli({QStringLiteral("clear-cache")}, &out), 0);
     EXPECT_TRUE(out.contains("cleared")) << out.toStdString();
     EXPECT_FALSE(QFileInfo::exists(cache));
+}
+
+TEST(AnywhereCli, PrintsTheFileWithItsCopiesInTheGivenFolders)
+{
+    TempTree tree;
+    tree.build({"photo:3", "backup/photo copy:3", "backup/deep/again:3", "backup/other:4", "elsewhere/photo:3"});
+    QByteArray out;
+    EXPECT_EQ(runCli({QStringLiteral("--anywhere"), tree.path(QStringLiteral("photo")),
+                      tree.path(QStringLiteral("backup"))},
+                     &out),
+              0);
+    const QString root = tree.path() + u'/';
+    EXPECT_EQ(QString::fromUtf8(out).replace(root, QString()),
+              QStringLiteral("backup/deep/again\nbackup/photo copy\nphoto\n"));
+
+    EXPECT_EQ(runCli({QStringLiteral("--anywhere"), QStringLiteral("--format"), QStringLiteral("json"),
+                      tree.path(QStringLiteral("backup/other")), tree.path()},
+                     &out),
+              1)
+        << "no copy";
+    EXPECT_TRUE(out.startsWith("{\"groups\":[]")) << out.toStdString();
+    EXPECT_EQ(runCli({QStringLiteral("--anywhere"), tree.path(QStringLiteral("backup"))}), 2) << "a folder";
 }
 
 } // namespace
