@@ -51,6 +51,8 @@ ContentHasher::ContentHasher(const EntryTable &entries, RunContext &context, boo
 
 qint64 ContentHasher::hashedLength(const ContentNode &node) const
 {
+    if (!m_ignoreMp4Header)
+        return node.size;
     const bool skip = skipsMp4Header(m_ignoreMp4Header, m_entries.name(m_entries[node.entry]), node.size);
     return node.size - (skip ? kMp4HeaderSize : 0);
 }
