@@ -40,6 +40,7 @@ struct ContentHasher::Worker {
     std::vector<qint64> allocStorage;
     SearchStatistics statistics;
     KnownDigests::Batch learnt;
+    std::vector<std::pair<std::size_t, Fingerprint>> fingerprints; // learnt in the current size job
 };
 
 ContentHasher::ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst,
@@ -176,6 +177,7 @@ void ContentHasher::hashSize(std::vector<ContentNode> &nodes, const std::vector<
         else
             whole[length == nodes[i].size ? 0 : 1].push_back(i);
     }
+    worker.fingerprints.clear();
     for (const auto &group : whole)
         hashWhole(nodes, group, worker);
     std::vector<std::pair<std::size_t, quint64>> freshSamples;
@@ -188,27 +190,71 @@ void ContentHasher::hashSize(std::vector<ContentNode> &nodes, const std::vector<
 
 void ContentHasher::hashWhole(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker)
 {
-    std::vector<std::size_t> unknown;
-    bool someKnown = false;
+    std::vector<std::size_t> unknown, fingerprinted;
     for (std::size_t i : files) {
         const CachedDigest *known = m_known.known(i);
         if (known && known->digest) {
             nodes[i].setDigest(*known->digest);
             ++worker.statistics.filesFromCache;
-            someKnown = true;
             reportProgress(nodes[i]);
+        } else if (known && known->fingerprint) {
+            fingerprinted.push_back(i);
         } else {
             unknown.push_back(i);
         }
     }
-    // A file may equal one whose digest is known: it is read to the end, never dropped.
-    if (someKnown)
+    // A file may equal one known from the cache: it is read to the end, never dropped.
+    if (unknown.size() < files.size())
         for (std::size_t i : unknown)
             m_needsDigest[i] = 1;
     if (unknown.size() == 1 && !m_needsDigest[unknown.front()])
         reportProgress(nodes[unknown.front()]); // alone in its size: cannot have a duplicate
     else if (!unknown.empty())
         hashBucket(nodes, unknown, {}, worker);
+    readUnlessUnique(nodes, files, fingerprinted, false, worker);
+}
+
+void ContentHasher::readUnlessUnique(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &group,
+                                     const std::vector<std::size_t> &fingerprinted, bool othersUnknown,
+                                     Worker &worker)
+{
+    if (fingerprinted.empty())
+        return;
+    std::sort(worker.fingerprints.begin(), worker.fingerprints.end());
+    auto fresh = [&](std::size_t i) -> std::optional<Fingerprint> {
+        const auto at = std::lower_bound(worker.fingerprints.begin(), worker.fingerprints.end(),
+                                         std::make_pair(i, Fingerprint{}));
+        if (at != worker.fingerprints.end() && at->first == i)
+            return at->second;
+        return std::nullopt;
+    };
+    // The fingerprints of the whole group; a digest without one could equal anything.
+    std::vector<Fingerprint> all;
+    bool wildcard = othersUnknown;
+    for (std::size_t i : group) {
+        const CachedDigest *known = m_known.known(i);
+        if (known && known->fingerprint)
+            all.push_back(*known->fingerprint);
+        else if (const auto learnt = fresh(i))
+            all.push_back(*learnt);
+        else if (nodes[i].has(HasDigest))
+            wildcard = true;
+    }
+    std::sort(all.begin(), all.end());
+    std::vector<std::size_t> shared;
+    for (std::size_t i : fingerprinted) {
+        const Fingerprint &own = *m_known.known(i)->fingerprint;
+        const auto [from, to] = std::equal_range(all.begin(), all.end(), own);
+        if (wildcard || to - from > 1) {
+            m_needsDigest[i] = 1;
+            shared.push_back(i);
+        } else {
+            ++worker.statistics.filesFromCache; // unique: no file of its size has its bytes
+            reportProgress(nodes[i]);
+        }
+    }
+    if (!shared.empty())
+        hashBucket(nodes, shared, {}, worker);
 }
 
 void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
@@ -218,11 +264,12 @@ void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vect
         return;
     // Files stay open from their sample to their digest, unless there are too many of one size.
     const bool keepOpen = files.size() <= kMaxOpenFiles;
+    enum Known { Unknown, ByDigest, ByFingerprint };
     struct Sample {
         quint64 key;
         std::size_t node;
         int fd;
-        bool known; // its digest came from the cache
+        Known known;
     };
     std::vector<Sample> samples;
     bool knownWithoutSample = false; // then no unknown file can be proved different by its sample
@@ -235,14 +282,13 @@ void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vect
             ++worker.statistics.filesFromCache;
             reportProgress(node);
             if (known->sample)
-                samples.push_back({*known->sample ^ quint64(skip), i, -1, true});
+                samples.push_back({*known->sample ^ quint64(skip), i, -1, ByDigest});
             else
                 knownWithoutSample = true;
             continue;
         }
         if (known && known->sample) {
-            ++worker.statistics.filesFromCache;
-            samples.push_back({*known->sample ^ quint64(skip), i, -1, false});
+            samples.push_back({*known->sample ^ quint64(skip), i, -1, known->fingerprint ? ByFingerprint : Unknown});
             continue;
         }
         int fd = m_folders.openFile(m_entries[node.entry]);
@@ -255,7 +301,7 @@ void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vect
             fd = -1;
         }
         if (fingerprint) {
-            samples.push_back({*fingerprint ^ quint64(skip), i, fd, false}); // the header rule is part of the key
+            samples.push_back({*fingerprint ^ quint64(skip), i, fd, Unknown}); // the header rule is part of the key
             if (m_known.enabled())
                 freshSamples.emplace_back(i, *fingerprint);
         } else {
@@ -270,16 +316,19 @@ void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vect
         std::size_t end = begin + 1;
         while (end < samples.size() && samples[end].key == samples[begin].key)
             ++end;
-        std::vector<std::size_t> bucket;
+        std::vector<std::size_t> bucket, fingerprinted, group;
         std::vector<int> fds;
         bool someKnown = knownWithoutSample;
         for (std::size_t k = begin; k < end; ++k) {
-            if (samples[k].known) {
+            group.push_back(samples[k].node);
+            if (samples[k].known != Unknown)
                 someKnown = true;
-                continue;
+            if (samples[k].known == ByFingerprint) {
+                fingerprinted.push_back(samples[k].node);
+            } else if (samples[k].known == Unknown) {
+                bucket.push_back(samples[k].node);
+                fds.push_back(samples[k].fd);
             }
-            bucket.push_back(samples[k].node);
-            fds.push_back(samples[k].fd);
         }
         if (someKnown)
             for (std::size_t i : bucket)
@@ -292,6 +341,8 @@ void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vect
             ++worker.statistics.filesSampled;
             reportProgress(nodes[bucket.front()]);
         }
+        // Files of other samples differ from these; those without one could equal them.
+        readUnlessUnique(nodes, group, fingerprinted, knownWithoutSample, worker);
         begin = end;
     }
 }
@@ -333,6 +384,7 @@ void ContentHasher::completeKnown(std::vector<ContentNode> &nodes, const std::ve
 void ContentHasher::recordLearnt(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
                                  const std::vector<std::pair<std::size_t, quint64>> &freshSamples, Worker &worker)
 {
+    std::sort(worker.fingerprints.begin(), worker.fingerprints.end());
     auto fresh = freshSamples.begin();
     for (std::size_t i : files) {
         while (fresh != freshSamples.end() && fresh->first < i)
@@ -343,11 +395,18 @@ void ContentHasher::recordLearnt(const std::vector<ContentNode> &nodes, const st
         const CachedDigest *known = m_known.known(i);
         if (known && known->digest)
             continue; // nothing new
-        if (known && !value.sample)
-            value.sample = known->sample;
+        const auto learnt = std::lower_bound(worker.fingerprints.begin(), worker.fingerprints.end(),
+                                             std::make_pair(i, Fingerprint{}));
+        if (learnt != worker.fingerprints.end() && learnt->first == i)
+            value.fingerprint = learnt->second;
         if (m_complete[i])
             value.digest = nodes[i].digest();
-        if (value.digest || (value.sample && !known))
+        const bool news = value.digest || value.fingerprint || (value.sample && !known);
+        if (known) {
+            value.sample = value.sample ? value.sample : known->sample;
+            value.fingerprint = value.fingerprint ? value.fingerprint : known->fingerprint;
+        }
+        if (news)
             m_known.learnt(worker.learnt, nodes[i], m_headerSkipped[i], std::move(value));
     }
 }
@@ -358,13 +417,15 @@ void ContentHasher::hashAlone(std::vector<ContentNode> &nodes, std::size_t index
     const std::string path = m_entries.path(m_entries[node.entry]);
     const DigestResult result = computeDigest(path.c_str(), node.size,
                                               m_ignoreMp4Header, worker.buffer, worker.allocStorage,
-                                              &m_context.searchingState);
+                                              &m_context.searchingState, m_known.enabled());
     worker.statistics.bytesRead += result.bytesRead;
     if (result.digest) {
         node.setDigest(*result.digest);
         ++worker.statistics.filesHashed;
-        if (m_known.enabled() && result.bytesRead == hashedLength(node))
+        if (m_known.enabled() && result.bytesRead == hashedLength(node)) {
             m_complete[index] = 1;
+            worker.fingerprints.emplace_back(index, *result.fingerprint);
+        }
     } else {
         ++worker.statistics.unreadableFiles;
     }
@@ -419,9 +480,12 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
     struct Class {
         Sha512 hash;
         std::vector<std::size_t> members;
+        std::optional<Fingerprinter> fingerprint; // with a cache only
     };
     std::vector<Class> classes;
-    classes.push_back({Sha512(), {}});
+    classes.push_back({Sha512(), {}, {}});
+    if (m_known.enabled())
+        classes.back().fingerprint.emplace();
     classes.back().members.resize(members.size());
     std::iota(classes.back().members.begin(), classes.back().members.end(), 0);
 
@@ -430,8 +494,10 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
         for (std::size_t m : c.members) {
             ContentNode &node = nodes[members[m].node];
             node.setDigest(digest);
-            if (complete && m_known.enabled())
+            if (complete && c.fingerprint) {
                 m_complete[members[m].node] = 1;
+                worker.fingerprints.emplace_back(members[m].node, c.fingerprint->final());
+            }
             if (auto alloc = computeAllocDigest(members[m].fd, worker.allocStorage))
                 node.setAllocDigest(*alloc);
             if (QStringList tags = readUserTags(members[m].fd); !tags.isEmpty()) {
@@ -473,11 +539,14 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
                 while (end < ms.size() && members[ms[end]].got == members[ms[begin]].got &&
                        std::memcmp(bytesOf(ms[end]), bytesOf(ms[begin]), std::size_t(members[ms[begin]].got)) == 0)
                     ++end;
-                Class part{c.hash, {ms.begin() + qsizetype(begin), ms.begin() + qsizetype(end)}};
+                Class part{c.hash, {ms.begin() + qsizetype(begin), ms.begin() + qsizetype(end)}, c.fingerprint};
                 const Member &first = members[ms[begin]];
-                // With a cache, a file that parts from the others is still read to its end:
-                // its digest spares reading it at the next search.
-                if (end - begin == 1 && !m_needsDigest[first.node] && !m_known.enabled()) {
+                if (part.fingerprint)
+                    part.fingerprint->update(bytesOf(ms[begin]), std::size_t(first.got));
+                if (end - begin == 1 && !m_needsDigest[first.node]) {
+                    // Read to its end, it is known by its fingerprint at the next search.
+                    if (part.fingerprint && offset + qint64(want) >= size && first.got == qint64(want))
+                        worker.fingerprints.emplace_back(first.node, part.fingerprint->final());
                     drop(ms[begin]);
                 } else {
                     part.hash.update(bytesOf(ms[begin]), std::size_t(first.got));

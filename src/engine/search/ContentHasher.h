@@ -50,6 +50,10 @@ private:
     void hashWhole(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker);
     void hashSampled(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker,
                      std::vector<std::pair<std::size_t, quint64>> &freshSamples);
+    // Files the cache knows by their fingerprint alone are read only when another file of
+    // `group` has the same fingerprint, or one whose fingerprint is unknown (`othersUnknown`).
+    void readUnlessUnique(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &group,
+                          const std::vector<std::size_t> &fingerprinted, bool othersUnknown, Worker &worker);
     // Files that took their digest from the cache and may join a group: allocation digest and tags.
     void completeKnown(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker);
     void recordLearnt(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,

@@ -54,6 +54,32 @@ Digest sha512(const void *data, std::size_t length)
     return digest;
 }
 
+Fingerprinter::Fingerprinter() : m_state(XXH3_createState())
+{
+    if (!m_state || XXH3_128bits_reset(static_cast<XXH3_state_t *>(m_state)) != XXH_OK)
+        qFatal("XXH3 state cannot be made");
+}
+
+Fingerprinter::Fingerprinter(const Fingerprinter &other) : m_state(XXH3_createState())
+{
+    if (!m_state)
+        qFatal("XXH3 state cannot be made");
+    XXH3_copyState(static_cast<XXH3_state_t *>(m_state), static_cast<const XXH3_state_t *>(other.m_state));
+}
+
+Fingerprinter::~Fingerprinter() { XXH3_freeState(static_cast<XXH3_state_t *>(m_state)); }
+
+void Fingerprinter::update(const void *data, std::size_t length)
+{
+    XXH3_128bits_update(static_cast<XXH3_state_t *>(m_state), data, length);
+}
+
+Fingerprint Fingerprinter::final() const
+{
+    const XXH128_hash_t hash = XXH3_128bits_digest(static_cast<const XXH3_state_t *>(m_state));
+    return {hash.low64, hash.high64};
+}
+
 int compareDigests(const Digest &a, const Digest &b)
 {
     const int order = std::memcmp(a.data(), b.data(), a.size());
@@ -140,7 +166,8 @@ ssize_t readAt(int fd, char *buffer, std::size_t length, off_t offset)
 }
 
 DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Header, ReadBuffer &buffer,
-                           std::vector<qint64> &allocStorage, const std::atomic<int> *abortFlag)
+                           std::vector<qint64> &allocStorage, const std::atomic<int> *abortFlag,
+                           bool withFingerprint)
 {
     DigestResult result;
     if (fileSize < 0) {
@@ -154,6 +181,9 @@ DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Head
         return result;
 
     Sha512 hash;
+    std::optional<Fingerprinter> fingerprint;
+    if (withFingerprint)
+        fingerprint.emplace();
     off_t offset = skipsMp4Header(ignoreMp4Header, baseName(path), fileSize) ? kMp4HeaderSize : 0;
     if (fileSize - offset > qint64(buffer.size()))
         posix_fadvise(fd, offset, fileSize - offset, POSIX_FADV_SEQUENTIAL);
@@ -164,6 +194,8 @@ DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Head
         const ssize_t n = readAt(fd, buffer.data(), wanted, offset);
         if (n > 0) {
             hash.update(buffer.data(), std::size_t(n));
+            if (fingerprint)
+                fingerprint->update(buffer.data(), std::size_t(n));
             offset += n;
             result.bytesRead += n;
         }
@@ -171,6 +203,8 @@ DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Head
             break; // a file that shrank or failed: the digest covers what was read
     }
     result.digest = hash.final();
+    if (fingerprint)
+        result.fingerprint = fingerprint->final();
     result.allocDigest = computeAllocDigest(fd, allocStorage);
     close(fd);
     return result;

@@ -32,6 +32,29 @@ private:
 };
 
 Digest sha512(const void *data, std::size_t length);
+
+// XXH3-128 of the bytes a content digest covers: far cheaper than SHA-512 and no content
+// digest, but files of different fingerprints certainly differ. The digest cache keeps it
+// for files that were read whole without needing a digest.
+struct Fingerprint {
+    quint64 low = 0;
+    quint64 high = 0;
+    bool operator==(const Fingerprint &) const = default;
+    auto operator<=>(const Fingerprint &) const = default;
+};
+
+class Fingerprinter {
+public:
+    Fingerprinter();
+    ~Fingerprinter();
+    Fingerprinter(const Fingerprinter &other);
+    Fingerprinter &operator=(const Fingerprinter &) = delete;
+    void update(const void *data, std::size_t length);
+    Fingerprint final() const;
+
+private:
+    void *m_state; // XXH3_state_t, whose layout the library keeps to itself
+};
 inline Digest sha512(const QByteArray &bytes) { return sha512(bytes.constData(), std::size_t(bytes.size())); }
 
 // Byte order of digests: memcmp over the shorter length, then the shorter first. Returns -1, 0 or 1.
@@ -73,6 +96,7 @@ ssize_t readAt(int fd, char *buffer, std::size_t length, off_t offset);
 
 struct DigestResult {
     std::optional<Digest> digest;
+    std::optional<Fingerprint> fingerprint; // when asked for
     std::optional<Digest> allocDigest;
     qint64 bytesRead = 0;
 };
@@ -81,7 +105,8 @@ struct DigestResult {
 // physical extent map). fileSize < 0: looked up with lstat. The loop stops early when
 // abortFlag holds 1 (an abort request); the digest then covers the bytes read so far.
 DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Header, ReadBuffer &buffer,
-                           std::vector<qint64> &allocStorage, const std::atomic<int> *abortFlag = nullptr);
+                           std::vector<qint64> &allocStorage, const std::atomic<int> *abortFlag = nullptr,
+                           bool withFingerprint = false);
 
 // Allocation digest of an open regular file: device id, then physical offset and length of
 // every contiguous extent. nullopt where the extents do not cover the file exactly.

@@ -30,11 +30,13 @@ qint64 today() { return QDateTime::currentSecsSinceEpoch() / 86400; }
 
 quint64 checkValue(const DigestKey &key, const CachedDigest &value)
 {
+    const Fingerprint fingerprint = value.fingerprint.value_or(Fingerprint{});
     struct {
-        qint64 fields[9];
+        qint64 fields[12];
         Digest digest;
     } bytes{{qint64(key.device), qint64(key.inode), key.size, key.modifiedNs, key.changedNs, key.headerSkipped,
-             value.sample.has_value(), qint64(value.sample.value_or(0)), value.digest.has_value()},
+             value.sample.has_value(), qint64(value.sample.value_or(0)), value.digest.has_value(),
+             value.fingerprint.has_value(), qint64(fingerprint.low), qint64(fingerprint.high)},
             value.digest.value_or(Digest{})};
     return XXH3_64bits(&bytes, sizeof(bytes));
 }
@@ -148,7 +150,7 @@ bool DigestCache::openOnce(QString *problem)
             "BEGIN IMMEDIATE;"
             "CREATE TABLE digests (device INTEGER NOT NULL, inode INTEGER NOT NULL, skipped INTEGER NOT NULL,"
             " size INTEGER NOT NULL, modified INTEGER NOT NULL, changed INTEGER NOT NULL,"
-            " sample INTEGER, digest BLOB, used INTEGER NOT NULL, checkValue INTEGER NOT NULL,"
+            " sample INTEGER, digest BLOB, used INTEGER NOT NULL, checkValue INTEGER NOT NULL, fingerprint BLOB,"
             " PRIMARY KEY (device, inode, skipped)) WITHOUT ROWID;"
             "PRAGMA application_id = %1;"
             "PRAGMA user_version = %2;"
@@ -247,6 +249,13 @@ std::vector<std::optional<CachedDigest>> DigestCache::lookup(const std::vector<D
             std::memcpy(digest.data(), sqlite3_column_blob(row, 7), digest.size());
             value.digest = digest;
         }
+        if (sqlite3_column_type(row, 10) != SQLITE_NULL) {
+            if (sqlite3_column_bytes(row, 10) != int(sizeof(Fingerprint)))
+                return;
+            Fingerprint fingerprint;
+            std::memcpy(&fingerprint, sqlite3_column_blob(row, 10), sizeof(fingerprint));
+            value.fingerprint = fingerprint;
+        }
         if (quint64(sqlite3_column_int64(row, 9)) != checkValue(key, value))
             return;
         if (sqlite3_column_int64(row, 8) < now)
@@ -255,7 +264,7 @@ std::vector<std::optional<CachedDigest>> DigestCache::lookup(const std::vector<D
     };
 
     constexpr const char *columns = "SELECT inode, skipped, 0, size, modified, changed, sample, digest, used, "
-                                    "checkValue FROM digests ";
+                                    "checkValue, fingerprint FROM digests ";
     Statement point(m_db, (std::string(columns) + "WHERE device = ? AND inode = ? AND skipped = ?").c_str());
     Statement range(m_db, (std::string(columns) + "WHERE device = ? AND inode BETWEEN ? AND ? "
                                                    "ORDER BY inode, skipped").c_str());
@@ -359,7 +368,7 @@ void DigestCache::write(const Pending &batch)
     if (failed(sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), "writing"))
         return; // another process kept the database busy too long: these records are only lost
     Statement insert(m_db, "INSERT OR REPLACE INTO digests (device, inode, skipped, size, modified, changed, "
-                           "sample, digest, used, checkValue) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
+                           "sample, digest, used, checkValue, fingerprint) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
     Statement touch(m_db, "UPDATE digests SET used = ? WHERE device = ? AND inode = ? AND skipped = ?");
     int code = insert && touch ? SQLITE_OK : sqlite3_errcode(m_db);
     const qint64 now = today();
@@ -384,6 +393,10 @@ void DigestCache::write(const Pending &batch)
             sqlite3_bind_null(s, 8);
         sqlite3_bind_int64(s, 9, now);
         sqlite3_bind_int64(s, 10, qint64(checkValue(key, value)));
+        if (value.fingerprint)
+            sqlite3_bind_blob(s, 11, &*value.fingerprint, int(sizeof(Fingerprint)), SQLITE_STATIC);
+        else
+            sqlite3_bind_null(s, 11);
         code = sqlite3_step(s);
     }
     for (const DigestKey &key : batch.touched) {

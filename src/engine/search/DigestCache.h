@@ -1,6 +1,6 @@
 #pragma once
 
-#include "results/ResultItem.h"
+#include "search/Digest.h"
 
 #include <QString>
 
@@ -27,10 +27,12 @@ struct DigestKey {
 };
 
 // What earlier searches learnt about a file: the check value of its first and last bytes,
-// and its content digest when it was read whole. Either may be missing.
+// the fingerprint of its whole content when it was read whole, and its content digest when
+// one was needed. Any may be missing.
 struct CachedDigest {
     std::optional<quint64> sample;
     std::optional<Digest> digest;
+    std::optional<Fingerprint> fingerprint;
 };
 
 // Digests of files kept between searches, in an SQLite database that several processes may

@@ -2,6 +2,7 @@
 
 #include "format/Formatters.h"
 #include "search/Enumerator.h"
+#include "search/TrackerIndex.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -43,6 +44,12 @@ QString volumeRoot(const QString &path)
 std::unique_ptr<ExactSizeIndex> ExactSizeIndex::create(const QStringList &scope, const SearchRequest &request,
                                                        RunContext &context)
 {
+    // D-Bus connections need the application object that every program of ours has.
+    if (QCoreApplication::instance())
+        if (auto tracker = TrackerIndex::connect(QDBusConnection::sessionBus(),
+                                                 QLatin1String(TrackerIndex::kMinerService), scope,
+                                                 context.searchingState))
+            return tracker;
     QStringList folders = scope;
     if (folders.isEmpty()) {
         for (const QString &location : request.searchInFolderURLs)

@@ -11,7 +11,8 @@
 
 namespace selfsame {
 
-// Where the files of one exact size are found, for duplicates of single files anywhere.
+// Where the files of one exact size are found, for duplicates of single files anywhere:
+// the desktop's file index when one answers, else a walk of the folders in scope.
 class ExactSizeIndex {
 public:
     virtual ~ExactSizeIndex() = default;
@@ -20,7 +21,8 @@ public:
     virtual std::unordered_map<qint64, QStringList> findFilesWithExactSizes(const std::vector<qint64> &sizes) = 0;
     QStringList findFilesWithExactSize(qint64 size) { return findFilesWithExactSizes({size})[size]; }
 
-    // A walk of `scope` (folders; empty: the volumes of the request's locations).
+    // The desktop's index when it answers on the session bus, else a walk of `scope` (folders;
+    // empty: the volumes of the request's locations). The index keeps to an explicit scope too.
     static std::unique_ptr<ExactSizeIndex> create(const QStringList &scope, const SearchRequest &request,
                                                   RunContext &context);
 };

@@ -46,7 +46,7 @@ void KnownDigests::lookUp(const std::vector<ContentNode> &nodes, const std::vect
 
 void KnownDigests::learnt(Batch &batch, const ContentNode &node, bool headerSkipped, CachedDigest value)
 {
-    if (!m_cache || !settled(node) || (!value.sample && !value.digest))
+    if (!m_cache || !settled(node) || (!value.sample && !value.digest && !value.fingerprint))
         return;
     batch.records.emplace_back(key(node, headerSkipped), std::move(value));
     if (batch.records.size() >= 4096)

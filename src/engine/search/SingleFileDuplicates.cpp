@@ -113,7 +113,7 @@ std::optional<Digest> SingleFileDuplicates::digestOf(const QString &path, qint64
         }
     }
     const DigestResult result = computeDigest(name.constData(), size, m_request.ignoreMp4Header, m_buffer,
-                                              m_allocStorage, &m_context.searchingState);
+                                              m_allocStorage, &m_context.searchingState, key.has_value());
     m_context.statistics.bytesRead += result.bytesRead;
     if (!result.digest) {
         ++m_context.statistics.unreadableFiles;
@@ -122,7 +122,7 @@ std::optional<Digest> SingleFileDuplicates::digestOf(const QString &path, qint64
     ++m_context.statistics.filesHashed;
     const qint64 hashed = size - (key && key->headerSkipped ? kMp4HeaderSize : 0);
     if (key && result.bytesRead == hashed && !m_context.aborted())
-        cache->store({{*key, {knownSample, result.digest}}});
+        cache->store({{*key, {knownSample, result.digest, result.fingerprint}}});
     return result.digest;
 }
 

@@ -50,6 +50,7 @@ std::string uncached(const QString &root, const SearchRequest &request = {})
 void buildMixedTree(TempTree &tree)
 {
     tree.build({"small/a:3", "small/b:3", "small/c:5", "small/lone:7"});
+    tree.file(QStringLiteral("small/d"), patternBytes(3000, 42)); // read whole, needs no digest
     QByteArray big = patternBytes(300000, 1);
     tree.file(QStringLiteral("big/one"), big);
     tree.file(QStringLiteral("big/two"), big);
@@ -94,6 +95,7 @@ TEST(CachedContentSearch, ChangedAndNewFilesAreReadAgain)
     tree.file(QStringLiteral("big/other copy"), patternBytes(300000, 2));
     tree.file(QStringLiteral("big/one copy"), patternBytes(300000, 1));
     tree.file(QStringLiteral("small/lone copy"), patternBytes(7000, 7));
+    tree.file(QStringLiteral("small/d copy"), patternBytes(3000, 42)); // of a file known by its fingerprint
     QByteArray middle = patternBytes(300000, 1);
     middle[150000] = char(~middle[150000]);
     middle[200000] = 'y';

@@ -21,7 +21,7 @@ DigestKey keyOf(quint64 inode)
 
 CachedDigest valueOf(quint64 inode)
 {
-    return {inode * 3, sha512(&inode, sizeof(inode))};
+    return {inode * 3, sha512(&inode, sizeof(inode)), Fingerprint{inode, ~inode}};
 }
 
 std::vector<std::pair<DigestKey, CachedDigest>> records(quint64 from, quint64 to)
@@ -92,7 +92,7 @@ TEST(DigestCache, AnswersOnlyForTheStoredStateOfAFile)
         DigestCache cache(path);
         ASSERT_TRUE(cache.isOpen());
         cache.store(records(1, 1000));
-        cache.store({{keyOf(5000), {42, std::nullopt}}}); // a sample alone
+        cache.store({{keyOf(5000), {42, std::nullopt, std::nullopt}}}); // a sample alone
     }
     DigestCache cache(path);
     std::vector<DigestKey> asked = {keyOf(3), keyOf(3), keyOf(4), keyOf(5), keyOf(6), keyOf(7), keyOf(5000),
@@ -107,11 +107,13 @@ TEST(DigestCache, AnswersOnlyForTheStoredStateOfAFile)
     ASSERT_TRUE(answers[0] && answers[1]) << "two paths of one file";
     EXPECT_EQ(answers[0]->digest, valueOf(3).digest);
     EXPECT_EQ(answers[0]->sample, valueOf(3).sample);
+    EXPECT_EQ(answers[0]->fingerprint, valueOf(3).fingerprint);
     for (int changed : {2, 3, 4, 5, 7, 8})
         EXPECT_FALSE(answers[std::size_t(changed)]) << changed;
     ASSERT_TRUE(answers[6]);
     EXPECT_EQ(answers[6]->sample, 42u);
     EXPECT_FALSE(answers[6]->digest);
+    EXPECT_FALSE(answers[6]->fingerprint);
 
     // Many keys of one device are answered by walking their range: the same answers.
     EXPECT_EQ(hits(cache, 1, 1000), 999);
