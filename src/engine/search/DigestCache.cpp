@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cstring>
 #include <numeric>
+#include <tuple>
 
 namespace selfsame {
 
@@ -216,9 +217,15 @@ bool DigestCache::failed(int code, const char *what)
 std::vector<std::optional<CachedDigest>> DigestCache::lookup(const std::vector<DigestKey> &keys)
 {
     std::vector<std::optional<CachedDigest>> answers(keys.size());
+    lookup(keys, [&](std::size_t k, CachedDigest value) { answers[k] = std::move(value); });
+    return answers;
+}
+
+void DigestCache::lookup(const std::vector<DigestKey> &keys, const std::function<void(std::size_t, CachedDigest)> &found)
+{
     std::lock_guard lock(m_dbMutex);
     if (!m_db || m_broken || keys.empty())
-        return answers;
+        return;
 
     std::vector<std::size_t> order(keys.size());
     std::iota(order.begin(), order.end(), 0);
@@ -260,7 +267,7 @@ std::vector<std::optional<CachedDigest>> DigestCache::lookup(const std::vector<D
             return;
         if (sqlite3_column_int64(row, 8) < now)
             touched.push_back(key);
-        answers[k] = std::move(value);
+        found(k, std::move(value));
     };
 
     constexpr const char *columns = "SELECT inode, skipped, 0, size, modified, changed, sample, digest, used, "
@@ -270,7 +277,7 @@ std::vector<std::optional<CachedDigest>> DigestCache::lookup(const std::vector<D
                                                    "ORDER BY inode, skipped").c_str());
     if (!point || !range) {
         failed(sqlite3_errcode(m_db), "look-up");
-        return answers;
+        return;
     }
     for (std::size_t begin = 0; begin < order.size();) {
         std::size_t end = begin + 1;
@@ -311,8 +318,9 @@ std::vector<std::optional<CachedDigest>> DigestCache::lookup(const std::vector<D
                     take(range.handle, order[k]);
             }
         }
+        // Answers already given stay good: each was checked on its own.
         if (failed(code, "look-up"))
-            return std::vector<std::optional<CachedDigest>>(keys.size());
+            return;
         begin = end;
     }
     if (!touched.empty()) {
@@ -320,14 +328,17 @@ std::vector<std::optional<CachedDigest>> DigestCache::lookup(const std::vector<D
         m_queue.push_back({{}, std::move(touched)});
         m_queueChanged.notify_all();
     }
-    return answers;
 }
 
 void DigestCache::store(std::vector<std::pair<DigestKey, CachedDigest>> records)
 {
     if (!m_writer.joinable() || records.empty())
         return;
-    std::lock_guard lock(m_queueMutex);
+    // Hashing may outrun the database: the queue stays bounded so that memory does.
+    constexpr std::size_t kMaxQueued = 1 << 16;
+    std::unique_lock lock(m_queueMutex);
+    m_queueChanged.wait(lock, [&] { return m_queuedRecords < kMaxQueued; });
+    m_queuedRecords += records.size();
     m_queue.push_back({std::move(records), {}});
     m_queueChanged.notify_all();
 }
@@ -347,12 +358,26 @@ void DigestCache::writeLoop()
             break;
         std::vector<Pending> batches = std::move(m_queue);
         m_queue.clear();
+        m_queuedRecords = 0;
         m_writing = true;
+        m_queueChanged.notify_all();
         lock.unlock();
+        // All that gathered goes in one transaction, in key order: each page of the table is
+        // then written once, not once per batch.
+        Pending all;
+        for (Pending &batch : batches) {
+            all.records.insert(all.records.end(), std::make_move_iterator(batch.records.begin()),
+                               std::make_move_iterator(batch.records.end()));
+            all.touched.insert(all.touched.end(), batch.touched.begin(), batch.touched.end());
+        }
+        batches.clear();
+        std::stable_sort(all.records.begin(), all.records.end(), [](const auto &a, const auto &b) {
+            return std::tie(a.first.device, a.first.inode, a.first.headerSkipped) <
+                   std::tie(b.first.device, b.first.inode, b.first.headerSkipped);
+        });
         {
             std::lock_guard dbLock(m_dbMutex);
-            for (const Pending &batch : batches)
-                write(batch);
+            write(all);
             evictIfOverLimit();
         }
         lock.lock();

@@ -5,6 +5,7 @@
 #include <QString>
 
 #include <condition_variable>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <thread>
@@ -68,6 +69,9 @@ public:
 
     // One answer per key, in the keys' order.
     std::vector<std::optional<CachedDigest>> lookup(const std::vector<DigestKey> &keys);
+    // The same answers, each handed over as found (with the key's index), for look-ups of
+    // millions of keys, most of which are answered.
+    void lookup(const std::vector<DigestKey> &keys, const std::function<void(std::size_t, CachedDigest)> &found);
     // Queued for the writing thread; a later record of a key replaces the earlier one.
     void store(std::vector<std::pair<DigestKey, CachedDigest>> records);
     // Returns once every queued record is written (or dropped on a database error).
@@ -94,6 +98,7 @@ private:
     std::mutex m_queueMutex;
     std::condition_variable m_queueChanged;
     std::vector<Pending> m_queue;
+    std::size_t m_queuedRecords = 0; // store() waits while too many are queued
     bool m_writing = false;
     bool m_stopping = false;
     std::thread m_writer;

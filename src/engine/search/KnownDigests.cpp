@@ -34,14 +34,12 @@ void KnownDigests::lookUp(const std::vector<ContentNode> &nodes, const std::vect
         keys.push_back(key(nodes[node], headerSkipped[node]));
         asked.push_back(node);
     }
-    std::vector<std::optional<CachedDigest>> answers = m_cache->lookup(keys);
     m_index.assign(nodes.size(), 0);
-    for (std::size_t i = 0; i < answers.size(); ++i) {
-        if (!answers[i])
-            continue;
-        m_values.push_back(std::move(*answers[i]));
+    m_values.reserve(keys.size()); // most files of a second search are known
+    m_cache->lookup(keys, [&](std::size_t i, CachedDigest value) {
+        m_values.push_back(std::move(value));
         m_index[asked[i]] = quint32(m_values.size());
-    }
+    });
 }
 
 void KnownDigests::learnt(Batch &batch, const ContentNode &node, bool headerSkipped, CachedDigest value)

@@ -18,13 +18,22 @@ namespace selfsame {
 
 namespace {
 
-// Reads everything written to `fd` until its writer closes it; false on an abort.
-bool readAll(int fd, QByteArray &bytes, const std::atomic<int> &searchingState)
+// Reads everything written to `fd` until its writer closes it; false on an abort or an error
+// reply. The pending call holds a copy of the writing end until its reply has come: it is let
+// go then, so that the endpoint's copy is the last one.
+bool readAll(int fd, QDBusPendingCall &pending, QByteArray &bytes, const std::atomic<int> &searchingState)
 {
     char chunk[65536];
+    bool replied = false;
     for (;;) {
         if (searchingState.load(std::memory_order_relaxed) == 1)
             return false;
+        if (!replied && pending.isFinished()) {
+            if (pending.isError())
+                return false;
+            replied = true;
+            pending = QDBusPendingCall::fromCompletedCall(QDBusMessage());
+        }
         pollfd ready{fd, POLLIN, 0};
         const int polled = poll(&ready, 1, 100);
         if (polled < 0 && errno != EINTR)
@@ -34,8 +43,10 @@ bool readAll(int fd, QByteArray &bytes, const std::atomic<int> &searchingState)
         const ssize_t n = read(fd, chunk, sizeof(chunk));
         if (n < 0 && errno == EINTR)
             continue;
-        if (n <= 0)
-            return n == 0;
+        if (n < 0)
+            return false;
+        if (n == 0)
+            return replied || (pending.waitForFinished(), !pending.isError());
         bytes.append(chunk, n);
     }
 }
@@ -126,14 +137,11 @@ std::unordered_map<qint64, QStringList> TrackerIndex::findFilesWithExactSizes(co
     call << query << QVariant::fromValue(QDBusUnixFileDescriptor(pipeEnds[1])) << QVariantMap();
     QDBusPendingCall pending = m_bus.asyncCall(call);
     call = QDBusMessage();
-    close(pipeEnds[1]); // the message holds its own copy: the endpoint's is the last one
+    close(pipeEnds[1]);
     QByteArray bytes;
-    const bool complete = readAll(pipeEnds[0], bytes, m_searchingState);
+    const bool complete = readAll(pipeEnds[0], pending, bytes, m_searchingState);
     close(pipeEnds[0]);
     if (!complete)
-        return found;
-    pending.waitForFinished();
-    if (pending.isError())
         return found;
     for (const auto &[path, size] : parseRows(bytes))
         if (inScope(path))
