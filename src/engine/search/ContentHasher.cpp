@@ -192,7 +192,7 @@ void ContentHasher::hashWhole(std::vector<ContentNode> &nodes, const std::vector
 {
     std::vector<std::size_t> unknown, fingerprinted;
     for (std::size_t i : files) {
-        const CachedDigest *known = m_known.known(i);
+        const std::optional<CachedDigest> known = m_known.known(i);
         if (known && known->digest) {
             nodes[i].setDigest(*known->digest);
             ++worker.statistics.filesFromCache;
@@ -232,7 +232,7 @@ void ContentHasher::readUnlessUnique(std::vector<ContentNode> &nodes, const std:
     std::vector<Fingerprint> all;
     bool wildcard = othersUnknown;
     for (std::size_t i : group) {
-        const CachedDigest *known = m_known.known(i);
+        const std::optional<CachedDigest> known = m_known.known(i);
         if (known && known->fingerprint)
             all.push_back(*known->fingerprint);
         else if (const auto learnt = fresh(i))
@@ -243,7 +243,7 @@ void ContentHasher::readUnlessUnique(std::vector<ContentNode> &nodes, const std:
     std::sort(all.begin(), all.end());
     std::vector<std::size_t> shared;
     for (std::size_t i : fingerprinted) {
-        const Fingerprint &own = *m_known.known(i)->fingerprint;
+        const Fingerprint own = *m_known.known(i)->fingerprint;
         const auto [from, to] = std::equal_range(all.begin(), all.end(), own);
         if (wildcard || to - from > 1) {
             m_needsDigest[i] = 1;
@@ -276,7 +276,7 @@ void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vect
     for (std::size_t i : files) {
         ContentNode &node = nodes[i];
         const bool skip = hashedLength(node) != node.size;
-        const CachedDigest *known = m_known.known(i);
+        const std::optional<CachedDigest> known = m_known.known(i);
         if (known && known->digest) {
             node.setDigest(*known->digest);
             ++worker.statistics.filesFromCache;
@@ -359,7 +359,7 @@ void ContentHasher::completeKnown(std::vector<ContentNode> &nodes, const std::ve
     });
     for (std::size_t k = 0; k < digested.size(); ++k) {
         const std::size_t i = digested[k];
-        const CachedDigest *known = m_known.known(i);
+        const std::optional<CachedDigest> known = m_known.known(i);
         if (!known || !known->digest)
             continue;
         // Folders sum their children's allocation digests; hard links share this one.
@@ -392,7 +392,7 @@ void ContentHasher::recordLearnt(const std::vector<ContentNode> &nodes, const st
         CachedDigest value;
         if (fresh != freshSamples.end() && fresh->first == i)
             value.sample = fresh->second;
-        const CachedDigest *known = m_known.known(i);
+        const std::optional<CachedDigest> known = m_known.known(i);
         if (known && known->digest)
             continue; // nothing new
         const auto learnt = std::lower_bound(worker.fingerprints.begin(), worker.fingerprints.end(),
@@ -445,7 +445,8 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
     const qint64 start = size - hashedLength(nodes[bucket.front()]);
     const std::size_t count = bucket.size();
     const bool oneChunk = size - start <= qint64(worker.buffer.size());
-    if (!oneChunk && count > kMaxOpenFiles) {
+    // Side by side, all files of the bucket are in memory at once, or open at once.
+    if ((!oneChunk && count > kMaxOpenFiles) || (oneChunk && qint64(count) * (size - start) > kMaxBucketBytes)) {
         for (std::size_t node : bucket)
             hashAlone(nodes, node, worker);
         return;
@@ -457,24 +458,33 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
 
     struct Member {
         std::size_t node;
-        int fd = -1;
-        qint64 got = 0; // bytes of the current chunk
+        int fd = -1;      // -1 once read whole and closed
+        qint64 got = 0;   // bytes of the current chunk
         bool done = false;
     };
     std::vector<Member> members;
+    worker.chunks.resize(count * chunk);
+    auto bytesOf = [&](std::size_t m) { return worker.chunks.data() + m * chunk; };
+    // Files too many to keep open are read at once and closed, the descriptors being scarce.
+    const bool readAtOnce = oneChunk && count > kMaxOpenFiles;
     for (std::size_t k = 0; k < count; ++k) {
         const std::size_t node = bucket[k];
-        const int fd = openFiles.empty() || openFiles[k] < 0 ? m_folders.openFile(m_entries[nodes[node].entry])
-                                                           : openFiles[k];
+        int fd = openFiles.empty() || openFiles[k] < 0 ? m_folders.openFile(m_entries[nodes[node].entry])
+                                                     : openFiles[k];
         if (fd < 0) {
             ++worker.statistics.unreadableFiles;
             reportProgress(nodes[node]);
             continue;
         }
-        members.push_back({node, fd});
+        Member member{node, fd};
+        if (readAtOnce) {
+            member.got = std::max<ssize_t>(readAt(fd, bytesOf(members.size()), chunk, start), 0);
+            worker.statistics.bytesRead += member.got;
+            close(fd);
+            member.fd = -1;
+        }
+        members.push_back(member);
     }
-    worker.chunks.resize(members.size() * chunk);
-    auto bytesOf = [&](std::size_t m) { return worker.chunks.data() + m * chunk; };
 
     // Members that have agreed so far share one hashing state; a class splits where they differ.
     struct Class {
@@ -494,15 +504,20 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
         for (std::size_t m : c.members) {
             ContentNode &node = nodes[members[m].node];
             node.setDigest(digest);
+            const int fd = members[m].fd >= 0 ? members[m].fd : m_folders.openFile(m_entries[node.entry]);
             if (complete && c.fingerprint) {
                 m_complete[members[m].node] = 1;
                 worker.fingerprints.emplace_back(members[m].node, c.fingerprint->final());
             }
-            if (auto alloc = computeAllocDigest(members[m].fd, worker.allocStorage))
-                node.setAllocDigest(*alloc);
-            if (QStringList tags = readUserTags(members[m].fd); !tags.isEmpty()) {
-                std::lock_guard lock(m_tagsMutex);
-                m_tags.emplace_back(members[m].node, std::move(tags));
+            if (fd >= 0) {
+                if (auto alloc = computeAllocDigest(fd, worker.allocStorage))
+                    node.setAllocDigest(*alloc);
+                if (QStringList tags = readUserTags(fd); !tags.isEmpty()) {
+                    std::lock_guard lock(m_tagsMutex);
+                    m_tags.emplace_back(members[m].node, std::move(tags));
+                }
+                if (fd != members[m].fd)
+                    close(fd);
             }
             ++worker.statistics.filesHashed;
             members[m].done = true;
@@ -522,6 +537,8 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
         const std::size_t want = std::size_t(std::min<qint64>(qint64(chunk), size - offset));
         for (const Class &c : classes)
             for (std::size_t m : c.members) {
+                if (readAtOnce)
+                    continue;
                 const ssize_t n = readAt(members[m].fd, bytesOf(m), want, offset);
                 members[m].got = std::max<ssize_t>(n, 0);
                 worker.statistics.bytesRead += members[m].got;
@@ -566,7 +583,8 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
     for (Member &member : members) {
         if (!member.done)
             reportProgress(nodes[member.node]);
-        close(member.fd);
+        if (member.fd >= 0)
+            close(member.fd);
     }
 }
 

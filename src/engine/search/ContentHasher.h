@@ -38,6 +38,8 @@ public:
     void hash(std::vector<ContentNode> &nodes, const std::vector<SizeRun> &runs);
 
     static constexpr qint64 kSampleSize = 4096;
+    // Files of one size compared side by side hold at most this much in memory together.
+    static constexpr qint64 kMaxBucketBytes = qint64(64) << 20;
 
     // User tags of the digested files that have any, read while they were open.
     std::vector<std::pair<std::size_t, QStringList>> takeTags() { return std::move(m_tags); }

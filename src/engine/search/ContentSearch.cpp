@@ -52,11 +52,14 @@ QList<ResultItem> ContentSearch::run()
     const std::vector<SizeRun> runs = sortAndDropRepeats();
 
     m_context.beginStep(3, steps, true);
-    ContentHasher hasher(m_entries, m_context, m_request.ignoreMp4Header, !m_request.compareFolders,
-                         m_enumeration.startedNs);
-    hasher.hash(m_nodes, runs);
-    for (auto &[node, tags] : hasher.takeTags())
-        m_tags.emplace(node, std::move(tags));
+    {
+        // What the hasher holds (cache answers among it) goes before the result items are made.
+        ContentHasher hasher(m_entries, m_context, m_request.ignoreMp4Header, !m_request.compareFolders,
+                             m_enumeration.startedNs);
+        hasher.hash(m_nodes, runs);
+        for (auto &[node, tags] : hasher.takeTags())
+            m_tags.emplace(node, std::move(tags));
+    }
 
     if (m_request.compareFolders) {
         m_context.beginStep(4, steps, true);

@@ -35,11 +35,35 @@ void KnownDigests::lookUp(const std::vector<ContentNode> &nodes, const std::vect
         asked.push_back(node);
     }
     m_index.assign(nodes.size(), 0);
-    m_values.reserve(keys.size()); // most files of a second search are known
+    m_known.reserve(keys.size());
     m_cache->lookup(keys, [&](std::size_t i, CachedDigest value) {
-        m_values.push_back(std::move(value));
-        m_index[asked[i]] = quint32(m_values.size());
+        Known known;
+        known.hasSample = value.sample.has_value();
+        known.sample = value.sample.value_or(0);
+        known.hasFingerprint = value.fingerprint.has_value();
+        known.fingerprint = value.fingerprint.value_or(Fingerprint{});
+        if (value.digest) {
+            m_digests.push_back(*value.digest);
+            known.digest = quint32(m_digests.size());
+        }
+        m_known.push_back(known);
+        m_index[asked[i]] = quint32(m_known.size());
     });
+}
+
+std::optional<CachedDigest> KnownDigests::known(std::size_t node) const
+{
+    if (node >= m_index.size() || !m_index[node])
+        return std::nullopt;
+    const Known &known = m_known[m_index[node] - 1];
+    CachedDigest value;
+    if (known.hasSample)
+        value.sample = known.sample;
+    if (known.hasFingerprint)
+        value.fingerprint = known.fingerprint;
+    if (known.digest)
+        value.digest = m_digests[known.digest - 1];
+    return value;
 }
 
 void KnownDigests::learnt(Batch &batch, const ContentNode &node, bool headerSkipped, CachedDigest value)

@@ -19,11 +19,8 @@ public:
     // `headerSkipped` tells for each node whether its digest leaves out the MP4 header.
     void lookUp(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &candidates,
                 const std::vector<char> &headerSkipped);
-    // What the cache knew of the node, or null.
-    const CachedDigest *known(std::size_t node) const
-    {
-        return node < m_index.size() && m_index[node] ? &m_values[m_index[node] - 1] : nullptr;
-    }
+    // What the cache knew of the node, if anything.
+    std::optional<CachedDigest> known(std::size_t node) const;
 
     // Records of one hashing thread, written once enough have gathered and when it ends.
     struct Batch {
@@ -39,8 +36,17 @@ private:
     DigestCache *m_cache;
     const EntryTable &m_entries;
     qint64 m_settledBeforeNs;
-    std::vector<quint32> m_index; // per node: 1 + position in m_values, 0 when unknown
-    std::vector<CachedDigest> m_values;
+    // A second search knows most of its files: what it knows is kept small.
+    struct Known {
+        quint64 sample = 0;
+        Fingerprint fingerprint;
+        quint32 digest = 0; // 1 + position in m_digests, 0 for none
+        bool hasSample = false;
+        bool hasFingerprint = false;
+    };
+    std::vector<quint32> m_index; // per node: 1 + position in m_known, 0 when unknown
+    std::vector<Known> m_known;
+    std::vector<Digest> m_digests;
 };
 
 } // namespace selfsame
