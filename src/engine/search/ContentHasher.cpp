@@ -41,6 +41,7 @@ struct ContentHasher::Worker {
     SearchStatistics statistics;
     KnownDigests::Batch learnt;
     std::vector<std::pair<std::size_t, Fingerprint>> fingerprints; // learnt in the current size job
+    std::vector<std::pair<std::size_t, QStringList>> placed; // allocation digest and tags read, with the tags
 };
 
 ContentHasher::ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst,
@@ -178,6 +179,7 @@ void ContentHasher::hashSize(std::vector<ContentNode> &nodes, const std::vector<
             whole[length == nodes[i].size ? 0 : 1].push_back(i);
     }
     worker.fingerprints.clear();
+    worker.placed.clear();
     for (const auto &group : whole)
         hashWhole(nodes, group, worker);
     std::vector<std::pair<std::size_t, quint64>> freshSamples;
@@ -368,16 +370,25 @@ void ContentHasher::completeKnown(std::vector<ContentNode> &nodes, const std::ve
                               (k + 1 < digested.size() && nodes[digested[k + 1]].digest() == nodes[i].digest());
         if (!mayGroup)
             continue;
-        const int fd = m_folders.openFile(m_entries[nodes[i].entry]);
-        if (fd < 0)
-            continue;
-        if (auto alloc = computeAllocDigest(fd, worker.allocStorage))
-            nodes[i].setAllocDigest(*alloc);
-        if (QStringList tags = readUserTags(fd); !tags.isEmpty()) {
+        QStringList tags;
+        if (known->attributes) {
+            if (known->attributes->allocDigest)
+                nodes[i].setAllocDigest(*known->attributes->allocDigest);
+            tags = known->attributes->tags;
+        } else {
+            const int fd = m_folders.openFile(m_entries[nodes[i].entry]);
+            if (fd < 0)
+                continue;
+            if (auto alloc = computeAllocDigest(fd, worker.allocStorage))
+                nodes[i].setAllocDigest(*alloc);
+            tags = readUserTags(fd);
+            close(fd);
+            worker.placed.emplace_back(i, tags);
+        }
+        if (!tags.isEmpty()) {
             std::lock_guard lock(m_tagsMutex);
             m_tags.emplace_back(i, std::move(tags));
         }
-        close(fd);
     }
 }
 
@@ -385,6 +396,8 @@ void ContentHasher::recordLearnt(const std::vector<ContentNode> &nodes, const st
                                  const std::vector<std::pair<std::size_t, quint64>> &freshSamples, Worker &worker)
 {
     std::sort(worker.fingerprints.begin(), worker.fingerprints.end());
+    std::stable_sort(worker.placed.begin(), worker.placed.end(),
+                     [](const auto &a, const auto &b) { return a.first < b.first; });
     auto fresh = freshSamples.begin();
     for (std::size_t i : files) {
         while (fresh != freshSamples.end() && fresh->first < i)
@@ -393,8 +406,23 @@ void ContentHasher::recordLearnt(const std::vector<ContentNode> &nodes, const st
         if (fresh != freshSamples.end() && fresh->first == i)
             value.sample = fresh->second;
         const std::optional<CachedDigest> known = m_known.known(i);
-        if (known && known->digest)
-            continue; // nothing new
+        const auto placed = std::lower_bound(worker.placed.begin(), worker.placed.end(), i,
+                                             [](const auto &p, std::size_t node) { return p.first < node; });
+        if (placed != worker.placed.end() && placed->first == i) {
+            value.attributes.emplace();
+            if (nodes[i].has(HasAllocDigest))
+                value.attributes->allocDigest = nodes[i].allocDigest();
+            value.attributes->tags = placed->second;
+        }
+        if (known && known->digest) {
+            if (value.attributes) { // the digest was known, its placement is learnt
+                value.sample = known->sample;
+                value.digest = known->digest;
+                value.fingerprint = known->fingerprint;
+                m_known.learnt(worker.learnt, nodes[i], m_headerSkipped[i], std::move(value));
+            }
+            continue;
+        }
         const auto learnt = std::lower_bound(worker.fingerprints.begin(), worker.fingerprints.end(),
                                              std::make_pair(i, Fingerprint{}));
         if (learnt != worker.fingerprints.end() && learnt->first == i)
@@ -431,7 +459,10 @@ void ContentHasher::hashAlone(std::vector<ContentNode> &nodes, std::size_t index
     }
     if (result.allocDigest)
         node.setAllocDigest(*result.allocDigest);
-    if (QStringList tags = readUserTags(path.c_str()); !tags.isEmpty()) {
+    QStringList tags = readUserTags(path.c_str());
+    if (m_known.enabled() && result.digest)
+        worker.placed.emplace_back(index, tags);
+    if (!tags.isEmpty()) {
         std::lock_guard lock(m_tagsMutex);
         m_tags.emplace_back(index, std::move(tags));
     }
@@ -512,7 +543,10 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
             if (fd >= 0) {
                 if (auto alloc = computeAllocDigest(fd, worker.allocStorage))
                     node.setAllocDigest(*alloc);
-                if (QStringList tags = readUserTags(fd); !tags.isEmpty()) {
+                QStringList tags = readUserTags(fd);
+                if (m_known.enabled())
+                    worker.placed.emplace_back(members[m].node, tags);
+                if (!tags.isEmpty()) {
                     std::lock_guard lock(m_tagsMutex);
                     m_tags.emplace_back(members[m].node, std::move(tags));
                 }

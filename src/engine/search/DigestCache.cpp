@@ -29,17 +29,29 @@ qint64 ordered(quint64 value) { return qint64(value ^ (quint64(1) << 63)); }
 
 qint64 today() { return QDateTime::currentSecsSinceEpoch() / 86400; }
 
+// Tags are kept as one text; no tag holds this separator.
+constexpr QChar kTagSeparator(0x1f);
+
+QByteArray tagsText(const CachedDigest &value)
+{
+    return value.attributes ? value.attributes->tags.join(kTagSeparator).toUtf8() : QByteArray();
+}
+
 quint64 checkValue(const DigestKey &key, const CachedDigest &value)
 {
     const Fingerprint fingerprint = value.fingerprint.value_or(Fingerprint{});
+    const bool placed = value.attributes && value.attributes->allocDigest;
     struct {
-        qint64 fields[12];
+        qint64 fields[14];
         Digest digest;
+        Digest allocDigest;
     } bytes{{qint64(key.device), qint64(key.inode), key.size, key.modifiedNs, key.changedNs, key.headerSkipped,
              value.sample.has_value(), qint64(value.sample.value_or(0)), value.digest.has_value(),
-             value.fingerprint.has_value(), qint64(fingerprint.low), qint64(fingerprint.high)},
-            value.digest.value_or(Digest{})};
-    return XXH3_64bits(&bytes, sizeof(bytes));
+             value.fingerprint.has_value(), qint64(fingerprint.low), qint64(fingerprint.high),
+             value.attributes.has_value(), placed},
+            value.digest.value_or(Digest{}), placed ? *value.attributes->allocDigest : Digest{}};
+    const QByteArray tags = tagsText(value);
+    return XXH3_64bits_withSeed(tags.constData(), std::size_t(tags.size()), XXH3_64bits(&bytes, sizeof(bytes)));
 }
 
 struct Statement {
@@ -152,6 +164,7 @@ bool DigestCache::openOnce(QString *problem)
             "CREATE TABLE digests (device INTEGER NOT NULL, inode INTEGER NOT NULL, skipped INTEGER NOT NULL,"
             " size INTEGER NOT NULL, modified INTEGER NOT NULL, changed INTEGER NOT NULL,"
             " sample INTEGER, digest BLOB, used INTEGER NOT NULL, checkValue INTEGER NOT NULL, fingerprint BLOB,"
+            " attributes INTEGER NOT NULL, allocDigest BLOB, tags TEXT,"
             " PRIMARY KEY (device, inode, skipped)) WITHOUT ROWID;"
             "PRAGMA application_id = %1;"
             "PRAGMA user_version = %2;"
@@ -267,6 +280,21 @@ void DigestCache::lookup(const std::vector<DigestKey> &keys, const std::function
             std::memcpy(&fingerprint, sqlite3_column_blob(row, 10), sizeof(fingerprint));
             value.fingerprint = fingerprint;
         }
+        if (sqlite3_column_int(row, 11)) {
+            CachedDigest::Attributes attributes;
+            if (sqlite3_column_type(row, 12) != SQLITE_NULL) {
+                if (sqlite3_column_bytes(row, 12) != int(sizeof(Digest)))
+                    return;
+                Digest alloc;
+                std::memcpy(alloc.data(), sqlite3_column_blob(row, 12), alloc.size());
+                attributes.allocDigest = alloc;
+            }
+            const QString tags = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(row, 13)),
+                                                   sqlite3_column_bytes(row, 13));
+            if (!tags.isEmpty())
+                attributes.tags = tags.split(kTagSeparator);
+            value.attributes = std::move(attributes);
+        }
         if (quint64(sqlite3_column_int64(row, 9)) != checkValue(key, value))
             return;
         if (sqlite3_column_int64(row, 8) < now)
@@ -275,7 +303,7 @@ void DigestCache::lookup(const std::vector<DigestKey> &keys, const std::function
     };
 
     constexpr const char *columns = "SELECT inode, skipped, 0, size, modified, changed, sample, digest, used, "
-                                    "checkValue, fingerprint FROM digests ";
+                                    "checkValue, fingerprint, attributes, allocDigest, tags FROM digests ";
     Statement point(m_db, (std::string(columns) + "WHERE device = ? AND inode = ? AND skipped = ?").c_str());
     Statement range(m_db, (std::string(columns) + "WHERE device = ? AND inode BETWEEN ? AND ? "
                                                    "ORDER BY inode, skipped").c_str());
@@ -397,7 +425,8 @@ void DigestCache::write(const Pending &batch)
     if (failed(sqlite3_exec(m_db, "BEGIN IMMEDIATE", nullptr, nullptr, nullptr), "writing"))
         return; // another process kept the database busy too long: these records are only lost
     Statement insert(m_db, "INSERT OR REPLACE INTO digests (device, inode, skipped, size, modified, changed, "
-                           "sample, digest, used, checkValue, fingerprint) VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
+                           "sample, digest, used, checkValue, fingerprint, attributes, allocDigest, tags) "
+                           "VALUES (?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?, ?)");
     Statement touch(m_db, "UPDATE digests SET used = ? WHERE device = ? AND inode = ? AND skipped = ?");
     int code = insert && touch ? SQLITE_OK : sqlite3_errcode(m_db);
     const qint64 now = today();
@@ -426,6 +455,13 @@ void DigestCache::write(const Pending &batch)
             sqlite3_bind_blob(s, 11, &*value.fingerprint, int(sizeof(Fingerprint)), SQLITE_STATIC);
         else
             sqlite3_bind_null(s, 11);
+        sqlite3_bind_int(s, 12, value.attributes.has_value());
+        if (value.attributes && value.attributes->allocDigest)
+            sqlite3_bind_blob(s, 13, value.attributes->allocDigest->data(), int(sizeof(Digest)), SQLITE_STATIC);
+        else
+            sqlite3_bind_null(s, 13);
+        const QByteArray tags = tagsText(value);
+        sqlite3_bind_text(s, 14, tags.constData(), int(tags.size()), SQLITE_TRANSIENT);
         code = sqlite3_step(s);
     }
     for (const DigestKey &key : batch.touched) {

@@ -3,6 +3,7 @@
 #include "search/Digest.h"
 
 #include <QString>
+#include <QStringList>
 
 #include <condition_variable>
 #include <functional>
@@ -34,6 +35,13 @@ struct CachedDigest {
     std::optional<quint64> sample;
     std::optional<Digest> digest;
     std::optional<Fingerprint> fingerprint;
+    // Of a file in a group, on a file system whose files never share storage: its allocation
+    // digest (none when its placement was unknown) and user tags, which change its key too.
+    struct Attributes {
+        std::optional<Digest> allocDigest;
+        QStringList tags;
+    };
+    std::optional<Attributes> attributes;
 };
 
 // Digests of files kept between searches, in an SQLite database that several processes may

@@ -1,5 +1,7 @@
 #include "search/KnownDigests.h"
 
+#include <sys/statfs.h>
+
 namespace selfsame {
 
 KnownDigests::KnownDigests(DigestCache *cache, const EntryTable &entries, qint64 walkStartedNs)
@@ -18,6 +20,20 @@ bool KnownDigests::settled(const ContentNode &node) const
 {
     const FileEntry &entry = m_entries[node.entry];
     return entry.changedNs < m_settledBeforeNs && entry.modifiedNs < m_settledBeforeNs;
+}
+
+bool KnownDigests::keepsPlacement(const ContentNode &node) const
+{
+    constexpr unsigned long kExtFamily = 0xEF53;
+    const FileEntry &entry = m_entries[node.entry];
+    std::lock_guard lock(m_volumesMutex);
+    const auto [at, isNew] = m_keepsPlacement.try_emplace(entry.device, false);
+    if (isNew) {
+        struct statfs volume;
+        at->second = statfs(m_entries.folderPath(entry.folder).c_str(), &volume) == 0 &&
+                     static_cast<unsigned long>(volume.f_type) == kExtFamily;
+    }
+    return at->second;
 }
 
 void KnownDigests::lookUp(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &candidates,
@@ -46,6 +62,10 @@ void KnownDigests::lookUp(const std::vector<ContentNode> &nodes, const std::vect
             m_digests.push_back(*value.digest);
             known.digest = quint32(m_digests.size());
         }
+        if (value.attributes && keepsPlacement(nodes[asked[i]])) {
+            m_attributes.push_back(std::move(*value.attributes));
+            known.attributes = quint32(m_attributes.size());
+        }
         m_known.push_back(known);
         m_index[asked[i]] = quint32(m_known.size());
     });
@@ -63,6 +83,8 @@ std::optional<CachedDigest> KnownDigests::known(std::size_t node) const
         value.fingerprint = known.fingerprint;
     if (known.digest)
         value.digest = m_digests[known.digest - 1];
+    if (known.attributes)
+        value.attributes = m_attributes[known.attributes - 1];
     return value;
 }
 
@@ -70,6 +92,8 @@ void KnownDigests::learnt(Batch &batch, const ContentNode &node, bool headerSkip
 {
     if (!m_cache || !settled(node) || (!value.sample && !value.digest && !value.fingerprint))
         return;
+    if (value.attributes && !keepsPlacement(node))
+        value.attributes.reset();
     batch.records.emplace_back(key(node, headerSkipped), std::move(value));
     if (batch.records.size() >= 4096)
         flush(batch);

@@ -4,6 +4,8 @@
 #include "search/DigestCache.h"
 #include "search/EntryTable.h"
 
+#include <mutex>
+#include <unordered_map>
 #include <vector>
 
 namespace selfsame {
@@ -32,6 +34,10 @@ public:
 private:
     DigestKey key(const ContentNode &node, bool headerSkipped) const;
     bool settled(const ContentNode &node) const;
+    // Whether the node's file system never shares storage between files (the ext family):
+    // there its allocation digest can only equal that of another path of the same file,
+    // so a cached one tells the same as a fresh one.
+    bool keepsPlacement(const ContentNode &node) const;
 
     DigestCache *m_cache;
     const EntryTable &m_entries;
@@ -40,13 +46,17 @@ private:
     struct Known {
         quint64 sample = 0;
         Fingerprint fingerprint;
-        quint32 digest = 0; // 1 + position in m_digests, 0 for none
+        quint32 digest = 0;     // 1 + position in m_digests, 0 for none
+        quint32 attributes = 0; // 1 + position in m_attributes, 0 for none
         bool hasSample = false;
         bool hasFingerprint = false;
     };
     std::vector<quint32> m_index; // per node: 1 + position in m_known, 0 when unknown
     std::vector<Known> m_known;
     std::vector<Digest> m_digests;
+    std::vector<CachedDigest::Attributes> m_attributes;
+    mutable std::mutex m_volumesMutex;
+    mutable std::unordered_map<quint64, bool> m_keepsPlacement; // per device
 };
 
 } // namespace selfsame

@@ -122,7 +122,7 @@ std::optional<Digest> SingleFileDuplicates::digestOf(const QString &path, qint64
     ++m_context.statistics.filesHashed;
     const qint64 hashed = size - (key && key->headerSkipped ? kMp4HeaderSize : 0);
     if (key && result.bytesRead == hashed && !m_context.aborted())
-        cache->store({{*key, {knownSample, result.digest, result.fingerprint}}});
+        cache->store({{*key, {knownSample, result.digest, result.fingerprint, std::nullopt}}});
     return result.digest;
 }
 

@@ -19,9 +19,14 @@ DigestKey keyOf(quint64 inode)
     return {7, inode, qint64(inode) * 10, 1'600'000'000'123'456'789, 1'600'000'001'000'000'001, false};
 }
 
+// Even inodes carry their placement: tags, and for every fourth an allocation digest.
 CachedDigest valueOf(quint64 inode)
 {
-    return {inode * 3, sha512(&inode, sizeof(inode)), Fingerprint{inode, ~inode}};
+    std::optional<CachedDigest::Attributes> attributes;
+    if (inode % 2 == 0)
+        attributes = CachedDigest::Attributes{inode % 4 == 0 ? std::optional(sha512(&inode, 4)) : std::nullopt,
+                                              {QStringLiteral("Red"), QStringLiteral("with, comma")}};
+    return {inode * 3, sha512(&inode, sizeof(inode)), Fingerprint{inode, ~inode}, attributes};
 }
 
 std::vector<std::pair<DigestKey, CachedDigest>> records(quint64 from, quint64 to)
@@ -92,7 +97,7 @@ TEST(DigestCache, AnswersOnlyForTheStoredStateOfAFile)
         DigestCache cache(path);
         ASSERT_TRUE(cache.isOpen());
         cache.store(records(1, 1000));
-        cache.store({{keyOf(5000), {42, std::nullopt, std::nullopt}}}); // a sample alone
+        cache.store({{keyOf(5000), {42, std::nullopt, std::nullopt, std::nullopt}}}); // a sample alone
     }
     DigestCache cache(path);
     std::vector<DigestKey> asked = {keyOf(3), keyOf(3), keyOf(4), keyOf(5), keyOf(6), keyOf(7), keyOf(5000),
@@ -108,6 +113,13 @@ TEST(DigestCache, AnswersOnlyForTheStoredStateOfAFile)
     EXPECT_EQ(answers[0]->digest, valueOf(3).digest);
     EXPECT_EQ(answers[0]->sample, valueOf(3).sample);
     EXPECT_EQ(answers[0]->fingerprint, valueOf(3).fingerprint);
+    EXPECT_FALSE(answers[0]->attributes);
+    for (quint64 inode : {6, 8}) {
+        const auto placed = cache.lookup({keyOf(inode)}).front();
+        ASSERT_TRUE(placed && placed->attributes) << inode;
+        EXPECT_EQ(placed->attributes->allocDigest, valueOf(inode).attributes->allocDigest) << inode;
+        EXPECT_EQ(placed->attributes->tags, valueOf(inode).attributes->tags) << inode;
+    }
     for (int changed : {2, 3, 4, 5, 7, 8})
         EXPECT_FALSE(answers[std::size_t(changed)]) << changed;
     ASSERT_TRUE(answers[6]);
@@ -184,11 +196,12 @@ TEST(DigestCache, DamagedRecordsAreNeverAnswered)
     }
     // One bit of a digest changed behind the cache's back, and a record that claims another file.
     execute(path, "UPDATE digests SET digest = zeroblob(64) WHERE inode = (3 - 9223372036854775807 - 1);"
-                  "UPDATE digests SET size = 40 WHERE inode = (5 - 9223372036854775807 - 1);");
+                  "UPDATE digests SET size = 40 WHERE inode = (5 - 9223372036854775807 - 1);"
+                  "UPDATE digests SET tags = 'Green' WHERE inode = (6 - 9223372036854775807 - 1);");
     DigestCache cache(path);
     const auto answers = cache.lookup(keys(1, 10));
     for (quint64 inode = 1; inode < 10; ++inode)
-        EXPECT_EQ(answers[inode - 1].has_value(), inode != 3 && inode != 5) << inode;
+        EXPECT_EQ(answers[inode - 1].has_value(), inode != 3 && inode != 5 && inode != 6) << inode;
 }
 
 TEST(DigestCache, TwoProcessesMayWriteAtOnce)
