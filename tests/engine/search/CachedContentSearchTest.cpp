@@ -5,6 +5,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+#include <sys/xattr.h>
+
 using namespace selfsame;
 
 namespace {
@@ -14,11 +17,16 @@ std::string describeItems(const QList<ResultItem> &items, const QString &root)
 {
     QStringList lines;
     for (const ResultItem &item : items)
-        lines.append(QStringLiteral("%1 %2 %3 %4")
+        lines.append(QStringLiteral("%1 %2 %3 %4 %5 [%6]")
                          .arg(item.group)
                          .arg(item.path.mid(root.size() + 1))
                          .arg(QString::fromLatin1(digestToHex(item.digest).left(16)))
-                         .arg(item.has(HasAllocDigest)));
+                         .arg(item.has(HasAllocDigest))
+                         .arg(QString::fromLatin1(QByteArray(reinterpret_cast<const char *>(item.allocDigest.data()),
+                                                             qsizetype(item.allocDigest.size()))
+                                                      .toHex()
+                                                      .left(16)))
+                         .arg(item.tagList().join(u',')));
     lines.sort();
     return lines.join(u'\n').toStdString();
 }
@@ -123,6 +131,28 @@ TEST(CachedContentSearch, FolderComparisonAndPlainSearchesShareTheCache)
     EXPECT_EQ(search.run(tree.path(), folders), foldersExpected);
     EXPECT_EQ(search.run(tree.path()), plainExpected);
     EXPECT_EQ(search.statistics.bytesRead, 0);
+}
+
+TEST(CachedContentSearch, TagsAndSharedStorageAreThoseOfTheFilesNow)
+{
+    TempTree tree;
+    tree.build({"a:3", "b:3", "c:4", "d:4"});
+    tree.hardLink(QStringLiteral("a link"), QStringLiteral("a"));
+    auto tag = [&](const char *name, const char *tags) {
+        return setxattr(tree.stdPath(QString::fromLatin1(name)).c_str(), "user.xdg.tags", tags, std::strlen(tags), 0) == 0;
+    };
+    if (!tag("a", "Red,holiday"))
+        GTEST_SKIP() << "the file system of " << tree.stdPath() << " keeps no user attributes";
+    CachedSearch search;
+    EXPECT_EQ(search.run(tree.path()), uncached(tree.path()));
+    EXPECT_EQ(search.run(tree.path()), uncached(tree.path())) << "from the cache";
+    EXPECT_EQ(search.statistics.bytesRead, 0);
+
+    // New tags change the files' keys: the next search sees them.
+    ASSERT_TRUE(tag("a", "Blue") && tag("c", "Green"));
+    EXPECT_EQ(search.run(tree.path()), uncached(tree.path()));
+    EXPECT_EQ(search.run(tree.path()), uncached(tree.path()));
+    EXPECT_NE(uncached(tree.path()).find("[Green]"), std::string::npos);
 }
 
 TEST(CachedContentSearch, FilesChangedJustBeforeTheSearchAreNotCached)
