@@ -27,7 +27,8 @@ struct SizeRun {
 // - files that may be equal are read side by side and compared chunk by chunk; SHA-512 runs
 //   once per distinct content, and a file that turns out unique stops being read.
 // - with a digest cache, files whose key is unchanged since an earlier search take their
-//   digest (or sample) from it; when every file of a size has its digest there, none is read.
+//   digest, whole-content fingerprint or sample from it: when every file of a size is known
+//   there, none is read, and a file known by a fingerprint no other file has needs no digest.
 // Every digest produced is the SHA-512 of the file's bytes, as if each file were hashed alone.
 class ContentHasher {
 public:

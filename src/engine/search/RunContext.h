@@ -23,7 +23,7 @@ struct SearchStatistics {
     qint64 filesHashed = 0;       // files read whole for a content digest
     qint64 filesSampled = 0;      // files told apart by their first and last bytes alone
     qint64 bytesRead = 0;
-    qint64 filesFromCache = 0;    // files whose digest or sample the digest cache supplied
+    qint64 filesFromCache = 0;    // files the digest cache gave a digest or proved unique
     bool someDurationFound = false;       // duration mode: some item had a duration
     bool someSpotlightValueFound = false; // attribute mode: some item had the attribute
 };
