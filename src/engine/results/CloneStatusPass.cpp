@@ -45,7 +45,8 @@ void CloneStatusPass::ensureDigests(ResultItem &item)
 CloneStatus CloneStatusPass::statusOf(ResultItem &selected, ResultItem &other)
 {
     if (other.path == selected.path) return SelectedItself;
-    if (!exists(selected.path) || !exists(other.path)) return FileMissing;
+    if (selected.has(Missing) || other.has(Missing) || !exists(selected.path) || !exists(other.path))
+        return FileMissing;
     struct stat a, b;
     const bool statted = linkStat(selected.path, &a) && linkStat(other.path, &b);
     if (statted && a.st_dev == b.st_dev && a.st_ino == b.st_ino) return HardLink;

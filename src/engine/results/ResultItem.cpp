@@ -1,6 +1,7 @@
 #include "results/ResultItem.h"
 
 #include <cmath>
+#include <utility>
 
 namespace selfsame
 {
@@ -16,6 +17,26 @@ QString ResultItem::parentPath() const
     if (parentPathStart == 0) return folder();
     const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
     return parentPathStart < slash ? path.mid(parentPathStart, slash - parentPathStart) : QString();
+}
+
+namespace
+{
+constexpr std::pair<ItemFlag, const char16_t *> kReplacements[] = {
+    {Aliased, u"aliased"}, {HardLinked, u"hard linked"}, {Cloned, u"cloned"}};
+} // namespace
+
+QString replacedStatus(const ResultItem &item)
+{
+    for (const auto &[flag, name] : kReplacements)
+        if (item.has(flag)) return QString::fromUtf16(name);
+    return {};
+}
+
+bool setReplacedStatus(ResultItem &item, QStringView status)
+{
+    for (const auto &[flag, name] : kReplacements)
+        item.set(flag, status == QStringView(name));
+    return !replacedStatus(item).isEmpty();
 }
 
 namespace

@@ -61,6 +61,28 @@ void ResultModel::setResults(QList<ResultItem> items, const SearchRequest &reque
     sortDescriptorsDidChange(ResultList::Top);
 }
 
+void ResultModel::restoreResults(QList<ResultItem> items, const SearchRequest &request,
+                                 const QList<qsizetype> &topRows, std::optional<SortDescriptor> topSort,
+                                 bool hiddenByAutomaticSelection)
+{
+    setResults(std::move(items), request);
+    QList<bool> shown(m_storage.size(), false);
+    m_mainItems.clear();
+    for (qsizetype row : topRows) {
+        m_mainItems.append(&m_storage[row]);
+        shown[row] = true;
+    }
+    for (qsizetype i = 0; i < m_storage.size(); ++i)
+        if (!shown[i]) m_mainItemsHidden.append(&m_storage[i]);
+    m_hiddenArrayExists = !m_mainItemsHidden.isEmpty();
+    m_hiddenBecauseOfAutomaticallySelect = m_hiddenArrayExists && hiddenByAutomaticSelection;
+    sortMainItemsIncludingHidden();
+    // The rows keep their saved order: a list shown unsorted after "Show All" would not
+    // come back the same from a new sort.
+    m_sort[index(ResultList::Top)] = std::move(topSort);
+    updateShowGroups();
+}
+
 void ResultModel::reset()
 {
     m_mainItems.clear();
@@ -118,12 +140,17 @@ void ResultModel::sortDescriptorsDidChange(ResultList list)
     QList<ResultItem *> &items = list == ResultList::Top ? m_mainItems : m_cloneItems;
     const std::optional<SortDescriptor> &clicked = m_sort[index(list)];
     if (clicked) sortItems(items, *clicked, detectionMode());
-    if (list == ResultList::Top && isKnownMode(detectionMode())) {
-        const QString key = clicked ? clicked->key : QString();
-        m_showGroups = key == groupColumnKey(detectionMode()) || key == QLatin1String("dupes");
-        if (m_showGroups) updateAlternateColors();
-    }
+    if (list == ResultList::Top) updateShowGroups();
     m_selected[index(list)] = inListOrder(items, m_selected[index(list)]);
+}
+
+void ResultModel::updateShowGroups()
+{
+    if (!isKnownMode(detectionMode())) return;
+    const std::optional<SortDescriptor> &clicked = m_sort[index(ResultList::Top)];
+    const QString key = clicked ? clicked->key : QString();
+    m_showGroups = key == groupColumnKey(detectionMode()) || key == QLatin1String("dupes");
+    if (m_showGroups) updateAlternateColors();
 }
 
 void ResultModel::updateAlternateColors()

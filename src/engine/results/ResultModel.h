@@ -30,6 +30,10 @@ public:
 
     // What the search found, with the request that found it.
     void setResults(QList<ResultItem> items, const SearchRequest &request);
+    // Results saved from a window, shown as they were: the items at `topRows` (indices into
+    // `items`) make the top list in that order, sorted by `topSort`; the others are hidden.
+    void restoreResults(QList<ResultItem> items, const SearchRequest &request, const QList<qsizetype> &topRows,
+                        std::optional<SortDescriptor> topSort, bool hiddenByAutomaticSelection);
     // Before a new search: no items in either list.
     void reset();
 
@@ -92,6 +96,7 @@ public:
 
 private:
     static int index(ResultList list) { return list == ResultList::Top ? 0 : 1; }
+    void updateShowGroups();
     void updateAlternateColors();
 
     SearchRequest m_request;

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QByteArray>
+#include <QStringView>
+
+#include <optional>
+
+namespace selfsame {
+
+// Whole seconds since 1970 as ISO 8601 in UTC ("2024-05-01T08:30:00Z"), written and read
+// directly: saved results hold several dates for each of millions of items.
+QByteArray isoDate(qint64 seconds);
+// Reads exactly that form back; nothing for any other text.
+std::optional<qint64> parseIsoDate(QStringView text);
+
+} // namespace selfsame

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "search/SearchRequest.h"
+
+#include <QJsonObject>
+#include <QString>
+
+#include <optional>
+
+namespace selfsame {
+
+class JsonWriter;
+
+// A search request in saved results: every parameter under its own name, regular
+// expressions by their pattern and case sensitivity.
+void writeRequest(JsonWriter &json, const SearchRequest &request);
+// Nothing, with the reason in `error`, when a parameter is missing or of the wrong kind.
+std::optional<SearchRequest> readRequest(const QJsonObject &object, QString *error);
+
+} // namespace selfsame
