@@ -1,31 +1,18 @@
 #include "ResultOutput.h"
 
-#include "search/Digest.h"
+#include "format/IsoDate.h"
+#include "results/JsonWriter.h"
+#include "results/ResultsFile.h"
 
-#include <QDateTime>
 #include <QJsonObject>
-#include <QLocale>
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <set>
 
 namespace selfsame::cli {
 
 namespace {
-
-// ISO 8601 in UTC, written directly: a result may hold many thousands of dates.
-QByteArray isoDate(qint64 seconds)
-{
-    const time_t t = time_t(seconds);
-    struct tm utc;
-    char text[32];
-    if (!gmtime_r(&t, &utc))
-        return "1970-01-01T00:00:00Z";
-    const std::size_t n = strftime(text, sizeof(text), "%Y-%m-%dT%H:%M:%SZ", &utc);
-    return QByteArray(text, qsizetype(n));
-}
 
 QByteArray csvField(const QString &text)
 {
@@ -35,127 +22,12 @@ QByteArray csvField(const QString &text)
     return field;
 }
 
-// JSON is written as it goes rather than built as a document: a result may hold many
-// thousands of items.
-class JsonWriter {
-public:
-    explicit JsonWriter(QByteArray &out) : m_out(out) {}
-    void begin(char bracket) { separate(); m_out += bracket; m_first = true; }
-    void end(char bracket) { m_out += bracket; m_first = false; }
-    void key(const char *name) { separate(); string(QByteArray(name)); m_out += ':'; m_first = true; }
-    void value(qint64 number) { separate(); m_out += QByteArray::number(number); }
-    void value(bool flag) { separate(); m_out += flag ? "true" : "false"; }
-    void value(double number) { separate(); m_out += QByteArray::number(number, 'g', QLocale::FloatingPointShortest); }
-    void value(const QString &text) { separate(); string(text.toUtf8()); }
-    void value(const QByteArray &utf8) { separate(); string(utf8); }
-    void null() { separate(); m_out += "null"; }
-    template <typename T> void field(const char *name, const T &v) { key(name); value(v); }
-
-private:
-    void separate()
-    {
-        if (!m_first)
-            m_out += ',';
-        m_first = false;
-    }
-    void string(const QByteArray &utf8)
-    {
-        m_out += '"';
-        qsizetype plain = 0; // start of the run of characters that need no escape
-        for (qsizetype i = 0; i < utf8.size(); ++i) {
-            const auto c = static_cast<unsigned char>(utf8[i]);
-            if (c != '"' && c != '\\' && c >= 0x20)
-                continue;
-            m_out.append(utf8.constData() + plain, i - plain);
-            if (c < 0x20)
-                m_out += "\\u00" + QByteArray::number(c, 16).rightJustified(2, '0');
-            else
-                m_out += QByteArray("\\") + char(c);
-            plain = i + 1;
-        }
-        m_out.append(utf8.constData() + plain, utf8.size() - plain);
-        m_out += '"';
-    }
-    QByteArray &m_out;
-    bool m_first = true;
-};
-
-// The values read in the duration and attribute modes, where the item has them.
-void writeMetadata(JsonWriter &json, const ResultItem &item)
-{
-    if (item.duration() > 0)
-        json.field("duration", item.duration());
-    if (!std::isnan(item.latitude()))
-        json.field("latitude", item.latitude());
-    if (!std::isnan(item.longitude()))
-        json.field("longitude", item.longitude());
-    switch (item.spotlight().typeId()) {
-    case QMetaType::QDateTime:
-        json.field("spotlight", isoDate(item.spotlight().toDateTime().toSecsSinceEpoch()));
-        break;
-    case QMetaType::Bool:
-        json.field("spotlight", item.spotlight().toBool());
-        break;
-    case QMetaType::Double:
-        json.field("spotlight", item.spotlight().toDouble());
-        break;
-    case QMetaType::QString:
-        json.field("spotlight", item.spotlight().toString());
-        break;
-    }
-    if (!item.pixelSize().isEmpty())
-        json.field("pixelSize", item.pixelSize());
-    if (!item.codecs().isEmpty())
-        json.field("codecs", item.codecs());
-    if (item.bitrate() > 0)
-        json.field("bitrate", item.bitrate());
-}
-
 // "selected", "kept" or nothing: what the selection rule decided for the item.
 const char *autoSelectMark(const AutoSelection &selection, const ResultItem &item)
 {
     if (selection.isSelected(&item))
         return "selected";
     return selection.isSkipped(&item) ? "kept" : nullptr;
-}
-
-void writeItem(JsonWriter &json, const ResultItem &item, const AutoSelection *selection)
-{
-    json.begin('{');
-    json.field("path", item.path);
-    json.field("size", item.size);
-    json.field("physicalSize", item.physicalSize);
-    json.field("modified", isoDate(item.modified));
-    if (item.created != kNoDate)
-        json.field("created", isoDate(item.created));
-    if (item.lastUsed != kNoDate)
-        json.field("lastUsed", isoDate(item.lastUsed));
-    if (item.has(IsFolder)) {
-        json.field("isFolder", true);
-        json.field("itemCount", item.itemCount());
-    }
-    if (item.has(ReadOnly))
-        json.field("readOnly", true);
-    if (item.has(OtherOwner))
-        json.field("otherOwner", true);
-    if (!item.tagList().isEmpty()) {
-        json.key("tags");
-        json.begin('[');
-        for (const QString &tag : item.tagList())
-            json.value(tag);
-        json.end(']');
-    }
-    if (item.has(HasDigest))
-        json.field("digest", digestToHex(item.digest));
-    writeMetadata(json, item);
-    if (selection) {
-        json.key("autoSelect");
-        if (const char *mark = autoSelectMark(*selection, item))
-            json.value(QByteArray(mark));
-        else
-            json.null();
-    }
-    json.end('}');
 }
 
 QJsonObject summaryObject(const QList<ResultItem> &items, const SearchStatistics &statistics)
@@ -211,16 +83,17 @@ ResultSummary summarize(const QList<ResultItem> &items)
     return summary;
 }
 
-QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
-                         const AutoSelection *selection)
+QByteArray formatResults(const QList<ResultItem> &items, const SearchRequest &request, OutputFormat format,
+                         const SearchStatistics &statistics, const AutoSelection *selection)
 {
     QByteArray all;
-    writeResults(items, format, statistics, [&](const QByteArray &bytes) { all += bytes; }, selection);
+    writeResults(items, request, format, statistics, [&](const QByteArray &bytes) { all += bytes; }, selection);
     return all;
 }
 
-void writeResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
-                  const std::function<void(const QByteArray &)> &sink, const AutoSelection *selection)
+void writeResults(const QList<ResultItem> &items, const SearchRequest &request, OutputFormat format,
+                  const SearchStatistics &statistics, const std::function<void(const QByteArray &)> &sink,
+                  const AutoSelection *selection)
 {
     const QList<QList<const ResultItem *>> groups = groupsOf(items);
     QByteArray out;
@@ -261,34 +134,28 @@ void writeResults(const QList<ResultItem> &items, OutputFormat format, const Sea
             }
         break;
     case OutputFormat::Json: {
-        JsonWriter json(out);
-        json.begin('{');
-        json.key("groups");
-        json.begin('[');
-        for (const QList<const ResultItem *> &group : groups) {
+        // The results file format, which the desktop application opens.
+        ResultsFile::Content content;
+        content.request = &request;
+        content.groups = groups;
+        if (selection)
+            content.writeItemExtras = [selection](JsonWriter &json, const ResultItem &item) {
+                json.key("autoSelect");
+                if (const char *mark = autoSelectMark(*selection, item))
+                    json.value(mark);
+                else
+                    json.null();
+            };
+        content.writeFileExtras = [&](JsonWriter &json) {
+            json.key("summary");
             json.begin('{');
-            json.field("group", qint64(group.first()->group));
-            json.field("dupes", qint64(group.first()->dupes));
-            json.field("size", group.first()->size);
-            json.key("items");
-            json.begin('[');
-            for (const ResultItem *item : group)
-                writeItem(json, *item, selection);
-            json.end(']');
+            const QJsonObject summary = summaryObject(items, statistics);
+            for (auto it = summary.begin(); it != summary.end(); ++it)
+                json.field(it.key().toLatin1().constData(), qint64(it.value().toInteger()));
             json.end('}');
-            out += '\n';
-            flushLarge();
-        }
-        json.end(']');
-        json.key("summary");
-        json.begin('{');
-        const QJsonObject summary = summaryObject(items, statistics);
-        for (auto it = summary.begin(); it != summary.end(); ++it)
-            json.field(it.key().toLatin1().constData(), qint64(it.value().toInteger()));
-        json.end('}');
-        json.end('}');
-        out += '\n';
-        break;
+        };
+        ResultsFile::write(content, sink);
+        return;
     }
     }
     sink(out);

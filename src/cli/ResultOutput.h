@@ -26,10 +26,12 @@ QList<QList<const ResultItem *>> groupsOf(const QList<ResultItem> &items);
 
 // Writes the results to `sink` a piece at a time. With a selection (of these very items),
 // every item also says whether the rule selected it, kept it, or left it alone.
-void writeResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
-                  const std::function<void(const QByteArray &)> &sink, const AutoSelection *selection = nullptr);
-QByteArray formatResults(const QList<ResultItem> &items, OutputFormat format, const SearchStatistics &statistics,
-                         const AutoSelection *selection = nullptr);
+// JSON is the results file format of saved results windows (docs/results-format.md).
+void writeResults(const QList<ResultItem> &items, const SearchRequest &request, OutputFormat format,
+                  const SearchStatistics &statistics, const std::function<void(const QByteArray &)> &sink,
+                  const AutoSelection *selection = nullptr);
+QByteArray formatResults(const QList<ResultItem> &items, const SearchRequest &request, OutputFormat format,
+                         const SearchStatistics &statistics, const AutoSelection *selection = nullptr);
 QByteArray summaryText(const QList<ResultItem> &items, const SearchStatistics &statistics);
 
 } // namespace selfsame::cli

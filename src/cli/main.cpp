@@ -146,7 +146,7 @@ int main(int argc, char *argv[])
             return;
         }
         const QList<ResultItem> &items = options.select ? model.allItems() : search.mainItems();
-        writeResults(items, options.format, search.statistics(),
+        writeResults(items, search.request(), options.format, search.statistics(),
                      [](const QByteArray &bytes) { writeAll(stdout, bytes); },
                      selected ? &selected->selection : nullptr);
         if (options.summary)

@@ -1,5 +1,7 @@
 #include "ResultOutput.h"
 
+#include "results/ResultsFile.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -50,12 +52,12 @@ TEST(ResultOutput, SummaryFreesEachDistinctStorageOnce)
 
 TEST(ResultOutput, TextAndCsvListGroupsInOrder)
 {
-    EXPECT_EQ(formatResults(kItems, OutputFormat::Text, {}).toStdString(),
+    EXPECT_EQ(formatResults(kItems, {}, OutputFormat::Text, {}).toStdString(),
               "/t/a.txt\n/t/b,\"q\"\\\t.txt\n/t/données 写真.txt\n\n"
               "/t/y.txt\n/t/z.txt\n/u/x.txt\n\n"
               "/v/clone1\n/v/clone2\n");
 
-    const QList<QByteArray> rows = formatResults(kItems, OutputFormat::Csv, {}).split('\n');
+    const QList<QByteArray> rows = formatResults(kItems, {}, OutputFormat::Csv, {}).split('\n');
     ASSERT_EQ(rows.size(), 1 + 8 + 1); // header, items, nothing after the last newline
     EXPECT_TRUE(rows[0].startsWith("group,") && rows[0].endsWith(",path")) << rows[0].toStdString();
     EXPECT_EQ(rows[1].toStdString(), "1,3,100,4096,2021-01-01T00:00:00Z,0,/t/a.txt");
@@ -66,7 +68,7 @@ TEST(ResultOutput, JsonHoldsGroupsItemsAndSummary)
 {
     QJsonParseError error;
     const QJsonDocument document =
-        QJsonDocument::fromJson(formatResults(kItems, OutputFormat::Json, {}), &error);
+        QJsonDocument::fromJson(formatResults(kItems, {}, OutputFormat::Json, {}), &error);
     ASSERT_EQ(error.error, QJsonParseError::NoError) << error.errorString().toStdString();
     const QJsonArray groups = document["groups"].toArray();
     ASSERT_EQ(groups.size(), 3);
@@ -81,6 +83,30 @@ TEST(ResultOutput, JsonHoldsGroupsItemsAndSummary)
     EXPECT_EQ(items[0]["modified"].toString(), "2021-01-01T00:00:00Z");
 
     EXPECT_EQ(document["summary"]["reclaimableBytes"].toInteger(), 120);
+}
+
+TEST(ResultOutput, JsonIsTheResultsFileFormat)
+{
+    SearchRequest request;
+    request.searchInFolderURLs = {QStringLiteral("/t"), QStringLiteral("/u"), QStringLiteral("/v")};
+    request.compareFolders = true;
+    const ResultsFile::Loaded opened =
+        ResultsFile::fromBytes(formatResults(kItems, request, OutputFormat::Json, {}), QStringLiteral("cli.json"));
+    ASSERT_TRUE(opened.model) << opened.error.toStdString();
+    EXPECT_EQ(opened.model->request().searchInFolderURLs, request.searchInFolderURLs);
+    EXPECT_TRUE(opened.model->request().compareFolders);
+    ASSERT_EQ(opened.model->mainItems().size(), kItems.size());
+    EXPECT_TRUE(opened.model->mainItemsHidden().isEmpty());
+    // Group numbers, counts and paths as the search found them; none of these files exists.
+    for (const ResultItem *item : opened.model->mainItems()) {
+        const auto original = std::find_if(kItems.begin(), kItems.end(),
+                                           [&](const ResultItem &i) { return i.path == item->path; });
+        ASSERT_NE(original, kItems.end()) << item->path.toStdString();
+        EXPECT_EQ(item->group, original->group);
+        EXPECT_EQ(item->dupes, original->dupes);
+        EXPECT_EQ(item->inode, original->inode);
+        EXPECT_TRUE(item->has(Missing));
+    }
 }
 
 } // namespace

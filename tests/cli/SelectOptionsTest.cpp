@@ -86,23 +86,23 @@ TEST(SelectOutput, EveryFormatSaysWhatTheRuleDecided)
     AutoSelection selection;
     selection.select(&items[1]);
     selection.skip(&items[0]);
-    EXPECT_EQ(formatResults(items, OutputFormat::Text, {}, &selection).toStdString(),
+    EXPECT_EQ(formatResults(items, {}, OutputFormat::Text, {}, &selection).toStdString(),
               "keep /t/a\nselect /t/b\n\n  /t/c\n  /t/d\n");
-    EXPECT_EQ(formatResults(items, OutputFormat::Text, {}).toStdString(), "/t/a\n/t/b\n\n/t/c\n/t/d\n");
+    EXPECT_EQ(formatResults(items, {}, OutputFormat::Text, {}).toStdString(), "/t/a\n/t/b\n\n/t/c\n/t/d\n");
 
-    const QList<QByteArray> rows = formatResults(items, OutputFormat::Csv, {}, &selection).split('\n');
+    const QList<QByteArray> rows = formatResults(items, {}, OutputFormat::Csv, {}, &selection).split('\n');
     EXPECT_TRUE(rows[0].endsWith(",autoSelect,path"));
     EXPECT_TRUE(rows[1].endsWith(",kept,/t/a"));
     EXPECT_TRUE(rows[2].endsWith(",selected,/t/b"));
     EXPECT_TRUE(rows[3].endsWith(",0,,/t/c"));
 
     const QJsonObject json =
-        QJsonDocument::fromJson(formatResults(items, OutputFormat::Json, {}, &selection)).object();
+        QJsonDocument::fromJson(formatResults(items, {}, OutputFormat::Json, {}, &selection)).object();
     const QJsonArray groups = json["groups"].toArray();
     EXPECT_EQ(groups[0]["items"][0]["autoSelect"].toString(), QStringLiteral("kept"));
     EXPECT_EQ(groups[0]["items"][1]["autoSelect"].toString(), QStringLiteral("selected"));
     EXPECT_TRUE(groups[1]["items"][0]["autoSelect"].isNull());
-    EXPECT_FALSE(QJsonDocument::fromJson(formatResults(items, OutputFormat::Json, {}))
+    EXPECT_FALSE(QJsonDocument::fromJson(formatResults(items, {}, OutputFormat::Json, {}))
                      .object()["groups"][0]["items"][0]
                      .toObject()
                      .contains(QStringLiteral("autoSelect")));
