@@ -15,23 +15,23 @@ QByteArray isoDate(qint64 seconds)
     return QByteArray(text, qsizetype(n));
 }
 
-std::optional<qint64> parseIsoDate(QStringView text)
+std::optional<qint64> parseIsoDate(std::string_view text)
 {
     // A sign before the year for dates before year 0 or after 9999, as gmtime writes them.
-    const bool negative = text.startsWith(u'-');
-    const QStringView rest = negative ? text.mid(1) : text;
-    const qsizetype yearDigits = rest.indexOf(u'-');
-    if (yearDigits < 1 || rest.size() != yearDigits + 16) return std::nullopt;
-    static constexpr char16_t kShape[] = u"-00-00T00:00:00Z"; // after the year; 0 is any digit
-    for (qsizetype i = 0; i < 16; ++i) {
-        const char16_t c = rest[yearDigits + i].unicode();
-        if (kShape[i] == u'0' ? (c < u'0' || c > u'9') : c != kShape[i]) return std::nullopt;
+    const bool negative = text.starts_with('-');
+    const std::string_view rest = negative ? text.substr(1) : text;
+    const std::size_t yearDigits = rest.find('-');
+    if (yearDigits == std::string_view::npos || yearDigits < 1 || rest.size() != yearDigits + 16) return std::nullopt;
+    static constexpr char kShape[] = "-00-00T00:00:00Z"; // after the year; 0 is any digit
+    for (std::size_t i = 0; i < 16; ++i) {
+        const char c = rest[yearDigits + i];
+        if (kShape[i] == '0' ? (c < '0' || c > '9') : c != kShape[i]) return std::nullopt;
     }
-    auto number = [&](qsizetype from, qsizetype count) {
+    auto number = [&](std::size_t from, std::size_t count) {
         qint64 n = 0;
-        for (qsizetype i = from; i < from + count; ++i) {
-            if (rest[i] < u'0' || rest[i] > u'9') return qint64(-1);
-            n = n * 10 + (rest[i].unicode() - u'0');
+        for (std::size_t i = from; i < from + count; ++i) {
+            if (rest[i] < '0' || rest[i] > '9') return qint64(-1);
+            n = n * 10 + (rest[i] - '0');
         }
         return n;
     };

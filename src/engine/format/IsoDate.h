@@ -1,9 +1,8 @@
 #pragma once
 
 #include <QByteArray>
-#include <QStringView>
-
 #include <optional>
+#include <string_view>
 
 namespace selfsame {
 
@@ -11,6 +10,6 @@ namespace selfsame {
 // directly: saved results hold several dates for each of millions of items.
 QByteArray isoDate(qint64 seconds);
 // Reads exactly that form back; nothing for any other text.
-std::optional<qint64> parseIsoDate(QStringView text);
+std::optional<qint64> parseIsoDate(std::string_view text);
 
 } // namespace selfsame

@@ -2,6 +2,7 @@
 
 #include "results/ChangedItems.h"
 #include "results/Gzip.h"
+#include "results/JsonRead.h"
 #include "results/JsonWriter.h"
 #include "results/SavedItem.h"
 #include "results/SavedRequest.h"
@@ -10,8 +11,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QHash>
-#include <QJsonArray>
-#include <QJsonDocument>
 #include <QSaveFile>
 
 #include <map>
@@ -45,6 +44,27 @@ QString newer(const QString &name, qint64 version)
         .arg(name)
         .arg(version)
         .arg(kFormatVersion);
+}
+
+// Whether JSON text ends inside a string or with objects or arrays still open: a file cut short.
+bool endsOpen(const QByteArray &text)
+{
+    qsizetype depth = 0;
+    bool inString = false, escaped = false;
+    for (const char c : text) {
+        if (inString) {
+            if (escaped) escaped = false;
+            else if (c == '\\') escaped = true;
+            else if (c == '"') inString = false;
+        } else if (c == '"') {
+            inString = true;
+        } else if (c == '{' || c == '[') {
+            ++depth;
+        } else if (c == '}' || c == ']') {
+            --depth;
+        }
+    }
+    return inString || depth > 0;
 }
 
 } // namespace
@@ -159,50 +179,55 @@ Loaded fromBytes(QByteArray bytes, const QString &name)
         if (!plain) return {std::nullopt, incomplete(name)};
         bytes = std::move(*plain);
     }
-    QJsonParseError parseError;
-    const QJsonDocument document = QJsonDocument::fromJson(bytes, &parseError);
-    if (parseError.error != QJsonParseError::NoError) {
-        // A parse that fails at the very end is a file cut short; anywhere else, not ours.
-        const bool atEnd = bytes.trimmed().size() <= parseError.offset + 1 && bytes.trimmed().startsWith('{');
-        const bool ours = bytes.left(100).contains(QByteArray("\"format\":\"") + kFormatName.data());
-        return {std::nullopt, atEnd && ours ? incomplete(name) : notResults(name)};
+    const bool ours = bytes.left(100).contains(QByteArray("{\"format\":\"") + kFormatName.data() + '"');
+    simdjson::dom::parser parser;
+    json::Element root;
+    if (parser.parse(bytes.constData(), std::size_t(bytes.size())).get(root)) {
+        if (!ours) return {std::nullopt, notResults(name)};
+        return {std::nullopt, endsOpen(bytes) ? incomplete(name) : damaged(name, tr("it is not valid JSON"))};
     }
-    const QJsonObject root = document.object();
-    if (root.value(QLatin1String("format")).toString() != kFormatName) return {std::nullopt, notResults(name)};
-    const QJsonValue version = root.value(QLatin1String("version"));
-    if (!version.isDouble() || version.toInteger() < 1)
-        return {std::nullopt, damaged(name, tr("it has no valid format version"))};
-    if (version.toInteger() > kFormatVersion) return {std::nullopt, newer(name, version.toInteger())};
+    const std::optional<json::Element> format = json::member(root, "format");
+    if (!format || json::string(*format) != kFormatName) return {std::nullopt, notResults(name)};
+    const std::optional<json::Element> versionValue = json::member(root, "version");
+    const qint64 version = versionValue ? json::integer(*versionValue).value_or(0) : 0;
+    if (version < 1) return {std::nullopt, damaged(name, tr("it has no valid format version"))};
+    if (version > kFormatVersion) return {std::nullopt, newer(name, version)};
 
     QString why;
-    std::optional<SearchRequest> request = readRequest(root.value(QLatin1String("request")).toObject(), &why);
+    const std::optional<json::Element> requestValue = json::member(root, "request");
+    if (!requestValue) return {std::nullopt, damaged(name, tr("it holds no search request"))};
+    std::optional<SearchRequest> request = readRequest(*requestValue, &why);
     if (!request) return {std::nullopt, damaged(name, why)};
-    const QJsonValue groups = root.value(QLatin1String("groups"));
-    if (!groups.isArray()) return {std::nullopt, damaged(name, tr("it holds no list of groups"))};
+    simdjson::dom::array groups;
+    if (root["groups"].get(groups)) return {std::nullopt, damaged(name, tr("it holds no list of groups"))};
 
-    const QJsonValue topList = root.value(QLatin1String("topList"));
+    const std::optional<json::Element> topList = json::member(root, "topList");
     QList<ResultItem> items;
     QList<qsizetype> topRows; // item index at each row, -1 until filled
-    for (const QJsonValue &groupValue : groups.toArray()) {
-        const QJsonObject group = groupValue.toObject();
-        const QJsonValue number = group.value(QLatin1String("group")), dupes = group.value(QLatin1String("dupes"));
-        const QJsonValue members = group.value(QLatin1String("items"));
-        if (!number.isDouble() || !dupes.isDouble() || !members.isArray())
+    for (json::Element group : groups) {
+        const std::optional<json::Element> numberValue = json::member(group, "group");
+        const std::optional<json::Element> dupesValue = json::member(group, "dupes");
+        const std::optional<qint64> number = numberValue ? json::integer(*numberValue) : std::nullopt;
+        const std::optional<qint64> dupes = dupesValue ? json::integer(*dupesValue) : std::nullopt;
+        simdjson::dom::array members;
+        if (!number || !dupes || group["items"].get(members))
             return {std::nullopt, damaged(name, tr("a group has no number, count or items"))};
-        for (const QJsonValue &member : members.toArray()) {
-            const QJsonObject object = member.toObject();
+        for (json::Element member : members) {
+            simdjson::dom::object object;
             ResultItem item;
-            if (!readItem(object, item, &why)) return {std::nullopt, damaged(name, why)};
-            item.group = int(number.toInteger());
-            item.dupes = int(dupes.toInteger());
-            if (const QJsonValue row = object.value(QLatin1String("row")); row.isDouble()) {
-                const qsizetype at = row.toInteger();
+            if (member.get(object) || !readItem(object, item, &why)) return {std::nullopt, damaged(name, why)};
+            item.group = int(*number);
+            item.dupes = int(*dupes);
+            if (const std::optional<json::Element> row = json::member(member, "row")) {
+                const qint64 at = json::integer(*row).value_or(-1);
                 if (at < 0 || at >= (1 << 30)) return {std::nullopt, damaged(name, tr("an item's row is not valid"))};
                 if (topRows.size() <= at) topRows.resize(at + 1, -1);
                 if (topRows[at] != -1) return {std::nullopt, damaged(name, tr("two items share one row"))};
                 topRows[at] = items.size();
-            } else if (topList.isObject() && !object.value(QLatin1String("hidden")).toBool()) {
-                return {std::nullopt, damaged(name, tr("an item is neither in the top list nor hidden"))};
+            } else if (topList) {
+                const std::optional<json::Element> hidden = json::member(member, "hidden");
+                if (!hidden || !json::flag(*hidden).value_or(false))
+                    return {std::nullopt, damaged(name, tr("an item is neither in the top list nor hidden"))};
             }
             items.append(std::move(item));
         }
@@ -212,13 +237,17 @@ Loaded fromBytes(QByteArray bytes, const QString &name)
     markChangedItems(items);
     Loaded loaded;
     ResultModel &model = loaded.model.emplace();
-    if (topList.isObject()) {
-        const QJsonObject list = topList.toObject();
+    if (topList) {
         std::optional<SortDescriptor> sort;
-        if (const QJsonObject s = list.value(QLatin1String("sort")).toObject(); !s.isEmpty())
-            sort = SortDescriptor{s.value(QLatin1String("key")).toString(), s.value(QLatin1String("ascending")).toBool()};
+        if (const std::optional<json::Element> s = json::member(*topList, "sort"); s && !s->is_null()) {
+            const std::optional<json::Element> key = json::member(*s, "key");
+            const std::optional<json::Element> ascending = json::member(*s, "ascending");
+            sort = SortDescriptor{key ? json::string(*key).value_or(QString()) : QString(),
+                                  ascending && json::flag(*ascending).value_or(true)};
+        }
+        const std::optional<json::Element> byAutomaticSelection = json::member(*topList, "hiddenByAutomaticSelection");
         model.restoreResults(std::move(items), *request, topRows, sort,
-                             list.value(QLatin1String("hiddenByAutomaticSelection")).toBool());
+                             byAutomaticSelection && json::flag(*byAutomaticSelection).value_or(false));
     } else {
         model.setResults(std::move(items), *request);
     }

@@ -4,19 +4,20 @@
 #include "results/JsonWriter.h"
 #include "search/Digest.h"
 
+#include "results/JsonRead.h"
+
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QHash>
-#include <QJsonArray>
 
 #include <algorithm>
 #include <cmath>
+#include <unordered_map>
 
 namespace selfsame {
 
 namespace {
 
-constexpr std::pair<const char *, ItemFlag> kFlags[] = {
+constexpr std::pair<std::string_view, ItemFlag> kFlags[] = {
     {"read-only", ReadOnly}, {"other owner", OtherOwner}, {"isSymlink", IsSymlink},
     {"isFolder", IsFolder},  {"isPackage", IsPackage},    {"deleted", Deleted}};
 
@@ -42,16 +43,15 @@ void writeSpotlight(JsonWriter &json, const QVariant &value)
     }
 }
 
-QVariant readSpotlight(const QJsonValue &value)
+QVariant readSpotlight(json::Element value)
 {
-    if (value.isObject()) {
-        const QDateTime date =
-            QDateTime::fromString(value.toObject().value(QLatin1String("date")).toString(), Qt::ISODateWithMs);
-        return date.isValid() ? QVariant(date) : QVariant();
+    if (const std::optional<json::Element> date = json::member(value, "date")) {
+        const QDateTime parsed = QDateTime::fromString(json::string(*date).value_or(QString()), Qt::ISODateWithMs);
+        return parsed.isValid() ? QVariant(parsed) : QVariant();
     }
-    if (value.isBool()) return value.toBool();
-    if (value.isString()) return value.toString();
-    if (value.isDouble()) return value.toDouble();
+    if (const std::optional<bool> flag = json::flag(value)) return *flag;
+    if (const std::optional<QString> text = json::string(value)) return *text;
+    if (const std::optional<double> number = json::number(value)) return *number;
     return {};
 }
 
@@ -60,12 +60,18 @@ bool isAsciiHexDigit(char c)
     return (c >= '0' && c <= '9') || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F');
 }
 
-template <std::size_t N> bool readHex(const QJsonValue &value, std::array<std::uint8_t, N> &into)
+int hexValue(char c)
 {
-    const QByteArray hex = value.toString().toLatin1();
-    if (hex.size() != qsizetype(2 * N) || !std::all_of(hex.begin(), hex.end(), isAsciiHexDigit)) return false;
-    const QByteArray bytes = QByteArray::fromHex(hex);
-    std::copy(bytes.begin(), bytes.end(), into.begin());
+    return c <= '9' ? c - '0' : (c | 0x20) - 'a' + 10;
+}
+
+template <std::size_t N> bool readHex(json::Element value, std::array<std::uint8_t, N> &into)
+{
+    std::string_view hex;
+    if (value.get_string().get(hex) || hex.size() != 2 * N || !std::all_of(hex.begin(), hex.end(), isAsciiHexDigit))
+        return false;
+    for (std::size_t i = 0; i < N; ++i)
+        into[i] = std::uint8_t(hexValue(hex[2 * i]) << 4 | hexValue(hex[2 * i + 1]));
     return true;
 }
 
@@ -75,34 +81,40 @@ enum class Key {
     Digest, AllocDigest, TrashedURL, Replaced, Flag,
 };
 
-const QHash<QString, Key> &keys()
+std::optional<Key> keyNamed(std::string_view name)
 {
-    static const QHash<QString, Key> table = [] {
-        QHash<QString, Key> t{
-            {QStringLiteral("path"), Key::Path},           {QStringLiteral("size"), Key::Size},
-            {QStringLiteral("physicalSize"), Key::PhysicalSize}, {QStringLiteral("modified"), Key::Modified},
-            {QStringLiteral("lastUsed"), Key::LastUsed},   {QStringLiteral("attributes"), Key::Attributes},
-            {QStringLiteral("created"), Key::Created},     {QStringLiteral("addedDate"), Key::AddedDate},
-            {QStringLiteral("device"), Key::Device},       {QStringLiteral("inode"), Key::Inode},
-            {QStringLiteral("tagList"), Key::TagList},     {QStringLiteral("duration"), Key::Duration},
-            {QStringLiteral("latitude"), Key::Latitude},   {QStringLiteral("longitude"), Key::Longitude},
-            {QStringLiteral("spotlight"), Key::Spotlight}, {QStringLiteral("pixelSize"), Key::PixelSize},
-            {QStringLiteral("codecs"), Key::Codecs},       {QStringLiteral("bitrate"), Key::Bitrate},
-            {QStringLiteral("itemCount"), Key::ItemCount}, {QStringLiteral("digest"), Key::Digest},
-            {QStringLiteral("allocDigest"), Key::AllocDigest}, {QStringLiteral("trashedURL"), Key::TrashedURL},
-            {QStringLiteral("replaced"), Key::Replaced}};
+    static const std::unordered_map<std::string_view, Key> table = [] {
+        std::unordered_map<std::string_view, Key> t{
+            {"path", Key::Path},           {"size", Key::Size},         {"physicalSize", Key::PhysicalSize},
+            {"modified", Key::Modified},   {"lastUsed", Key::LastUsed}, {"attributes", Key::Attributes},
+            {"created", Key::Created},     {"addedDate", Key::AddedDate}, {"device", Key::Device},
+            {"inode", Key::Inode},         {"tagList", Key::TagList},   {"duration", Key::Duration},
+            {"latitude", Key::Latitude},   {"longitude", Key::Longitude}, {"spotlight", Key::Spotlight},
+            {"pixelSize", Key::PixelSize}, {"codecs", Key::Codecs},     {"bitrate", Key::Bitrate},
+            {"itemCount", Key::ItemCount}, {"digest", Key::Digest},     {"allocDigest", Key::AllocDigest},
+            {"trashedURL", Key::TrashedURL}, {"replaced", Key::Replaced}};
         for (const auto &[name, flag] : kFlags)
-            t.insert(QLatin1String(name), Key::Flag);
+            t.emplace(name, Key::Flag);
         return t;
     }();
-    return table;
+    const auto found = table.find(name);
+    return found == table.end() ? std::nullopt : std::optional<Key>(found->second);
 }
 
-bool readDate(const QJsonValue &value, qint64 &into)
+bool readDate(json::Element value, qint64 &into)
 {
-    const std::optional<qint64> date = parseIsoDate(value.toString());
+    std::string_view text;
+    if (value.get_string().get(text)) return false;
+    const std::optional<qint64> date = parseIsoDate(text);
     if (date) into = *date;
     return date.has_value();
+}
+
+// Stores a value read as `T` when it has that kind.
+template <typename T, typename Store> bool store(const std::optional<T> &value, Store storing)
+{
+    if (value) storing(*value);
+    return value.has_value();
 }
 
 } // namespace
@@ -120,7 +132,7 @@ void writeItem(JsonWriter &json, const ResultItem &item)
     json.field("device", item.device);
     json.field("inode", item.inode);
     for (const auto &[name, flag] : kFlags)
-        if (item.has(flag)) json.field(name, true);
+        if (item.has(flag)) json.field(name.data(), true);
     if (item.itemCount() != 0) json.field("itemCount", item.itemCount());
     if (!item.tagList().isEmpty()) {
         json.key("tagList");
@@ -145,21 +157,20 @@ void writeItem(JsonWriter &json, const ResultItem &item)
     if (const QString replaced = replacedStatus(item); !replaced.isEmpty()) json.field("replaced", replaced);
 }
 
-bool readItem(const QJsonObject &object, ResultItem &item, QString *error)
+bool readItem(const simdjson::dom::object &object, ResultItem &item, QString *error)
 {
     bool hasPath = false;
-    for (auto it = object.begin(); it != object.end(); ++it) {
-        const auto key = keys().constFind(it.key());
-        if (key == keys().cend()) continue;
-        const QJsonValue value = it.value();
+    for (const auto [name, value] : object) {
+        const std::optional<Key> key = keyNamed(name);
+        if (!key) continue;
         bool ok = true;
         switch (*key) {
         case Key::Path:
-            item.path = value.toString();
-            ok = hasPath = item.path.startsWith(u'/');
+            ok = hasPath = store(json::string(value), [&](const QString &p) { item.path = p; }) &&
+                           item.path.startsWith(u'/');
             break;
-        case Key::Size: ok = value.isDouble(); item.size = value.toInteger(); break;
-        case Key::PhysicalSize: ok = value.isDouble(); item.physicalSize = value.toInteger(); break;
+        case Key::Size: ok = store(json::integer(value), [&](qint64 n) { item.size = n; }); break;
+        case Key::PhysicalSize: ok = store(json::integer(value), [&](qint64 n) { item.physicalSize = n; }); break;
         case Key::Modified: ok = readDate(value, item.modified); break;
         case Key::LastUsed: ok = readDate(value, item.lastUsed); break;
         case Key::Attributes: ok = readDate(value, item.attributes); break;
@@ -170,39 +181,39 @@ bool readItem(const QJsonObject &object, ResultItem &item, QString *error)
             item.setAddedDate(date);
             break;
         }
-        case Key::Device: ok = value.isDouble(); item.device = quint64(value.toInteger()); break;
-        case Key::Inode: ok = value.isDouble(); item.inode = quint64(value.toInteger()); break;
+        case Key::Device: ok = store(json::integer(value), [&](qint64 n) { item.device = quint64(n); }); break;
+        case Key::Inode: ok = store(json::integer(value), [&](qint64 n) { item.inode = quint64(n); }); break;
         case Key::TagList: {
+            simdjson::dom::array array;
+            ok = !value.get_array().get(array);
             QStringList tags;
-            for (const QJsonValue &tag : value.toArray())
-                tags.append(tag.toString());
-            ok = value.isArray();
+            for (json::Element tag : array)
+                ok = ok && store(json::string(tag), [&](const QString &t) { tags.append(t); });
             item.setTagList(tags);
             break;
         }
-        case Key::Duration: ok = value.isDouble(); item.setDuration(value.toDouble()); break;
-        case Key::Latitude: ok = value.isDouble(); item.setLatitude(value.toDouble()); break;
-        case Key::Longitude: ok = value.isDouble(); item.setLongitude(value.toDouble()); break;
+        case Key::Duration: ok = store(json::number(value), [&](double d) { item.setDuration(d); }); break;
+        case Key::Latitude: ok = store(json::number(value), [&](double d) { item.setLatitude(d); }); break;
+        case Key::Longitude: ok = store(json::number(value), [&](double d) { item.setLongitude(d); }); break;
         case Key::Spotlight:
             item.setSpotlight(readSpotlight(value));
             ok = item.spotlight().isValid();
             break;
-        case Key::PixelSize: ok = value.isString(); item.setPixelSize(value.toString()); break;
-        case Key::Codecs: ok = value.isString(); item.setCodecs(value.toString()); break;
-        case Key::Bitrate: ok = value.isDouble(); item.setBitrate(value.toDouble()); break;
-        case Key::ItemCount: ok = value.isDouble(); item.setItemCount(value.toInteger()); break;
+        case Key::PixelSize: ok = store(json::string(value), [&](const QString &t) { item.setPixelSize(t); }); break;
+        case Key::Codecs: ok = store(json::string(value), [&](const QString &t) { item.setCodecs(t); }); break;
+        case Key::Bitrate: ok = store(json::number(value), [&](double d) { item.setBitrate(d); }); break;
+        case Key::ItemCount: ok = store(json::integer(value), [&](qint64 n) { item.setItemCount(n); }); break;
         case Key::Digest: ok = readHex(value, item.digest); item.set(HasDigest, ok); break;
         case Key::AllocDigest: ok = readHex(value, item.allocDigest); item.set(HasAllocDigest, ok); break;
-        case Key::TrashedURL: ok = value.isString(); item.setTrashedURL(value.toString()); break;
-        case Key::Replaced: ok = setReplacedStatus(item, value.toString()); break;
+        case Key::TrashedURL: ok = store(json::string(value), [&](const QString &t) { item.setTrashedURL(t); }); break;
+        case Key::Replaced: ok = setReplacedStatus(item, json::string(value).value_or(QString())); break;
         case Key::Flag:
-            for (const auto &[name, flag] : kFlags)
-                if (it.key() == QLatin1String(name)) item.set(flag, value.toBool());
-            ok = value.isBool();
+            for (const auto &[flagName, flag] : kFlags)
+                if (name == flagName) ok = store(json::flag(value), [&](bool on) { item.set(flag, on); });
             break;
         }
         if (!ok) {
-            *error = QCoreApplication::translate("ResultsFile", "the value of “%1” is not valid").arg(it.key());
+            *error = QCoreApplication::translate("ResultsFile", "the value of “%1” is not valid").arg(json::text(name));
             return false;
         }
     }

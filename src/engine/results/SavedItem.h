@@ -2,8 +2,9 @@
 
 #include "results/ResultItem.h"
 
-#include <QJsonObject>
 #include <QString>
+
+namespace simdjson::dom { class object; }
 
 namespace selfsame {
 
@@ -14,6 +15,6 @@ class JsonWriter;
 void writeItem(JsonWriter &json, const ResultItem &item);
 // Fills `item` from a saved item. False, with the reason in `error`, when a key holds a
 // value of the wrong kind or the path is missing; keys it does not know are ignored.
-bool readItem(const QJsonObject &object, ResultItem &item, QString *error);
+bool readItem(const simdjson::dom::object &object, ResultItem &item, QString *error);
 
 } // namespace selfsame

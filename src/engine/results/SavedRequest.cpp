@@ -2,11 +2,11 @@
 
 #include "results/JsonWriter.h"
 
+#include "results/JsonRead.h"
+
 #include <QCoreApplication>
-#include <QJsonArray>
 
 #include <algorithm>
-#include <type_traits>
 
 namespace selfsame {
 
@@ -28,37 +28,40 @@ void writeExpressions(JsonWriter &json, const QList<QRegularExpression> &express
 // Reads the parameters one by one and remembers the first that is not as it should be.
 class RequestReader {
 public:
-    explicit RequestReader(const QJsonObject &object) : m_object(object) {}
+    explicit RequestReader(json::Element object) : m_object(object) {}
 
-    bool flag(const char *name, bool &into) { return read(name, QJsonValue::Bool, [&](const QJsonValue &v) { into = v.toBool(); }); }
-    bool number(const char *name, double &into) { return read(name, QJsonValue::Double, [&](const QJsonValue &v) { into = v.toDouble(); }); }
-    bool integer(const char *name, qint64 &into) { return read(name, QJsonValue::Double, [&](const QJsonValue &v) { into = v.toInteger(); }); }
-    bool text(const char *name, QString &into) { return read(name, QJsonValue::String, [&](const QJsonValue &v) { into = v.toString(); }); }
+    bool flag(const char *name, bool &into) { return read(name, json::flag, into); }
+    bool number(const char *name, double &into) { return read(name, json::number, into); }
+    bool integer(const char *name, qint64 &into) { return read(name, json::integer, into); }
+    bool text(const char *name, QString &into) { return read(name, json::string, into); }
     bool texts(const char *name, QStringList &into)
     {
-        return read(name, QJsonValue::Array, [&](const QJsonValue &v) {
-            for (const QJsonValue &element : v.toArray()) {
-                if (!element.isString()) return fail(name);
-                into.append(element.toString());
-            }
-            return true;
-        });
+        simdjson::dom::array array;
+        if (!value(name) || value(name)->get_array().get(array)) return fail(name);
+        for (json::Element element : array) {
+            const std::optional<QString> text = json::string(element);
+            if (!text) return fail(name);
+            into.append(*text);
+        }
+        return true;
     }
     bool expressions(const char *name, QList<QRegularExpression> &into)
     {
-        return read(name, QJsonValue::Array, [&](const QJsonValue &v) {
-            for (const QJsonValue &element : v.toArray()) {
-                const QJsonObject e = element.toObject();
-                if (!e.value(QLatin1String("pattern")).isString()) return fail(name);
-                QRegularExpression::PatternOptions options = QRegularExpression::UseUnicodePropertiesOption;
-                if (e.value(QLatin1String("caseInsensitive")).toBool())
-                    options |= QRegularExpression::CaseInsensitiveOption;
-                into.append(QRegularExpression(e.value(QLatin1String("pattern")).toString(), options));
-            }
-            return true;
-        });
+        simdjson::dom::array array;
+        if (!value(name) || value(name)->get_array().get(array)) return fail(name);
+        for (json::Element element : array) {
+            const std::optional<json::Element> pattern = json::member(element, "pattern");
+            const std::optional<QString> text = pattern ? json::string(*pattern) : std::nullopt;
+            if (!text) return fail(name);
+            QRegularExpression::PatternOptions options = QRegularExpression::UseUnicodePropertiesOption;
+            const std::optional<json::Element> caseInsensitive = json::member(element, "caseInsensitive");
+            if (caseInsensitive && json::flag(*caseInsensitive).value_or(false))
+                options |= QRegularExpression::CaseInsensitiveOption;
+            into.append(QRegularExpression(*text, options));
+        }
+        return true;
     }
-    bool has(const char *name) const { return !m_object.value(QLatin1String(name)).isNull(); }
+    bool has(const char *name) const { return value(name) && !value(name)->is_null(); }
     const QString &error() const { return m_error; }
 
     bool fail(const char *name)
@@ -70,17 +73,16 @@ public:
     }
 
 private:
-    template <typename Read> bool read(const char *name, QJsonValue::Type type, Read reading)
+    std::optional<json::Element> value(const char *name) const { return json::member(m_object, name); }
+    template <typename Read, typename T> bool read(const char *name, Read reading, T &into)
     {
-        const QJsonValue value = m_object.value(QLatin1String(name));
-        if (value.type() != type) return fail(name);
-        if constexpr (std::is_same_v<decltype(reading(value)), bool>)
-            return reading(value);
-        else
-            reading(value);
+        const std::optional<json::Element> element = value(name);
+        const auto got = element ? reading(*element) : std::nullopt;
+        if (!got) return fail(name);
+        into = *got;
         return true;
     }
-    const QJsonObject &m_object;
+    json::Element m_object;
     QString m_error;
 };
 
@@ -128,7 +130,7 @@ void writeRequest(JsonWriter &json, const SearchRequest &request)
     json.end('}');
 }
 
-std::optional<SearchRequest> readRequest(const QJsonObject &object, QString *error)
+std::optional<SearchRequest> readRequest(json::Element object, QString *error)
 {
     SearchRequest request;
     RequestReader r(object);

@@ -2,10 +2,11 @@
 
 #include "search/SearchRequest.h"
 
-#include <QJsonObject>
 #include <QString>
 
 #include <optional>
+
+namespace simdjson::dom { class element; }
 
 namespace selfsame {
 
@@ -15,6 +16,6 @@ class JsonWriter;
 // expressions by their pattern and case sensitivity.
 void writeRequest(JsonWriter &json, const SearchRequest &request);
 // Nothing, with the reason in `error`, when a parameter is missing or of the wrong kind.
-std::optional<SearchRequest> readRequest(const QJsonObject &object, QString *error);
+std::optional<SearchRequest> readRequest(simdjson::dom::element object, QString *error);
 
 } // namespace selfsame

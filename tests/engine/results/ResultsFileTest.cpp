@@ -348,10 +348,10 @@ TEST(ResultsFile, IsoDatesReadBackExactlyAndOtherTextsAreRefused)
 {
     for (qint64 seconds : {qint64(0), qint64(-1), qint64(951782400) /* 2000-02-29 */, qint64(4102444799),
                            qint64(-62135596800) /* year 1 */})
-        EXPECT_EQ(parseIsoDate(QString::fromLatin1(isoDate(seconds))), seconds) << isoDate(seconds).toStdString();
+        EXPECT_EQ(parseIsoDate(isoDate(seconds).toStdString()), seconds) << isoDate(seconds).toStdString();
     for (const char *bad : {"2024-02-30T00:00:00Z", "2024-01-01 00:00:00Z", "2024-01-01T00:00:00", "x",
                             "2024-01-01T24:00:00Z", "20a4-01-01T00:00:00Z"})
-        EXPECT_FALSE(parseIsoDate(QString::fromLatin1(bad))) << bad;
+        EXPECT_FALSE(parseIsoDate(bad)) << bad;
 }
 
 } // namespace
