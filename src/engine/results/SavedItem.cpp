@@ -1,10 +1,9 @@
 #include "results/SavedItem.h"
 
 #include "format/IsoDate.h"
+#include "results/JsonRead.h"
 #include "results/JsonWriter.h"
 #include "search/Digest.h"
-
-#include "results/JsonRead.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
