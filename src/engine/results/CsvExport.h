@@ -16,7 +16,7 @@ struct CsvColumn {
 };
 
 // The text a cell of a column holds in an export: what the list shows, except that dates
-// are ISO 8601 in UTC and sizes whole bytes, which spreadsheets read back exactly.
+// are ISO 8601 in UTC and sizes and counts whole numbers, which spreadsheets read back exactly.
 // `spotlightAttribute` is the attribute the "spotlight" column holds.
 QString exportedCellText(const ResultItem &item, const QString &column, const QString &spotlightAttribute);
 
