@@ -8,10 +8,12 @@
 #include "LocationsModel.h"
 #include "LocationsView.h"
 #include "PutBackDialogue.h"
+#include "ResultsFileDialogs.h"
 #include "SearchDefaults.h"
 #include "SearchOptionsPanel.h"
 #include "Settings.h"
 #include "WelcomePanel.h"
+#include "results/ResultsFile.h"
 
 #include "search/DigestCache.h"
 #include "search/DuplicateSearch.h"
@@ -141,6 +143,8 @@ void AppDelegate::buildMenus()
     QAction *search = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("edit-find")),
                                           tr("&Search for Duplicates"), this, &AppDelegate::searchDuplicates);
     search->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Return));
+    fileMenu->addAction(QIcon::fromTheme(QStringLiteral("document-open")), tr("Open &Results…"), this,
+                        &AppDelegate::chooseResultsToOpen);
     fileMenu->addSeparator();
     m_deleteAction = fileMenu->addAction(QIcon::fromTheme(QStringLiteral("list-remove")),
                                          tr("&Remove from List"), this, &AppDelegate::deleteTargetRows);
@@ -315,11 +319,9 @@ Dupes *AppDelegate::searchInFolderURLs(const QStringList &paths)
     DuplicateSearch::setDigestCachePath(m_settings.boolValue(key::useDigestCache) ? DigestCache::defaultPath()
                                                                                    : QString());
 
-    auto *dupes = new Dupes(m_settings);
-    m_dupesList.append(dupes);
+    Dupes *dupes = newDupes();
     m_searchingDupesList.append(dupes);
     connect(dupes, &Dupes::finishedSearching, this, &AppDelegate::dupesFinishedSearching);
-    connect(dupes, &Dupes::closed, this, &AppDelegate::dupesClosed);
     updateDock();
     dupes->show();
     dupes->searchInFolderURLs(*start.request);
@@ -362,8 +364,19 @@ void AppDelegate::chooseLocations(QFileDialog::FileMode fileMode, const QString 
     dialog->open();
 }
 
-void AppDelegate::handleLaunch(const LaunchRequest &request)
+void AppDelegate::handleLaunch(const LaunchRequest &launch)
 {
+    LaunchRequest request = launch;
+    if (!request.search) {
+        // Saved results open in windows of their own; files opened with them go on as usual.
+        const auto results = std::stable_partition(request.paths.begin(), request.paths.end(),
+                                                   [](const QString &path) { return !isResultsFile(path); });
+        const QStringList resultFiles(results, request.paths.end());
+        request.paths.erase(results, request.paths.end());
+        for (const QString &path : resultFiles)
+            openResults(path);
+        if (!resultFiles.isEmpty() && request.paths.isEmpty()) return;
+    }
     if (request.paths.isEmpty()) {
         showNormal();
         raise();
@@ -377,6 +390,35 @@ void AppDelegate::handleLaunch(const LaunchRequest &request)
     } else {
         showInOpenWindowOrAddURLs(request.paths);
     }
+}
+
+Dupes *AppDelegate::openResults(const QString &path)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    ResultsFile::Loaded loaded = ResultsFile::load(path);
+    QApplication::restoreOverrideCursor();
+    if (!loaded.model) {
+        showAlert(this, QMessageBox::Warning, tr("The results could not be opened."), loaded.error, {tr("OK")});
+        return nullptr;
+    }
+    Dupes *dupes = newDupes();
+    dupes->showSavedResults(std::move(*loaded.model), path);
+    dupes->show();
+    return dupes;
+}
+
+Dupes *AppDelegate::newDupes()
+{
+    auto *dupes = new Dupes(m_settings);
+    m_dupesList.append(dupes);
+    connect(dupes, &Dupes::closed, this, &AppDelegate::dupesClosed);
+    connect(dupes, &Dupes::openResultsRequested, this, &AppDelegate::chooseResultsToOpen);
+    return dupes;
+}
+
+void AppDelegate::chooseResultsToOpen()
+{
+    chooseResultsFileToOpen(this, [this](const QString &path) { openResults(path); });
 }
 
 void AppDelegate::showInOpenWindowOrAddURLs(const QStringList &paths)

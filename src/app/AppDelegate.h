@@ -46,6 +46,8 @@ public:
     // Files handed over by the desktop or a later start of the executable.
     void handleLaunch(const LaunchRequest &request);
     void showInOpenWindowOrAddURLs(const QStringList &paths);
+    // Opens saved results in a results window of their own, or tells why it cannot.
+    Dupes *openResults(const QString &path);
     void welcome();
     void showWelcomeAtStartup();
     // Opens the attribute chooser as a sheet over the window.
@@ -72,6 +74,9 @@ private:
     void deleteTargetRows();
     void revealTargetRows();
     void validateLocationActions();
+    // A results window, known to the application until it closes.
+    Dupes *newDupes();
+    void chooseResultsToOpen();
     void dupesFinishedSearching(Dupes *dupes);
     void dupesClosed(Dupes *dupes);
     void updateDock();

@@ -12,8 +12,11 @@
 #include "Settings.h"
 #include "attributes/SpotlightAttributesManager.h"
 #include "format/Formatters.h"
+#include "ResultsFileDialogs.h"
+#include "results/CsvExport.h"
 #include "results/ListColumns.h"
 #include "results/ResultFilter.h"
+#include "results/ResultsFile.h"
 #include "results/StatusLine.h"
 
 #include <QActionGroup>
@@ -31,6 +34,7 @@
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QSignalBlocker>
 #include <QSplitter>
 #include <QTimer>
@@ -57,6 +61,13 @@ const std::pair<const char *, int> kListSizes[] = {
     {QT_TRANSLATE_NOOP("Dupes", "Extra Large"), 128},
 };
 const int kFontSizes[] = {8, 9, 10, 11, 12, 13, 14, 16, 18};
+
+// The name offered for saved results and exports: the searched location's, when there is one.
+QString suggestedName(const SearchRequest &request)
+{
+    return request.searchInFolderURLs.size() == 1 ? displayName(request.searchInFolderURLs.first())
+                                                  : QCoreApplication::translate("Dupes", "Duplicates");
+}
 
 } // namespace
 
@@ -176,6 +187,27 @@ Dupes::~Dupes() = default;
 void Dupes::buildMenus()
 {
     QMenu *file = menuBar()->addMenu(tr("&File"));
+    file->addAction(QIcon::fromTheme(QStringLiteral("document-open")), tr("Open &Results…"), this,
+                    &Dupes::openResultsRequested);
+    QAction *save = file->addAction(QIcon::fromTheme(QStringLiteral("document-save")), tr("&Save Results…"),
+                                    QKeySequence::Save, this, [this] {
+                                        chooseResultsFileToSave(this, suggestedName(m_model.request()), [this](const QString &path) {
+                                            if (const QString error = saveResults(path); !error.isEmpty())
+                                                showAlert(this, QMessageBox::Warning,
+                                                          tr("The results could not be saved."), error, {tr("OK")});
+                                        });
+                                    });
+    QAction *exportList = file->addAction(tr("&Export…"), this, [this] {
+        chooseCsvFileToExport(this, suggestedName(m_model.request()), [this](const QString &path) {
+            if (const QString error = exportTopList(path); !error.isEmpty())
+                showAlert(this, QMessageBox::Warning, tr("The list could not be exported."), error, {tr("OK")});
+        });
+    });
+    connect(file, &QMenu::aboutToShow, this, [this, save, exportList] {
+        save->setEnabled(m_finished);
+        exportList->setEnabled(m_finished && !m_model.mainItems().isEmpty());
+    });
+    file->addSeparator();
     file->addAction(tr("&Close Window"), QKeySequence::Close, this, &QWidget::close);
 
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
@@ -317,6 +349,52 @@ void Dupes::showFinishedResults(QList<ResultItem> items, const SearchRequest &re
     prepareWindow(request);
     m_model.setResults(std::move(items), request);
     showResults();
+}
+
+void Dupes::showSavedResults(ResultModel model, const QString &file)
+{
+    prepareWindow(model.request());
+    m_model = std::move(model);
+    for (const ResultItem &item : m_model.allItems()) {
+        const QString replaced = replacedStatus(item);
+        if (!replaced.isEmpty())
+            setStatusImage(&item, replaced);
+        else if (!item.trashedURL().isEmpty())
+            setStatusImage(&item, QStringLiteral("trashed"));
+        else if (item.has(Deleted))
+            setStatusImage(&item, QStringLiteral("deleted"));
+    }
+    setWindowFilePath(file);
+    showResults();
+}
+
+QString Dupes::saveResults(const QString &path)
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    const QString error = ResultsFile::save(m_model, path);
+    QApplication::restoreOverrideCursor();
+    if (error.isEmpty()) setWindowFilePath(path);
+    return error;
+}
+
+QString Dupes::exportTopList(const QString &path) const
+{
+    QList<CsvColumn> columns;
+    const QHeaderView *header = m_mainList->horizontalHeader();
+    for (int visual = 0; visual < header->count(); ++visual) {
+        const int logical = header->logicalIndex(visual);
+        if (header->isSectionHidden(logical)) continue;
+        columns.append({m_mainModel->columnIdentifier(logical),
+                        m_mainModel->headerData(logical, Qt::Horizontal, Qt::DisplayRole).toString()});
+    }
+    const QList<const ResultItem *> rows(m_model.mainItems().begin(), m_model.mainItems().end());
+    const QString attribute =
+        m_model.detectionMode() == DetectionMode::Attribute ? m_model.request().spotlightAttribute : QString();
+    QSaveFile file(path);
+    const QByteArray csv = exportCsv(rows, columns, attribute);
+    if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit())
+        return tr("“%1” could not be written: %2").arg(path, file.errorString());
+    return {};
 }
 
 void Dupes::showProgress(const QString &status, double progress)

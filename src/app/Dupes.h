@@ -37,8 +37,16 @@ public:
 
     // Starts a search; the lists fill when it is done.
     void searchInFolderURLs(const SearchRequest &request);
-    // Shows results that are already complete (saved results, for instance), without a search.
+    // Shows results that are already complete, without a search.
     void showFinishedResults(QList<ResultItem> items, const SearchRequest &request);
+    // Shows saved results as they were saved: the same lists, hidden items and marks of what
+    // was done to items; items whose file changed or vanished since are shown as missing.
+    void showSavedResults(ResultModel model, const QString &file);
+    // Saves every item, the hidden ones too, with the search request. Returns an error
+    // message, empty on success.
+    QString saveResults(const QString &path);
+    // Writes the visible rows of the top list as CSV, with its visible columns in their order.
+    QString exportTopList(const QString &path) const;
 
     // Selects and shows the visible item with this path; false when the results do not hold it.
     bool selectAndRevealInTopList(const QString &path);
@@ -89,6 +97,8 @@ public Q_SLOTS:
 Q_SIGNALS:
     void finishedSearching(Dupes *dupes);
     void closed(Dupes *dupes);
+    // File › Open Results… of this window: the application opens them in another one.
+    void openResultsRequested();
     // The context menu of a list is about to open; add commands to `menu`.
     void contextMenuAboutToShow(QMenu *menu, ResultList list);
     // The selection of either list changed, or the lists were read again: commands revalidate.

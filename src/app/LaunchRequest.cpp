@@ -1,6 +1,9 @@
 #include "LaunchRequest.h"
 
+#include "results/ResultsFile.h"
+
 #include <QDir>
+#include <QFileInfo>
 #include <QUrl>
 
 namespace selfsame {
@@ -20,6 +23,12 @@ LaunchRequest LaunchRequest::fromMessage(const QStringList &message)
     if (message.isEmpty())
         return {};
     return {message.first() == kSearch, message.mid(1)};
+}
+
+bool isResultsFile(const QString &path)
+{
+    const QFileInfo info(path);
+    return info.isFile() && info.suffix().compare(ResultsFile::kSuffix, Qt::CaseInsensitive) == 0;
 }
 
 QStringList absoluteLocalPaths(const QStringList &arguments, const QString &workingDirectory)

@@ -15,6 +15,9 @@ struct LaunchRequest {
     static LaunchRequest fromMessage(const QStringList &message);
 };
 
+// Saved results, which open in a results window of their own rather than as locations.
+bool isResultsFile(const QString &path);
+
 // Reads arguments given as paths relative to `workingDirectory` or as file URLs (as file
 // managers pass them); other URLs are dropped.
 QStringList absoluteLocalPaths(const QStringList &arguments, const QString &workingDirectory);

@@ -80,12 +80,16 @@ QVariant ResultTableModel::data(const QModelIndex &index, int role) const
         }
         return {};
     case Qt::ForegroundRole:
+        // Opened again from a file, and no longer what was found: shown as missing.
+        if (item->has(Missing)) return QColor(Qt::gray);
         // The backgrounds are light whatever the theme.
         if ((index.column() == 0 && m_list == ResultList::Top && m_model.showGroups()) ||
             (column == QLatin1String("clone") && cloneStatusColour(item->clone).isValid()))
             return QColor(Qt::black);
         return {};
     case Qt::ToolTipRole:
+        if (item->has(Missing))
+            return tr("%1\nChanged or gone since these results were saved").arg(item->path);
         if (index.column() == 0 || column == QLatin1String("path") || column == QLatin1String("folder"))
             return item->path;
         return {};
