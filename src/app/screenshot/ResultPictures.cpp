@@ -5,6 +5,7 @@
 #include "ResultListView.h"
 #include "ResultTableModel.h"
 #include "Settings.h"
+#include "results/ResultsFile.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -173,6 +174,22 @@ void drawResultWindows(Settings &settings, const QString &corpus, const QString 
     filtered->applyFilter();
     selectRow(filtered, 0);
     save(filtered, output, QStringLiteral("results-filter.png"));
+
+    // Saved results opened again after one of the photos was removed: it shows as missing.
+    Dupes *saved = search(settings, DetectionMode::Content, {photos, corpus});
+    const QString file = scratch + QStringLiteral("/Photos.selfsame");
+    saved->saveResults(file);
+    const QString removed = saved->resultModel().mainItems().first()->path;
+    delete saved;
+    QFile::remove(removed);
+    ResultsFile::Loaded loaded = ResultsFile::load(file);
+    auto *reopened = new Dupes(settings);
+    reopened->resize(1180, 640);
+    reopened->show();
+    reopened->showSavedResults(std::move(*loaded.model), file);
+    reopened->changeListSize(32);
+    selectRow(reopened, 1);
+    save(reopened, output, QStringLiteral("results-reopened.png"));
 }
 
 } // namespace selfsame
