@@ -355,15 +355,8 @@ void Dupes::showSavedResults(ResultModel model, const QString &file)
 {
     prepareWindow(model.request());
     m_model = std::move(model);
-    for (const ResultItem &item : m_model.allItems()) {
-        const QString replaced = replacedStatus(item);
-        if (!replaced.isEmpty())
-            setStatusImage(&item, replaced);
-        else if (!item.trashedURL().isEmpty())
-            setStatusImage(&item, QStringLiteral("trashed"));
-        else if (item.has(Deleted))
-            setStatusImage(&item, QStringLiteral("deleted"));
-    }
+    for (const ResultItem &item : std::as_const(m_model.allItems()))
+        if (!item.statusImage().isEmpty()) setStatusImage(&item, item.statusImage());
     setWindowFilePath(file);
     showResults();
 }

@@ -231,7 +231,6 @@ bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool ch
                     m_failures.append({d, why});
                     continue;
                 }
-                d->set(Cloned);
                 m_cloned.append(d);
                 d->setStatusImage(QStringLiteral("cloned"));
             }

@@ -140,7 +140,6 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
             }
         }
         if (!outcome.status.isEmpty()) item->setStatusImage(outcome.status);
-        if (!outcome.status.isEmpty()) setReplacedStatus(*item, outcome.status);
         report.outcomes.append(outcome);
     }
     return report;

@@ -14,7 +14,7 @@ bool changed(const ResultItem &item)
 {
     struct stat st;
     if (::lstat(item.path.toUtf8().constData(), &st) != 0) return true;
-    if (!replacedStatus(item).isEmpty()) return false;
+    if (!item.statusImage().isEmpty()) return false; // a link or clone stands there now
     if (quint64(st.st_ino) != item.inode) return true;
     if (item.has(IsFolder)) return !S_ISDIR(st.st_mode);
     return qint64(st.st_size) != item.size || qint64(st.st_mtim.tv_sec) != item.modified;

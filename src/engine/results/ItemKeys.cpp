@@ -160,8 +160,6 @@ const std::array kKeys = {
     ItemKey{"icon",
             [](const ResultItem &i) { return i.statusImage().isEmpty() ? QVariant() : QVariant(i.statusImage()); },
             [](const ResultItem &a, const ResultItem &b) { return order(a.statusImage(), b.statusImage()); }},
-    ItemKey{"replaced", [](const ResultItem &i) { const QString s = replacedStatus(i); return s.isEmpty() ? QVariant() : QVariant(s); },
-            [](const ResultItem &a, const ResultItem &b) { return order(replacedStatus(a), replacedStatus(b)); }},
     FLAG_KEY("missing", Missing),
 };
 

@@ -1,7 +1,6 @@
 #include "results/ResultItem.h"
 
 #include <cmath>
-#include <utility>
 
 namespace selfsame
 {
@@ -17,26 +16,6 @@ QString ResultItem::parentPath() const
     if (parentPathStart == 0) return folder();
     const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
     return parentPathStart < slash ? path.mid(parentPathStart, slash - parentPathStart) : QString();
-}
-
-namespace
-{
-constexpr std::pair<ItemFlag, const char16_t *> kReplacements[] = {
-    {Aliased, u"aliased"}, {HardLinked, u"hard linked"}, {Cloned, u"cloned"}};
-} // namespace
-
-QString replacedStatus(const ResultItem &item)
-{
-    for (const auto &[flag, name] : kReplacements)
-        if (item.has(flag)) return QString::fromUtf16(name);
-    return {};
-}
-
-bool setReplacedStatus(ResultItem &item, QStringView status)
-{
-    for (const auto &[flag, name] : kReplacements)
-        item.set(flag, status == QStringView(name));
-    return !replacedStatus(item).isEmpty();
 }
 
 namespace

@@ -37,12 +37,8 @@ enum ItemFlag : quint16 {
     HasAllocDigest = 1 << 6,
     AlternateColor = 1 << 7, // every other group, when the top list is shown grouped
     Deleted = 1 << 8,
-    // Replaced after its removal (the state images "aliased", "hard linked", "cloned").
-    Aliased = 1 << 9,
-    HardLinked = 1 << 10,
-    Cloned = 1 << 11,
     // Gone or changed since the search, as found when saved results were opened again.
-    Missing = 1 << 12,
+    Missing = 1 << 9,
 };
 
 // The status of a bottom-list row relative to the item selected in the top list.
@@ -143,11 +139,5 @@ private:
     Extra &extra();
     ExtraPtr m_extra;
 };
-
-// The replacement an item got, as its state image name; empty when it was not replaced.
-QString replacedStatus(const ResultItem &item);
-// Sets the replacement from its state image name ("aliased", "hard linked", "cloned");
-// false for any other text, which leaves the item unreplaced.
-bool setReplacedStatus(ResultItem &item, QStringView status);
 
 } // namespace selfsame

@@ -77,7 +77,7 @@ template <std::size_t N> bool readHex(json::Element value, std::array<std::uint8
 enum class Key {
     Path, Size, PhysicalSize, Modified, LastUsed, Attributes, Created, AddedDate, Device, Inode,
     TagList, Duration, Latitude, Longitude, Spotlight, PixelSize, Codecs, Bitrate, ItemCount,
-    Digest, AllocDigest, TrashedURL, Replaced, Flag,
+    Digest, AllocDigest, TrashedURL, StatusImage, Flag,
 };
 
 std::optional<Key> keyNamed(std::string_view name)
@@ -91,7 +91,7 @@ std::optional<Key> keyNamed(std::string_view name)
             {"latitude", Key::Latitude},   {"longitude", Key::Longitude}, {"spotlight", Key::Spotlight},
             {"pixelSize", Key::PixelSize}, {"codecs", Key::Codecs},     {"bitrate", Key::Bitrate},
             {"itemCount", Key::ItemCount}, {"digest", Key::Digest},     {"allocDigest", Key::AllocDigest},
-            {"trashedURL", Key::TrashedURL}, {"replaced", Key::Replaced}};
+            {"trashedURL", Key::TrashedURL}, {"statusImage", Key::StatusImage}};
         for (const auto &[name, flag] : kFlags)
             t.emplace(name, Key::Flag);
         return t;
@@ -153,7 +153,7 @@ void writeItem(JsonWriter &json, const ResultItem &item)
     if (!item.codecs().isEmpty()) json.field("codecs", item.codecs());
     if (item.bitrate() != 0.0) json.field("bitrate", item.bitrate());
     if (!item.trashedURL().isEmpty()) json.field("trashedURL", item.trashedURL());
-    if (const QString replaced = replacedStatus(item); !replaced.isEmpty()) json.field("replaced", replaced);
+    if (!item.statusImage().isEmpty()) json.field("statusImage", item.statusImage());
 }
 
 bool readItem(const simdjson::dom::object &object, ResultItem &item, QString *error)
@@ -205,7 +205,7 @@ bool readItem(const simdjson::dom::object &object, ResultItem &item, QString *er
         case Key::Digest: ok = readHex(value, item.digest); item.set(HasDigest, ok); break;
         case Key::AllocDigest: ok = readHex(value, item.allocDigest); item.set(HasAllocDigest, ok); break;
         case Key::TrashedURL: ok = store(json::string(value), [&](const QString &t) { item.setTrashedURL(t); }); break;
-        case Key::Replaced: ok = setReplacedStatus(item, json::string(value).value_or(QString())); break;
+        case Key::StatusImage: ok = store(json::string(value), [&](const QString &t) { item.setStatusImage(t); }); break;
         case Key::Flag:
             for (const auto &[flagName, flag] : kFlags)
                 if (name == flagName) ok = store(json::flag(value), [&](bool on) { item.set(flag, on); });

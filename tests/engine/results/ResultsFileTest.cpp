@@ -25,7 +25,7 @@ const char *const kStoredKeys[] = {
     "created",  "tagList",   "duration",     "latitude", "longitude",   "spotlight", "pixelSize",
     "codecs",   "bitrate",   "read-only",    "other owner", "isSymlink", "isFolder", "isPackage",
     "digest",   "allocDigest", "itemCount",  "group",    "dupes",       "trashedURL", "deleted",
-    "replaced"};
+    "icon"};
 
 Digest digestOf(int seed)
 {
@@ -108,7 +108,7 @@ TEST(ResultsFile, EveryStoredKeyStateAndRequestParameterSurvives)
     items[3].setItemCount(17);
     items[4].setTrashedURL(QStringLiteral("/home/u/.local/share/Trash/files/f2a.dat"));
     items[5].set(Deleted);
-    setReplacedStatus(items[5], u"hard linked");
+    items[5].setStatusImage(QStringLiteral("hard linked"));
 
     SearchRequest request = requestFor(tree);
     request.findAllDupesForSingleFiles = true;
@@ -202,16 +202,16 @@ TEST(ResultsFile, ResultsSavedAfterActionsReopenWithTheSameMarks)
     ResultItem *deleted = model.mainItemsSorted()[2];
     ASSERT_EQ(performDeleteAction(DeleteKind::Delete, ReplaceWithHardLink, reference, {linked}).replacementFailures, 0);
     ASSERT_EQ(performDeleteAction(DeleteKind::Delete, ReplaceWithNone, nullptr, {deleted}).removalFailures, 0);
-    ASSERT_EQ(replacedStatus(*linked), QStringLiteral("hard linked"));
+    ASSERT_EQ(linked->statusImage(), QStringLiteral("hard linked"));
 
     ResultsFile::Loaded loaded;
     ASSERT_EQ(saveAndReload(model, tree, &loaded), QString());
     const ResultItem *linkedBack = withPath(*loaded.model, linked->path);
     const ResultItem *deletedBack = withPath(*loaded.model, deleted->path);
     EXPECT_TRUE(linkedBack->has(Deleted));
-    EXPECT_EQ(replacedStatus(*linkedBack), QStringLiteral("hard linked"));
+    EXPECT_EQ(linkedBack->statusImage(), QStringLiteral("hard linked"));
     EXPECT_TRUE(deletedBack->has(Deleted));
-    EXPECT_EQ(replacedStatus(*deletedBack), QString());
+    EXPECT_EQ(deletedBack->statusImage(), QStringLiteral("deleted"));
     // A replaced file has a new inode and a deleted one is gone: neither is missing.
     EXPECT_FALSE(linkedBack->has(Missing));
     EXPECT_FALSE(deletedBack->has(Missing));
