@@ -17,6 +17,7 @@
 
 #include "search/DigestCache.h"
 #include "search/DuplicateSearch.h"
+#include "search/ExactSizeIndex.h"
 
 #include <QAction>
 #include <QApplication>
@@ -324,6 +325,13 @@ Dupes *AppDelegate::searchInFolderURLs(const QStringList &paths)
     connect(dupes, &Dupes::finishedSearching, this, &AppDelegate::dupesFinishedSearching);
     updateDock();
     dupes->show();
+    if (start.request->findAllDupesForSingleFiles) {
+        // Copies of single files are looked for on the volumes of every location, switched on or off.
+        QStringList designated = paths;
+        for (const Location &location : m_sources->locations())
+            designated.append(location.path);
+        dupes->setSingleFileScope(volumeRoots(designated));
+    }
     dupes->searchInFolderURLs(*start.request);
     return dupes;
 }

@@ -37,6 +37,8 @@ public:
 
     // Starts a search; the lists fill when it is done.
     void searchInFolderURLs(const SearchRequest &request);
+    // Where copies of the request's single files are looked for; empty: their own volumes.
+    void setSingleFileScope(const QStringList &folders) { m_search.setSingleFileScope(folders); }
     // Shows results that are already complete, without a search.
     void showFinishedResults(QList<ResultItem> items, const SearchRequest &request);
     // Shows saved results as they were saved: the same lists, hidden items and marks of what

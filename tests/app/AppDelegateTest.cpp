@@ -8,6 +8,7 @@
 #include "Settings.h"
 #include "WelcomePanel.h"
 #include "fileops/Trash.h"
+#include "support/MountedVolume.h"
 #include "support/TempTree.h"
 
 #include <QApplication>
@@ -143,6 +144,44 @@ TEST(AppDelegate, NestedLocationsAndTheSingleFileOption)
     EXPECT_TRUE(singleFiles->isEnabled());
     w.addURLs({tree.path(QStringLiteral("one.jpg"))}, false, false, true);
     EXPECT_FALSE(singleFiles->isEnabled());
+}
+
+TEST(AppDelegate, CopiesOfASingleFileAreLookedForOnTheVolumesOfSwitchedOffLocationsToo)
+{
+    // The desktop's index knows nothing of volumes mounted a moment ago: the walk answers.
+    QTemporaryDir noBus;
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + QFile::encodeName(noBus.filePath(QStringLiteral("bus"))));
+    MountedVolume photos(QStringLiteral("tmpfs")), backup(QStringLiteral("tmpfs"));
+    for (MountedVolume *volume : {&photos, &backup})
+        if (const QString reason = volume->mount(); !reason.isEmpty())
+            GTEST_SKIP() << reason.toStdString();
+    const QByteArray bytes = patternBytes(50'000, 7);
+    auto write = [](const QString &path, const QByteArray &content) {
+        QDir().mkpath(QFileInfo(path).path());
+        QFile file(path);
+        return file.open(QIODevice::WriteOnly) && file.write(content) == content.size();
+    };
+    const QString original = photos.path(QStringLiteral("2024/beach.jpg"));
+    const QString copy = backup.path(QStringLiteral("old/beach copy.jpg"));
+    ASSERT_TRUE(write(original, bytes) && write(copy, bytes) &&
+                write(backup.path(QStringLiteral("old/other.jpg")), patternBytes(50'000, 8)));
+
+    MainWindow m;
+    AppDelegate &w = m.open();
+    w.addURLs({backup.path(QStringLiteral("old"))}, false, false, true);
+    w.addURLs({original}, true, false, true);
+    auto *singleFiles = w.findChild<QCheckBox *>(QStringLiteral("findAllDupesForSingleFilesBtn"));
+    ASSERT_TRUE(singleFiles && singleFiles->isEnabled());
+    singleFiles->setChecked(true);
+    Dupes *dupes = w.searchInFolderURLs(w.sources()->enabledPaths());
+    ASSERT_TRUE(dupes && waitForSearches(w));
+    QStringList found;
+    for (const ResultItem *item : dupes->resultModel().mainItems())
+        found.append(item->path);
+    QStringList expected{original, copy};
+    found.sort();
+    expected.sort();
+    EXPECT_EQ(found.join(u'\n').toStdString(), expected.join(u'\n').toStdString());
 }
 
 TEST(AppDelegate, DroppedItemsAreAppendedEnabledAndSelected)

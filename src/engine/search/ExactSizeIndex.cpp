@@ -41,6 +41,15 @@ QString volumeRoot(const QString &path)
     }
 }
 
+QStringList volumeRoots(const QStringList &paths)
+{
+    QStringList roots;
+    for (const QString &path : paths)
+        roots.append(volumeRoot(path));
+    roots.removeDuplicates();
+    return roots;
+}
+
 std::unique_ptr<ExactSizeIndex> ExactSizeIndex::create(const QStringList &scope, const SearchRequest &request,
                                                        RunContext &context)
 {
@@ -50,12 +59,7 @@ std::unique_ptr<ExactSizeIndex> ExactSizeIndex::create(const QStringList &scope,
                                                  QLatin1String(TrackerIndex::kMinerService), scope,
                                                  context.searchingState))
             return tracker;
-    QStringList folders = scope;
-    if (folders.isEmpty()) {
-        for (const QString &location : request.searchInFolderURLs)
-            folders.append(volumeRoot(location));
-        folders.removeDuplicates();
-    }
+    const QStringList folders = scope.isEmpty() ? volumeRoots(request.searchInFolderURLs) : scope;
     return std::make_unique<VolumeScanIndex>(folders, request.skipHiddenFiles, context);
 }
 

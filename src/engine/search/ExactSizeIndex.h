@@ -42,5 +42,7 @@ private:
 
 // The top folder of the volume that holds `path` (the highest folder on its device).
 QString volumeRoot(const QString &path);
+// The volumes that hold `paths`, each once.
+QStringList volumeRoots(const QStringList &paths);
 
 } // namespace selfsame
