@@ -36,7 +36,17 @@ constexpr std::size_t kMaxOpenFiles = 128;
 // What one hashing thread owns: its buffers and its counts.
 struct ContentHasher::Worker {
     ReadBuffer buffer;
-    std::vector<char> chunks; // side-by-side chunks of one bucket
+    // Side-by-side chunks of one bucket; never zero-filled, every byte used is read first.
+    std::unique_ptr<char[]> chunks;
+    std::size_t chunksSize = 0;
+    char *chunkSpace(std::size_t bytes)
+    {
+        if (bytes > chunksSize) {
+            chunks.reset(new char[bytes]);
+            chunksSize = bytes;
+        }
+        return chunks.get();
+    }
     std::vector<qint64> allocStorage;
     SearchStatistics statistics;
     KnownDigests::Batch learnt;
@@ -98,7 +108,7 @@ template <typename Job> void ContentHasher::parallel(std::size_t count, Job job)
         thread.join();
 }
 
-void ContentHasher::hash(std::vector<ContentNode> &nodes, const std::vector<SizeRun> &runs)
+void ContentHasher::hash(ContentNodes &nodes, const std::vector<SizeRun> &runs)
 {
     m_needsDigest.assign(nodes.size(), m_sampleFirst ? 0 : 1);
     std::vector<std::pair<std::size_t, std::size_t>> followers; // (hard link, first path of its inode)
@@ -166,7 +176,7 @@ void ContentHasher::hash(std::vector<ContentNode> &nodes, const std::vector<Size
     }
 }
 
-void ContentHasher::hashSize(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker)
+void ContentHasher::hashSize(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker)
 {
     // Files of one size split by whether their header is left out: they hash other bytes.
     std::vector<std::size_t> whole[2];
@@ -190,7 +200,7 @@ void ContentHasher::hashSize(std::vector<ContentNode> &nodes, const std::vector<
     }
 }
 
-void ContentHasher::hashWhole(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker)
+void ContentHasher::hashWhole(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker)
 {
     std::vector<std::size_t> unknown, fingerprinted;
     for (std::size_t i : files) {
@@ -216,7 +226,7 @@ void ContentHasher::hashWhole(std::vector<ContentNode> &nodes, const std::vector
     readUnlessUnique(nodes, files, fingerprinted, false, worker);
 }
 
-void ContentHasher::readUnlessUnique(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &group,
+void ContentHasher::readUnlessUnique(ContentNodes &nodes, const std::vector<std::size_t> &group,
                                      const std::vector<std::size_t> &fingerprinted, bool othersUnknown,
                                      Worker &worker)
 {
@@ -259,8 +269,8 @@ void ContentHasher::readUnlessUnique(std::vector<ContentNode> &nodes, const std:
         hashBucket(nodes, shared, {}, worker);
 }
 
-void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
-                                Worker &worker, std::vector<std::pair<std::size_t, quint64>> &freshSamples)
+void ContentHasher::hashSampled(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker,
+                                std::vector<std::pair<std::size_t, quint64>> &freshSamples)
 {
     if (files.empty())
         return;
@@ -349,8 +359,7 @@ void ContentHasher::hashSampled(std::vector<ContentNode> &nodes, const std::vect
     }
 }
 
-void ContentHasher::completeKnown(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
-                                  Worker &worker)
+void ContentHasher::completeKnown(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker)
 {
     std::vector<std::size_t> digested;
     for (std::size_t i : files)
@@ -392,8 +401,9 @@ void ContentHasher::completeKnown(std::vector<ContentNode> &nodes, const std::ve
     }
 }
 
-void ContentHasher::recordLearnt(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
-                                 const std::vector<std::pair<std::size_t, quint64>> &freshSamples, Worker &worker)
+void ContentHasher::recordLearnt(const ContentNodes &nodes, const std::vector<std::size_t> &files,
+                                 const std::vector<std::pair<std::size_t, quint64>> &freshSamples,
+                                 Worker &worker)
 {
     std::sort(worker.fingerprints.begin(), worker.fingerprints.end());
     std::stable_sort(worker.placed.begin(), worker.placed.end(),
@@ -439,7 +449,7 @@ void ContentHasher::recordLearnt(const std::vector<ContentNode> &nodes, const st
     }
 }
 
-void ContentHasher::hashAlone(std::vector<ContentNode> &nodes, std::size_t index, Worker &worker)
+void ContentHasher::hashAlone(ContentNodes &nodes, std::size_t index, Worker &worker)
 {
     ContentNode &node = nodes[index];
     const std::string path = m_entries.path(m_entries[node.entry]);
@@ -469,15 +479,34 @@ void ContentHasher::hashAlone(std::vector<ContentNode> &nodes, std::size_t index
     reportProgress(node);
 }
 
-void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &bucket,
+bool ContentHasher::readRest(int fd, qint64 offset, qint64 size, Fingerprinter &fingerprint, Worker &worker)
+{
+    while (offset < size) {
+        if (fd < 0 || m_context.aborted())
+            return false;
+        const std::size_t want = std::size_t(std::min<qint64>(qint64(worker.buffer.size()), size - offset));
+        const ssize_t got = readAt(fd, worker.buffer.data(), want, offset);
+        if (got > 0) {
+            worker.statistics.bytesRead += got;
+            fingerprint.update(worker.buffer.data(), std::size_t(got));
+        }
+        if (got != ssize_t(want))
+            return false; // shorter than enumerated: it changed meanwhile
+        offset += got;
+    }
+    return true;
+}
+
+void ContentHasher::hashBucket(ContentNodes &nodes, const std::vector<std::size_t> &bucket,
                                const std::vector<int> &openFiles, Worker &worker)
 {
     const qint64 size = nodes[bucket.front()].size;
     const qint64 start = size - hashedLength(nodes[bucket.front()]);
     const std::size_t count = bucket.size();
-    const bool oneChunk = size - start <= qint64(worker.buffer.size());
-    // Side by side, all files of the bucket are in memory at once, or open at once.
-    if ((!oneChunk && count > kMaxOpenFiles) || (oneChunk && qint64(count) * (size - start) > kMaxBucketBytes)) {
+    // Small files that fit in memory together are read whole; others chunk by chunk, all open at once.
+    const bool oneChunk =
+        size - start <= qint64(worker.buffer.size()) && qint64(count) * (size - start) <= kMaxBucketBytes;
+    if (!oneChunk && count > kMaxOpenFiles) {
         for (std::size_t node : bucket)
             hashAlone(nodes, node, worker);
         return;
@@ -494,8 +523,8 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
         bool done = false;
     };
     std::vector<Member> members;
-    worker.chunks.resize(count * chunk);
-    auto bytesOf = [&](std::size_t m) { return worker.chunks.data() + m * chunk; };
+    char *const space = worker.chunkSpace(count * chunk);
+    auto bytesOf = [&](std::size_t m) { return space + m * chunk; };
     // Files too many to keep open are read at once and closed, the descriptors being scarce.
     const bool readAtOnce = oneChunk && count > kMaxOpenFiles;
     for (std::size_t k = 0; k < count; ++k) {
@@ -595,8 +624,10 @@ void ContentHasher::hashBucket(std::vector<ContentNode> &nodes, const std::vecto
                 if (part.fingerprint)
                     part.fingerprint->update(bytesOf(ms[begin]), std::size_t(first.got));
                 if (end - begin == 1 && !m_needsDigest[first.node]) {
-                    // Read to its end, it is known by its fingerprint at the next search.
-                    if (part.fingerprint && offset + qint64(want) >= size && first.got == qint64(want))
+                    // Read to its end, it is known by its fingerprint at the next search; one told
+                    // apart halfway is read on for it, or every later search would read it again.
+                    if (part.fingerprint && first.got == qint64(want) &&
+                        readRest(members[ms[begin]].fd, offset + qint64(want), size, *part.fingerprint, worker))
                         worker.fingerprints.emplace_back(first.node, part.fingerprint->final());
                     drop(ms[begin]);
                 } else {

@@ -36,11 +36,11 @@ public:
     ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst,
                   qint64 walkStartedNs = 0);
 
-    void hash(std::vector<ContentNode> &nodes, const std::vector<SizeRun> &runs);
+    void hash(ContentNodes &nodes, const std::vector<SizeRun> &runs);
 
     static constexpr qint64 kSampleSize = 4096;
     // Files of one size compared side by side hold at most this much in memory together.
-    static constexpr qint64 kMaxBucketBytes = qint64(64) << 20;
+    static constexpr qint64 kMaxBucketBytes = qint64(4) << 20;
 
     // User tags of the digested files that have any, read while they were open.
     std::vector<std::pair<std::size_t, QStringList>> takeTags() { return std::move(m_tags); }
@@ -49,22 +49,25 @@ private:
     struct Worker;
 
     // All files of one size: sampled, split by their samples, and digested where they agree.
-    void hashSize(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker);
-    void hashWhole(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker);
-    void hashSampled(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker,
+    void hashSize(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker);
+    void hashWhole(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker);
+    void hashSampled(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker,
                      std::vector<std::pair<std::size_t, quint64>> &freshSamples);
     // Files the cache knows by their fingerprint alone are read only when another file of
     // `group` has the same fingerprint, or one whose fingerprint is unknown (`othersUnknown`).
-    void readUnlessUnique(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &group,
+    void readUnlessUnique(ContentNodes &nodes, const std::vector<std::size_t> &group,
                           const std::vector<std::size_t> &fingerprinted, bool othersUnknown, Worker &worker);
     // Files that took their digest from the cache and may join a group: allocation digest and tags.
-    void completeKnown(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files, Worker &worker);
-    void recordLearnt(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &files,
+    void completeKnown(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker);
+    void recordLearnt(const ContentNodes &nodes, const std::vector<std::size_t> &files,
                       const std::vector<std::pair<std::size_t, quint64>> &freshSamples, Worker &worker);
     // Files that may share their content; `openFiles` holds their descriptors when already open.
-    void hashBucket(std::vector<ContentNode> &nodes, const std::vector<std::size_t> &bucket,
+    void hashBucket(ContentNodes &nodes, const std::vector<std::size_t> &bucket,
                     const std::vector<int> &openFiles, Worker &worker);
-    void hashAlone(std::vector<ContentNode> &nodes, std::size_t index, Worker &worker);
+    // Feeds the fingerprint the bytes of an open file from `offset` to `size`; false when it
+    // could not read them all.
+    bool readRest(int fd, qint64 offset, qint64 size, Fingerprinter &fingerprint, Worker &worker);
+    void hashAlone(ContentNodes &nodes, std::size_t index, Worker &worker);
     template <typename Job> void parallel(std::size_t count, Job job);
     qint64 hashedLength(const ContentNode &node) const;
     void reportProgress(const ContentNode &node);

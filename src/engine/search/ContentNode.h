@@ -1,6 +1,7 @@
 #pragma once
 
 #include "results/ResultItem.h"
+#include "search/LargeBlockAllocator.h"
 
 #include <memory>
 
@@ -45,5 +46,8 @@ private:
     }
     std::unique_ptr<Digests> m_digests;
 };
+
+// The candidates of one search: one node per file that shares its size with another.
+using ContentNodes = LargeVector<ContentNode>;
 
 } // namespace selfsame

@@ -39,7 +39,8 @@ bool liesInside(const std::vector<std::string> &folders, const std::string &path
 
 } // namespace
 
-ContentSearch::ContentSearch(const SearchRequest &request, const EnumerationResult &enumeration, RunContext &context)
+ContentSearch::ContentSearch(const SearchRequest &request, EnumerationResult &enumeration,
+                             RunContext &context)
     : m_request(request), m_enumeration(enumeration), m_entries(enumeration.entries), m_context(context)
 {
 }
@@ -300,23 +301,44 @@ std::vector<ContentSearch::Member> ContentSearch::filterDuplicateFolderContents(
 
 QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
 {
-    QList<ResultItem> items;
-    items.reserve(qsizetype(members.size()));
+    // The members' own records first: the tables of every candidate and every entry go before
+    // the items take their place, so that a large search never holds both at once.
+    struct Made {
+        ContentNode node;
+        FileEntry entry;
+        QStringList tags;
+    };
+    std::vector<Made> made;
+    made.reserve(members.size());
     for (const Member &member : members) {
         ContentNode &node = m_nodes[member.node];
-        const FileEntry &entry = m_entries[node.entry];
-        ResultItem item = m_entries.resultItem(entry);
+        QStringList tags;
+        if (const auto found = m_tags.find(member.node); found != m_tags.end())
+            tags = std::move(found->second); // read by the hasher while the file was open
+        const FileEntry entry = m_entries[node.entry];
+        made.push_back({std::move(node), entry, std::move(tags)});
+    }
+    ContentNodes().swap(m_nodes);
+    decltype(m_tags)().swap(m_tags);
+    std::vector<std::string>().swap(m_paths);
+    m_entries.releaseEntries();
+
+    QList<ResultItem> items;
+    items.reserve(qsizetype(members.size()));
+    for (std::size_t k = 0; k < made.size(); ++k) {
+        ContentNode &node = made[k].node;
+        ResultItem item = m_entries.resultItem(made[k].entry);
         item.size = node.size; // a compared folder's sums
         item.physicalSize = node.physicalSize;
         if (node.has(IsFolder))
             item.setTagList(readUserTags(item.path.toUtf8().constData()));
-        else if (const auto tags = m_tags.find(member.node); tags != m_tags.end())
-            item.setTagList(tags->second); // read by the hasher while the file was open
+        else
+            item.setTagList(std::move(made[k].tags));
         item.digest = node.has(HasDigest) ? node.digest() : Digest{};
         item.allocDigest = node.has(HasAllocDigest) ? allocationKey(node.allocDigest()) : AllocationKey{};
         item.setItemCount(node.itemCount);
-        item.group = member.group;
-        item.dupes = member.dupes;
+        item.group = members[k].group;
+        item.dupes = members[k].dupes;
         item.flags = node.flags;
         node.releaseDigests();
         items.push_back(std::move(item));

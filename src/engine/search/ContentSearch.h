@@ -18,7 +18,8 @@ namespace selfsame {
 // whatever lies inside a duplicate folder is dropped.
 class ContentSearch {
 public:
-    ContentSearch(const SearchRequest &request, const EnumerationResult &enumeration, RunContext &context);
+    // The enumeration's entries are released once the result items are made from them.
+    ContentSearch(const SearchRequest &request, EnumerationResult &enumeration, RunContext &context);
 
     // Steps 2 to 6 of a content search, then the clean-up: the grouped items in group order.
     QList<ResultItem> run();
@@ -41,9 +42,9 @@ private:
 
     const SearchRequest &m_request;
     const EnumerationResult &m_enumeration;
-    const EntryTable &m_entries;
+    EntryTable &m_entries;
     RunContext &m_context;
-    std::vector<ContentNode> m_nodes;
+    ContentNodes m_nodes;
     std::vector<std::string> m_paths;       // full path of every node, with folder comparison only
     std::vector<std::string> m_duplicateFolders; // each with "/" appended
     std::unordered_map<std::size_t, QStringList> m_tags; // user tags of the files that have any

@@ -31,10 +31,10 @@ void EntryTable::append(const EntryBatch &batch)
 {
     const quint32 base = quint32(m_names.size());
     m_names.append(batch.names);
-    for (FileEntry entry : batch.entries) {
-        entry.nameOffset += base;
-        m_entries.push_back(entry);
-    }
+    const std::size_t first = m_entries.size();
+    m_entries.insert(m_entries.end(), batch.entries.begin(), batch.entries.end());
+    for (std::size_t i = first; i < m_entries.size(); ++i)
+        m_entries[i].nameOffset += base;
 }
 
 void EntryTable::keepWithMetadata(std::vector<std::optional<ItemMetadata>> metadata)

@@ -2,9 +2,9 @@
 
 #include "results/ResultItem.h"
 #include "search/ItemMetadata.h"
+#include "search/LargeBlockAllocator.h"
 
 #include <QString>
-
 #include <optional>
 #include <string>
 #include <string_view>
@@ -59,6 +59,9 @@ public:
         m_metadata.shrink_to_fit();
     }
 
+    // Drops the entries but keeps folders and names: paths of entries copied out still resolve.
+    void releaseEntries() { LargeVector<FileEntry>().swap(m_entries); }
+
     std::size_t size() const { return m_entries.size(); }
     const FileEntry &operator[](std::size_t i) const { return m_entries[i]; }
     FileEntry &operator[](std::size_t i) { return m_entries[i]; }
@@ -78,8 +81,8 @@ public:
     int comparePaths(const FileEntry &a, const FileEntry &b) const;
 
 private:
-    std::vector<FileEntry> m_entries;
-    std::string m_names;
+    LargeVector<FileEntry> m_entries;
+    LargeString m_names;
     std::vector<ItemMetadata> m_metadata;
     std::vector<std::string> m_folders;
 };

@@ -36,7 +36,7 @@ bool KnownDigests::keepsPlacement(const ContentNode &node) const
     return at->second;
 }
 
-void KnownDigests::lookUp(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &candidates,
+void KnownDigests::lookUp(const ContentNodes &nodes, const std::vector<std::size_t> &candidates,
                           const std::vector<char> &headerSkipped)
 {
     if (!m_cache)
@@ -51,7 +51,10 @@ void KnownDigests::lookUp(const std::vector<ContentNode> &nodes, const std::vect
         asked.push_back(node);
     }
     m_index.assign(nodes.size(), 0);
+    // Reserved whole: growing them would copy every record again.
     m_known.reserve(keys.size());
+    m_digests.reserve(keys.size());
+    m_attributes.reserve(keys.size());
     m_cache->lookup(keys, [&](std::size_t i, CachedDigest value) {
         Known known;
         known.hasSample = value.sample.has_value();

@@ -19,7 +19,7 @@ public:
     bool enabled() const { return m_cache != nullptr; }
 
     // `headerSkipped` tells for each node whether its digest leaves out the MP4 header.
-    void lookUp(const std::vector<ContentNode> &nodes, const std::vector<std::size_t> &candidates,
+    void lookUp(const ContentNodes &nodes, const std::vector<std::size_t> &candidates,
                 const std::vector<char> &headerSkipped);
     // What the cache knew of the node, if anything.
     std::optional<CachedDigest> known(std::size_t node) const;
@@ -51,9 +51,9 @@ private:
         bool hasSample = false;
         bool hasFingerprint = false;
     };
-    std::vector<quint32> m_index; // per node: 1 + position in m_known, 0 when unknown
-    std::vector<Known> m_known;
-    std::vector<Digest> m_digests;
+    LargeVector<quint32> m_index; // per node: 1 + position in m_known, 0 when unknown
+    LargeVector<Known> m_known;
+    LargeVector<Digest> m_digests;
     std::vector<CachedDigest::Attributes> m_attributes;
     mutable std::mutex m_volumesMutex;
     mutable std::unordered_map<quint64, bool> m_keepsPlacement; // per device

@@ -42,7 +42,7 @@ QList<ResultItem> SearchRun::run()
     });
     if (readsMetadata)
         enumerator.setMetadataFilter(&metadataFilter);
-    const EnumerationResult enumeration = enumerator.run();
+    EnumerationResult enumeration = enumerator.run();
     m_context.statistics.someDurationFound = metadataFilter.someDurationFound();
     m_context.statistics.someSpotlightValueFound = metadataFilter.someSpotlightValueFound();
     m_context.statistics.enumerated = enumeration.enumerated;

@@ -1,3 +1,4 @@
+#include "search/ContentHasher.h"
 #include "support/SearchHarness.h"
 #include "support/TempTree.h"
 
@@ -26,5 +27,41 @@ TEST(ManyFilesOfOneSize, AreComparedWithoutKeepingThemAllOpen)
     EXPECT_EQ(QSet<QString>(groups.begin(), groups.end()), QSet<QString>(expected.begin(), expected.end()));
     EXPECT_EQ(harness.context.statistics.unreadableFiles, 0);
 }
+
+// Files of one size too many bytes to hold together: compared chunk by chunk while all are open,
+// or, when they are also too many to keep open, each digested on its own. Copies and files
+// that differ from them only in the middle (same first and last bytes) must still split.
+class BucketsOverTheMemoryLimit : public testing::TestWithParam<std::pair<int, int>>
+{
+};
+
+TEST_P(BucketsOverTheMemoryLimit, StillSplitWhereTheBytesDiffer)
+{
+    const auto [count, size] = GetParam();
+    ASSERT_GT(qint64(count) * size, ContentHasher::kMaxBucketBytes);
+    TempTree tree;
+    QSet<QString> expected;
+    for (int i = 0; i < count; ++i) {
+        // Every third file copies the one before it; every third after that differs from it in
+        // one byte halfway through.
+        QByteArray bytes = patternBytes(size, i - i % 3);
+        if (i % 3 == 2) bytes[size / 2] = char(bytes[size / 2] ^ 0x55);
+        tree.file(QStringLiteral("f%1").arg(i, 3, 10, QLatin1Char('0')), bytes);
+        if (i % 3 == 1)
+            expected.insert(QStringLiteral("f%1 f%2")
+                                .arg(i - 1, 3, 10, QLatin1Char('0'))
+                                .arg(i, 3, 10, QLatin1Char('0')));
+    }
+    SearchHarness harness;
+    const QList<ResultItem> items = harness.run({}, tree.path());
+    const QStringList groups =
+        QString::fromStdString(describeGroups(items, tree.path())).split(QStringLiteral(" | "));
+    EXPECT_EQ(QSet<QString>(groups.begin(), groups.end()), expected);
+    for (const ResultItem &item : items)
+        EXPECT_EQ(item.digest, items[item.group * 2].digest) << "a group's members share their digest";
+}
+
+INSTANTIATE_TEST_SUITE_P(SideBySideAndOneByOne, BucketsOverTheMemoryLimit,
+                         testing::Values(std::make_pair(42, 120'000), std::make_pair(150, 40'000)));
 
 } // namespace
