@@ -1,18 +1,50 @@
 #include "format/IsoDate.h"
 
 #include <chrono>
+#include <cstring>
 #include <ctime>
 
 namespace selfsame {
 
-QByteArray isoDate(qint64 seconds)
+IsoDateText isoDateText(qint64 seconds)
 {
+    IsoDateText date;
+    using namespace std::chrono;
+    const qint64 day = seconds >= 0 ? seconds / 86400 : -((-seconds + 86399) / 86400);
+    const year_month_day ymd{sys_days{days{day}}};
+    const int year = int(ymd.year());
+    if (year >= 1000 && year <= 9999) {
+        // Four-digit years, nearly all of them, written directly; strftime is slow for millions.
+        const qint64 inDay = seconds - day * 86400;
+        const int fields[6] = {
+            year / 100,        year % 100,          int(unsigned(ymd.month())), int(unsigned(ymd.day())),
+            int(inDay / 3600), int(inDay / 60 % 60)};
+        char *out = date.text;
+        for (int i = 0; i < 6; ++i) {
+            *out++ = char('0' + fields[i] / 10);
+            *out++ = char('0' + fields[i] % 10);
+            if (i >= 1 && i <= 4) *out++ = "--T:"[i - 1];
+        }
+        *out++ = ':';
+        *out++ = char('0' + inDay % 60 / 10);
+        *out++ = char('0' + inDay % 10);
+        *out++ = 'Z';
+        date.length = out - date.text;
+        return date;
+    }
     const time_t t = time_t(seconds);
     struct tm utc;
-    char text[32];
-    if (!gmtime_r(&t, &utc)) return "1970-01-01T00:00:00Z";
-    const std::size_t n = strftime(text, sizeof(text), "%Y-%m-%dT%H:%M:%SZ", &utc);
-    return QByteArray(text, qsizetype(n));
+    if (!gmtime_r(&t, &utc)) {
+        date.length = qsizetype(std::strlen(std::strcpy(date.text, "1970-01-01T00:00:00Z")));
+        return date;
+    }
+    date.length = qsizetype(strftime(date.text, sizeof(date.text), "%Y-%m-%dT%H:%M:%SZ", &utc));
+    return date;
+}
+
+QByteArray isoDate(qint64 seconds)
+{
+    return isoDateText(seconds).view().toByteArray();
 }
 
 std::optional<qint64> parseIsoDate(std::string_view text)

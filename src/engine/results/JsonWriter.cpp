@@ -1,6 +1,7 @@
 #include "results/JsonWriter.h"
 
 #include <QLocale>
+#include <charconv>
 
 namespace selfsame {
 
@@ -10,7 +11,29 @@ void JsonWriter::value(double number)
     m_out += QByteArray::number(number, 'g', QLocale::FloatingPointShortest);
 }
 
-void JsonWriter::string(const QByteArray &utf8)
+namespace
+{
+
+template <typename Integer> void appendInteger(QByteArray &out, Integer number)
+{
+    char text[24];
+    const char *end = std::to_chars(text, text + sizeof(text), number).ptr;
+    out.append(text, end - text);
+}
+
+} // namespace
+
+void JsonWriter::integer(qint64 number)
+{
+    appendInteger(m_out, number);
+}
+
+void JsonWriter::integer(quint64 number)
+{
+    appendInteger(m_out, number);
+}
+
+void JsonWriter::string(QByteArrayView utf8)
 {
     m_out += '"';
     qsizetype plain = 0; // start of the run of characters that need no escape

@@ -118,16 +118,34 @@ template <typename T, typename Store> bool store(const std::optional<T> &value, 
 
 } // namespace
 
+namespace
+{
+
+// Lower-case hexadecimal of a digest, written without an allocation.
+template <std::size_t N> struct HexText {
+    char text[2 * N];
+    explicit HexText(const std::array<std::uint8_t, N> &bytes)
+    {
+        for (std::size_t i = 0; i < N; ++i) {
+            text[2 * i] = "0123456789abcdef"[bytes[i] >> 4];
+            text[2 * i + 1] = "0123456789abcdef"[bytes[i] & 15];
+        }
+    }
+    QByteArrayView view() const { return {text, qsizetype(2 * N)}; }
+};
+
+} // namespace
+
 void writeItem(JsonWriter &json, const ResultItem &item)
 {
     json.field("path", item.path);
     json.field("size", item.size);
     json.field("physicalSize", item.physicalSize);
-    json.field("modified", isoDate(item.modified));
-    if (item.lastUsed != kNoDate) json.field("lastUsed", isoDate(item.lastUsed));
-    json.field("attributes", isoDate(item.attributes));
-    if (item.created != kNoDate) json.field("created", isoDate(item.created));
-    if (item.addedDate() != kNoDate) json.field("addedDate", isoDate(item.addedDate()));
+    json.field("modified", isoDateText(item.modified).view());
+    if (item.lastUsed != kNoDate) json.field("lastUsed", isoDateText(item.lastUsed).view());
+    json.field("attributes", isoDateText(item.attributes).view());
+    if (item.created != kNoDate) json.field("created", isoDateText(item.created).view());
+    if (item.addedDate() != kNoDate) json.field("addedDate", isoDateText(item.addedDate()).view());
     json.field("device", item.device);
     json.field("inode", item.inode);
     for (const auto &[name, flag] : kFlags)
@@ -140,11 +158,8 @@ void writeItem(JsonWriter &json, const ResultItem &item)
             json.value(tag);
         json.end(']');
     }
-    if (item.has(HasDigest)) json.field("digest", digestToHex(item.digest));
-    if (item.has(HasAllocDigest))
-        json.field("allocDigest", QByteArray(reinterpret_cast<const char *>(item.allocDigest.data()),
-                                             qsizetype(item.allocDigest.size()))
-                                      .toHex());
+    if (item.has(HasDigest)) json.field("digest", HexText(item.digest).view());
+    if (item.has(HasAllocDigest)) json.field("allocDigest", HexText(item.allocDigest).view());
     if (item.duration() != 0.0) json.field("duration", item.duration());
     if (!std::isnan(item.latitude())) json.field("latitude", item.latitude());
     if (!std::isnan(item.longitude())) json.field("longitude", item.longitude());

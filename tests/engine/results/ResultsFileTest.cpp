@@ -12,6 +12,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <ctime>
 #include <gtest/gtest.h>
 
 using namespace selfsame;
@@ -349,6 +350,17 @@ TEST(ResultsFile, IsoDatesReadBackExactlyAndOtherTextsAreRefused)
     for (qint64 seconds : {qint64(0), qint64(-1), qint64(951782400) /* 2000-02-29 */, qint64(4102444799),
                            qint64(-62135596800) /* year 1 */})
         EXPECT_EQ(parseIsoDate(isoDate(seconds).toStdString()), seconds) << isoDate(seconds).toStdString();
+    // Written directly for four-digit years: the same text as the C library's.
+    for (qint64 seconds = -30'000'000'000; seconds < 260'000'000'000; seconds += 7'777'777) {
+        for (const qint64 at : {seconds, seconds - seconds % 86400, seconds - seconds % 86400 - 1}) {
+            const time_t t = time_t(at);
+            struct tm utc;
+            char expected[32];
+            ASSERT_TRUE(gmtime_r(&t, &utc));
+            const std::size_t n = strftime(expected, sizeof(expected), "%Y-%m-%dT%H:%M:%SZ", &utc);
+            ASSERT_EQ(isoDate(at).toStdString(), std::string(expected, n)) << at;
+        }
+    }
     for (const char *bad : {"2024-02-30T00:00:00Z", "2024-01-01 00:00:00Z", "2024-01-01T00:00:00", "x",
                             "2024-01-01T24:00:00Z", "20a4-01-01T00:00:00Z"})
         EXPECT_FALSE(parseIsoDate(bad)) << bad;
