@@ -40,7 +40,7 @@ public:
 
     static constexpr qint64 kSampleSize = 4096;
     // Files of one size compared side by side hold at most this much in memory together.
-    static constexpr qint64 kMaxBucketBytes = qint64(4) << 20;
+    static constexpr qint64 kMaxBucketBytes = qint64(1) << 20;
 
     // User tags of the digested files that have any, read while they were open.
     std::vector<std::pair<std::size_t, QStringList>> takeTags() { return std::move(m_tags); }

@@ -4,8 +4,8 @@
 #include "search/Digest.h"
 
 #include <QCoreApplication>
-
 #include <algorithm>
+#include <malloc.h>
 #include <numeric>
 
 namespace selfsame {
@@ -61,6 +61,7 @@ QList<ResultItem> ContentSearch::run()
         for (auto &[node, tags] : hasher.takeTags())
             m_tags.emplace(node, std::move(tags));
     }
+    malloc_trim(0); // the hashing threads' buffers, kept by their heaps
 
     if (m_request.compareFolders) {
         m_context.beginStep(4, steps, true);
@@ -141,7 +142,22 @@ std::vector<SizeRun> ContentSearch::sortAndDropRepeats()
         }
         begin = end;
     }
+    // Files alone in their size are done with; the hashing needs only the candidates' entries.
+    std::vector<quint32>().swap(order);
+    keepOnlyEntriesOfNodes();
     return runs;
+}
+
+void ContentSearch::keepOnlyEntriesOfNodes()
+{
+    std::vector<quint32> kept;
+    kept.reserve(m_nodes.size());
+    for (const ContentNode &node : m_nodes)
+        kept.push_back(node.entry);
+    std::sort(kept.begin(), kept.end());
+    m_entries.keepOnly(kept);
+    for (ContentNode &node : m_nodes)
+        node.entry = quint32(std::lower_bound(kept.begin(), kept.end(), node.entry) - kept.begin());
 }
 
 const std::string &ContentSearch::nodePath(std::size_t node)
@@ -301,47 +317,67 @@ std::vector<ContentSearch::Member> ContentSearch::filterDuplicateFolderContents(
 
 QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
 {
-    // The members' own records first: the tables of every candidate and every entry go before
-    // the items take their place, so that a large search never holds both at once.
-    struct Made {
-        ContentNode node;
-        FileEntry entry;
-        QStringList tags;
-    };
-    std::vector<Made> made;
-    made.reserve(members.size());
-    for (const Member &member : members) {
-        ContentNode &node = m_nodes[member.node];
-        QStringList tags;
-        if (const auto found = m_tags.find(member.node); found != m_tags.end())
-            tags = std::move(found->second); // read by the hasher while the file was open
-        const FileEntry entry = m_entries[node.entry];
-        made.push_back({std::move(node), entry, std::move(tags)});
+    // The members' nodes and entries are moved to the front of their tables, which then give
+    // the rest of their memory back before the items take their place: a large search never
+    // holds both, nor a copy of what it keeps.
+    std::vector<std::size_t> byNode(members.size());
+    std::iota(byNode.begin(), byNode.end(), 0);
+    std::sort(byNode.begin(), byNode.end(),
+              [&](std::size_t a, std::size_t b) { return members[a].node < members[b].node; });
+    std::vector<std::size_t> slot(members.size()); // per member: its node's place in the kept nodes
+    std::vector<QStringList> tags(members.size());
+    for (std::size_t k = 0; k < byNode.size(); ++k) {
+        const std::size_t m = byNode[k];
+        if (const auto found = m_tags.find(members[m].node); found != m_tags.end())
+            tags[m] = std::move(found->second);           // read by the hasher while the file was open
+        m_nodes[k] = std::move(m_nodes[members[m].node]); // ascending: never over a node still to come
+        slot[m] = k;
     }
-    ContentNodes().swap(m_nodes);
+    m_nodes.resize(members.size());
+    releaseUnusedCapacity(m_nodes);
     decltype(m_tags)().swap(m_tags);
     std::vector<std::string>().swap(m_paths);
-    m_entries.releaseEntries();
+    keepOnlyEntriesOfNodes();
 
-    QList<ResultItem> items;
-    items.reserve(qsizetype(members.size()));
-    for (std::size_t k = 0; k < made.size(); ++k) {
-        ContentNode &node = made[k].node;
-        ResultItem item = m_entries.resultItem(made[k].entry);
+    // Items take everything but their paths first. Then the nodes, the entries and the
+    // digests' own blocks, scattered over the hashing threads' heaps, are given back before
+    // the paths need room.
+    QList<ResultItem> items(qsizetype(members.size()));
+    struct Name {
+        quint32 folder;
+        quint32 offset;
+        quint16 length;
+    };
+    std::vector<Name> names(members.size());
+    for (std::size_t m = 0; m < members.size(); ++m) {
+        ContentNode &node = m_nodes[slot[m]];
+        const FileEntry &entry = m_entries[node.entry];
+        ResultItem &item = items[qsizetype(m)];
+        m_entries.describe(entry, item);
         item.size = node.size; // a compared folder's sums
         item.physicalSize = node.physicalSize;
-        if (node.has(IsFolder))
-            item.setTagList(readUserTags(item.path.toUtf8().constData()));
-        else
-            item.setTagList(std::move(made[k].tags));
+        if (!node.has(IsFolder)) item.setTagList(std::move(tags[m]));
         item.digest = node.has(HasDigest) ? node.digest() : Digest{};
         item.allocDigest = node.has(HasAllocDigest) ? allocationKey(node.allocDigest()) : AllocationKey{};
         item.setItemCount(node.itemCount);
-        item.group = members[k].group;
-        item.dupes = members[k].dupes;
+        item.group = members[m].group;
+        item.dupes = members[m].dupes;
         item.flags = node.flags;
         node.releaseDigests();
-        items.push_back(std::move(item));
+        names[m] = {entry.folder, entry.nameOffset, entry.nameLength};
+    }
+    ContentNodes().swap(m_nodes);
+    std::vector<QStringList>().swap(tags);
+    m_entries.keepOnly({});
+    malloc_trim(0);
+    for (std::size_t m = 0; m < members.size(); ++m) {
+        ResultItem &item = items[qsizetype(m)];
+        FileEntry named;
+        named.folder = names[m].folder;
+        named.nameOffset = names[m].offset;
+        named.nameLength = names[m].length;
+        item.path = m_entries.qPath(named);
+        if (item.has(IsFolder)) item.setTagList(readUserTags(item.path.toUtf8().constData()));
     }
     return items;
 }

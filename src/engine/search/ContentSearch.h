@@ -39,6 +39,8 @@ private:
     std::vector<Member> filterDuplicateFolderContents(const std::vector<Member> &members);
     QList<ResultItem> makeItems(const std::vector<Member> &members);
     const std::string &nodePath(std::size_t node);
+    // Keeps only the entries that nodes refer to, renumbered, and gives the others' memory back.
+    void keepOnlyEntriesOfNodes();
 
     const SearchRequest &m_request;
     const EnumerationResult &m_enumeration;

@@ -2,56 +2,58 @@
 
 #include <QtGlobal>
 
-#include <openssl/evp.h>
-#include <xxhash.h>
-
+// The digest functions themselves rather than the EVP interface: the same code, without
+// loading OpenSSL's algorithm providers, which cost each process megabytes of memory.
+#define OPENSSL_SUPPRESS_DEPRECATED
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <fcntl.h>
 #include <linux/fiemap.h>
 #include <linux/fs.h>
+#include <openssl/sha.h>
 #include <strings.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <xxhash.h>
 
 namespace selfsame {
 
-Sha512::Sha512() : m_context(EVP_MD_CTX_new())
+namespace
 {
-    if (!m_context || EVP_DigestInit_ex(m_context, EVP_sha512(), nullptr) != 1)
-        qFatal("SHA-512 is not available from OpenSSL");
+
+SHA512_CTX *context(unsigned char *state)
+{
+    return reinterpret_cast<SHA512_CTX *>(state);
 }
 
-Sha512::Sha512(const Sha512 &other) : m_context(EVP_MD_CTX_new())
-{
-    if (!m_context || EVP_MD_CTX_copy_ex(m_context, other.m_context) != 1)
-        qFatal("SHA-512 state cannot be copied");
-}
+} // namespace
 
-Sha512::~Sha512() { EVP_MD_CTX_free(m_context); }
+static_assert(sizeof(SHA512_CTX) <= 216 && alignof(SHA512_CTX) <= 8, "Sha512 holds a SHA512_CTX in place");
+
+Sha512::Sha512()
+{
+    SHA512_Init(context(m_state));
+}
 
 void Sha512::update(const void *data, std::size_t length)
 {
-    if (length > 0)
-        EVP_DigestUpdate(m_context, data, length);
+    if (length > 0) SHA512_Update(context(m_state), data, length);
 }
 
 Digest Sha512::final()
 {
     Digest digest{};
-    unsigned int length = 0;
-    EVP_DigestFinal_ex(m_context, digest.data(), &length);
+    SHA512_Final(digest.data(), context(m_state));
     return digest;
 }
 
 Digest sha512(const void *data, std::size_t length)
 {
-    Digest digest{};
-    unsigned int size = 0;
-    EVP_Digest(data, length, digest.data(), &size, EVP_sha512(), nullptr);
-    return digest;
+    Sha512 hash; // the one-shot SHA512() goes through EVP
+    hash.update(data, length);
+    return hash.final();
 }
 
 Fingerprinter::Fingerprinter() : m_state(XXH3_createState())

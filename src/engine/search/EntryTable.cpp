@@ -37,6 +37,14 @@ void EntryTable::append(const EntryBatch &batch)
         m_entries[i].nameOffset += base;
 }
 
+void EntryTable::keepOnly(const std::vector<quint32> &ascending)
+{
+    for (std::size_t k = 0; k < ascending.size(); ++k)
+        m_entries[k] = m_entries[ascending[k]];
+    m_entries.resize(ascending.size());
+    releaseUnusedCapacity(m_entries);
+}
+
 void EntryTable::keepWithMetadata(std::vector<std::optional<ItemMetadata>> metadata)
 {
     std::size_t kept = 0;
@@ -72,6 +80,12 @@ ResultItem EntryTable::resultItem(const FileEntry &e) const
 {
     ResultItem item;
     item.path = qPath(e);
+    describe(e, item);
+    return item;
+}
+
+void EntryTable::describe(const FileEntry &e, ResultItem &item) const
+{
     item.size = e.size;
     item.physicalSize = e.physicalSize;
     item.modified = seconds(e.modifiedNs);
@@ -81,7 +95,6 @@ ResultItem EntryTable::resultItem(const FileEntry &e) const
     item.flags = e.flags;
     item.device = e.device;
     item.inode = e.inode;
-    return item;
 }
 
 namespace {

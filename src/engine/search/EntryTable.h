@@ -59,8 +59,9 @@ public:
         m_metadata.shrink_to_fit();
     }
 
-    // Drops the entries but keeps folders and names: paths of entries copied out still resolve.
-    void releaseEntries() { LargeVector<FileEntry>().swap(m_entries); }
+    // Keeps the entries at `ascending` (indices in increasing order), renumbered from 0, and
+    // gives the memory of the others back. Folders and names stay as they are.
+    void keepOnly(const std::vector<quint32> &ascending);
 
     std::size_t size() const { return m_entries.size(); }
     const FileEntry &operator[](std::size_t i) const { return m_entries[i]; }
@@ -76,6 +77,8 @@ public:
 
     // A result item with what enumeration recorded of the entry: path, sizes, dates, flags.
     ResultItem resultItem(const FileEntry &e) const;
+    // The same without the path, into an existing item.
+    void describe(const FileEntry &e, ResultItem &item) const;
 
     // Compares the full paths of two entries as byte strings without building them.
     int comparePaths(const FileEntry &a, const FileEntry &b) const;

@@ -58,6 +58,19 @@ private:
 };
 
 template <typename T> using LargeVector = std::vector<T, LargeBlockAllocator<T>>;
+
+// Gives the pages past a large vector's last element back to the system; its capacity stays
+// reserved and a page comes back, zero-filled, when the vector grows into it again.
+template <typename T> void releaseUnusedCapacity(LargeVector<T> &vector)
+{
+    if (vector.capacity() * sizeof(T) < LargeBlockAllocator<T>::kThreshold)
+        return; // on the heap, not a mapping of its own
+    constexpr std::uintptr_t kPage = 4096;
+    const auto used = reinterpret_cast<std::uintptr_t>(vector.data() + vector.size());
+    const auto end = reinterpret_cast<std::uintptr_t>(vector.data() + vector.capacity());
+    const std::uintptr_t from = (used + kPage - 1) & ~(kPage - 1);
+    if (end > from) madvise(reinterpret_cast<void *>(from), end - from, MADV_DONTNEED);
+}
 using LargeString = std::basic_string<char, std::char_traits<char>, LargeBlockAllocator<char>>;
 
 } // namespace selfsame
