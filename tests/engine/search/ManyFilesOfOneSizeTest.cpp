@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstring>
+
 using namespace selfsame;
 
 namespace {
@@ -41,10 +43,13 @@ TEST_P(BucketsOverTheMemoryLimit, StillSplitWhereTheBytesDiffer)
     ASSERT_GT(qint64(count) * size, ContentHasher::kMaxBucketBytes);
     TempTree tree;
     QSet<QString> expected;
+    const QByteArray common = patternBytes(size, 1);
     for (int i = 0; i < count; ++i) {
-        // Every third file copies the one before it; every third after that differs from it in
-        // one byte halfway through.
-        QByteArray bytes = patternBytes(size, i - i % 3);
+        // All begin and end alike, so that one bucket holds them all. In each three, the
+        // second copies the first and the third differs from it in one byte halfway through.
+        QByteArray bytes = common;
+        const int three = i / 3;
+        std::memcpy(bytes.data() + size / 3, &three, sizeof(three));
         if (i % 3 == 2) bytes[size / 2] = char(bytes[size / 2] ^ 0x55);
         tree.file(QStringLiteral("f%1").arg(i, 3, 10, QLatin1Char('0')), bytes);
         if (i % 3 == 1)
