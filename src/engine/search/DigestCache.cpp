@@ -184,10 +184,11 @@ bool DigestCache::openOnce(QString *problem)
     }
     // A first search writes a record per file: table pages stay in memory between batches,
     // and the journal is folded into the database (with its sync) every 32 MiB, not every 4.
-    // A second search reads its records through a memory map, without a copy of every page.
+    // A second search reads its records through a memory map, without a copy of every page;
+    // only the first 64 MiB, as mapped pages count towards the process's memory.
     code = sqlite3_exec(m_db,
                         "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA cache_size = -32768; "
-                        "PRAGMA wal_autocheckpoint = 8192; PRAGMA mmap_size = 1073741824;",
+                        "PRAGMA wal_autocheckpoint = 8192; PRAGMA mmap_size = 67108864;",
                         nullptr, nullptr, nullptr);
     if (code != SQLITE_OK) {
         *problem = QString::fromUtf8(sqlite3_errmsg(m_db));
