@@ -118,24 +118,6 @@ template <typename T, typename Store> bool store(const std::optional<T> &value, 
 
 } // namespace
 
-namespace
-{
-
-// Lower-case hexadecimal of a digest, written without an allocation.
-template <std::size_t N> struct HexText {
-    char text[2 * N];
-    explicit HexText(const std::array<std::uint8_t, N> &bytes)
-    {
-        for (std::size_t i = 0; i < N; ++i) {
-            text[2 * i] = "0123456789abcdef"[bytes[i] >> 4];
-            text[2 * i + 1] = "0123456789abcdef"[bytes[i] & 15];
-        }
-    }
-    QByteArrayView view() const { return {text, qsizetype(2 * N)}; }
-};
-
-} // namespace
-
 void writeItem(JsonWriter &json, const ResultItem &item)
 {
     json.field("path", item.path);

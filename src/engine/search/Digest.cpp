@@ -88,11 +88,6 @@ int compareDigests(const Digest &a, const Digest &b)
     return order < 0 ? -1 : (order > 0 ? 1 : 0);
 }
 
-QByteArray digestToHex(const Digest &digest)
-{
-    return QByteArray(reinterpret_cast<const char *>(digest.data()), qsizetype(digest.size())).toHex();
-}
-
 const Digest &emptyDigest()
 {
     static const Digest digest = sha512(nullptr, 0);

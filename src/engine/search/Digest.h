@@ -3,13 +3,13 @@
 #include "results/ResultItem.h"
 
 #include <QByteArray>
-
+#include <QByteArrayView>
 #include <atomic>
 #include <cstddef>
 #include <memory>
 #include <optional>
-#include <sys/types.h>
 #include <string_view>
+#include <sys/types.h>
 #include <vector>
 
 namespace selfsame {
@@ -55,7 +55,22 @@ inline Digest sha512(const QByteArray &bytes) { return sha512(bytes.constData(),
 
 // Byte order of digests: memcmp over the shorter length, then the shorter first. Returns -1, 0 or 1.
 int compareDigests(const Digest &a, const Digest &b);
-QByteArray digestToHex(const Digest &digest);
+// Lower-case hexadecimal of a digest or allocation key, written in place without an allocation.
+template <std::size_t N> struct HexText {
+    char text[2 * N];
+    explicit HexText(const std::array<std::uint8_t, N> &bytes)
+    {
+        for (std::size_t i = 0; i < N; ++i) {
+            text[2 * i] = "0123456789abcdef"[bytes[i] >> 4];
+            text[2 * i + 1] = "0123456789abcdef"[bytes[i] & 15];
+        }
+    }
+    QByteArrayView view() const { return {text, qsizetype(2 * N)}; }
+};
+inline QByteArray digestToHex(const Digest &digest)
+{
+    return HexText(digest).view().toByteArray();
+}
 
 // SHA-512 of zero bytes: the digest of every empty file.
 const Digest &emptyDigest();
