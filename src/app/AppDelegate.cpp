@@ -14,10 +14,8 @@
 #include "Settings.h"
 #include "WelcomePanel.h"
 #include "results/ResultsFile.h"
-
 #include "search/DigestCache.h"
 #include "search/DuplicateSearch.h"
-#include "search/ExactSizeIndex.h"
 
 #include <QAction>
 #include <QApplication>
@@ -330,7 +328,7 @@ Dupes *AppDelegate::searchInFolderURLs(const QStringList &paths)
         QStringList designated = paths;
         for (const Location &location : m_sources->locations())
             designated.append(location.path);
-        dupes->setSingleFileScope(volumeRoots(designated));
+        dupes->setSingleFileScopeVolumesOf(designated);
     }
     dupes->searchInFolderURLs(*start.request);
     return dupes;

@@ -37,8 +37,11 @@ public:
 
     // Starts a search; the lists fill when it is done.
     void searchInFolderURLs(const SearchRequest &request);
-    // Where copies of the request's single files are looked for; empty: their own volumes.
-    void setSingleFileScope(const QStringList &folders) { m_search.setSingleFileScope(folders); }
+    // Copies of the request's single files are looked for on the volumes of these locations.
+    void setSingleFileScopeVolumesOf(const QStringList &locations)
+    {
+        m_search.setSingleFileScopeVolumesOf(locations);
+    }
     // Shows results that are already complete, without a search.
     void showFinishedResults(QList<ResultItem> items, const SearchRequest &request);
     // Shows saved results as they were saved: the same lists, hidden items and marks of what

@@ -1,10 +1,10 @@
 #include "search/DuplicateSearch.h"
 
 #include "search/DigestCache.h"
+#include "search/ExactSizeIndex.h"
 #include "search/SearchRun.h"
 
 #include <QCoreApplication>
-
 #include <chrono>
 #include <mutex>
 #include <optional>
@@ -86,7 +86,9 @@ void DuplicateSearch::searchInFolderURLsInBackground()
                                Qt::QueuedConnection);
                        },
                        {}, {}};
-    context.singleFileScope = m_singleFileScope;
+    // Finding a volume looks at every parent folder: done here, never on the caller's thread.
+    context.singleFileScope =
+        m_singleFileVolumesOf.isEmpty() ? m_singleFileScope : volumeRoots(m_singleFileVolumesOf);
     // Only content digests are kept; the cache writes what it still holds after searchDone.
     std::optional<DigestCache> cache;
     if (const QString path = digestCachePath(); !path.isEmpty() && m_request.detectionMode == DetectionMode::Content) {

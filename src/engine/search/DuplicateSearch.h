@@ -38,6 +38,8 @@ public:
     // The folders searched for copies of single-file locations when the request asks for them;
     // empty (the default): the volumes of the locations.
     void setSingleFileScope(const QStringList &folders) { m_singleFileScope = folders; }
+    // Instead, the volumes that hold these locations, found when the search runs.
+    void setSingleFileScopeVolumesOf(const QStringList &locations) { m_singleFileVolumesOf = locations; }
 
     void abort() { abortAndWait(false); }
     // Requests an abort when the search is running; with `wait`, returns once it has stopped.
@@ -62,6 +64,7 @@ private:
 
     SearchRequest m_request;
     QStringList m_singleFileScope;
+    QStringList m_singleFileVolumesOf;
     std::atomic<int> m_searchingState{Finished};
     std::atomic<bool> m_aborted{false};
     StatusThrottle m_throttle;
