@@ -343,7 +343,7 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
     // digests' own blocks, scattered over the hashing threads' heaps, are given back before
     // the paths need room.
     QList<ResultItem> items(qsizetype(members.size()));
-    struct Name {
+    struct Name { // kept small: there is one for every grouped file
         quint32 folder;
         quint32 offset;
         quint16 length;
@@ -372,11 +372,9 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
     malloc_trim(0);
     for (std::size_t m = 0; m < members.size(); ++m) {
         ResultItem &item = items[qsizetype(m)];
-        FileEntry named;
-        named.folder = names[m].folder;
-        named.nameOffset = names[m].offset;
-        named.nameLength = names[m].length;
-        item.path = m_entries.qPath(named);
+        const Name &name = names[m];
+        item.path =
+            QString::fromStdString(m_entries.path(name.folder, m_entries.name(name.offset, name.length)));
         if (item.has(IsFolder)) item.setTagList(readUserTags(item.path.toUtf8().constData()));
     }
     return items;

@@ -18,7 +18,8 @@ namespace selfsame {
 // whatever lies inside a duplicate folder is dropped.
 class ContentSearch {
 public:
-    // The enumeration's entries are released once the result items are made from them.
+    // The enumeration's entries are cut down to the candidates once sizes are sorted, and
+    // released once the result items are made from them.
     ContentSearch(const SearchRequest &request, EnumerationResult &enumeration, RunContext &context);
 
     // Steps 2 to 6 of a content search, then the clean-up: the grouped items in group order.

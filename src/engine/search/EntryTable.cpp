@@ -58,15 +58,15 @@ void EntryTable::keepWithMetadata(std::vector<std::optional<ItemMetadata>> metad
     m_entries.resize(kept);
 }
 
-std::string EntryTable::path(const FileEntry &e) const
+std::string EntryTable::path(quint32 folder, std::string_view name) const
 {
-    const std::string &folder = m_folders[e.folder];
+    const std::string &folderPath = m_folders[folder];
     std::string result;
-    result.reserve(folder.size() + 1 + e.nameLength);
-    result.append(folder);
+    result.reserve(folderPath.size() + 1 + name.size());
+    result.append(folderPath);
     if (result.empty() || result.back() != '/')
         result.push_back('/');
-    result.append(name(e));
+    result.append(name);
     return result;
 }
 

@@ -69,11 +69,14 @@ public:
     // The metadata of entry i; only in the modes that read metadata.
     const ItemMetadata &metadata(std::size_t i) const { return m_metadata[i]; }
 
-    std::string_view name(const FileEntry &e) const { return {m_names.data() + e.nameOffset, e.nameLength}; }
+    std::string_view name(const FileEntry &e) const { return name(e.nameOffset, e.nameLength); }
+    std::string_view name(quint32 offset, quint16 length) const { return {m_names.data() + offset, length}; }
     const std::string &folderPath(quint32 folder) const { return m_folders[folder]; }
     std::size_t folderCount() const { return m_folders.size(); }
-    std::string path(const FileEntry &e) const;
+    std::string path(const FileEntry &e) const { return path(e.folder, name(e)); }
     QString qPath(const FileEntry &e) const { return QString::fromStdString(path(e)); }
+    // The path of a name in one of the table's folders; the names outlive the entries.
+    std::string path(quint32 folder, std::string_view name) const;
 
     // A result item with what enumeration recorded of the entry: path, sizes, dates, flags.
     ResultItem resultItem(const FileEntry &e) const;
