@@ -181,10 +181,14 @@ void ContentSearch::hashFolders()
     std::sort(byPath.begin(), byPath.end(), [&](std::size_t a, std::size_t b) { return m_paths[a] < m_paths[b]; });
 
     // A folder is empty when the next path does not begin with its own (a plain prefix test).
+    // One whose contents were not listed only looks empty: it gets no digest, and neither
+    // does any folder around it, so none of them can be taken for a copy of another.
+    std::vector<std::string> notListed = m_enumeration.foldersNotListed;
+    std::sort(notListed.begin(), notListed.end());
     for (std::size_t k = 0; k < n && !m_context.aborted(); ++k) {
         m_context.status([] { return text("Hashing folders…"); }, double(k) / double(2 * n));
         ContentNode &node = m_nodes[byPath[k]];
-        if (!node.has(IsFolder))
+        if (!node.has(IsFolder) || std::binary_search(notListed.begin(), notListed.end(), m_paths[byPath[k]]))
             continue;
         if (k + 1 == n || !m_paths[byPath[k + 1]].starts_with(m_paths[byPath[k]])) {
             node.size = 0;

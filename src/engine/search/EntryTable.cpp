@@ -73,6 +73,7 @@ std::string EntryTable::path(quint32 folder, std::string_view name) const
 namespace {
 
 qint64 seconds(qint64 nanoseconds) { return nanoseconds >= 0 ? nanoseconds / 1'000'000'000 : -((-nanoseconds + 999'999'999) / 1'000'000'000); }
+qint32 nanosecondPart(qint64 nanoseconds) { return qint32(nanoseconds - seconds(nanoseconds) * 1'000'000'000); }
 
 } // namespace
 
@@ -89,8 +90,10 @@ void EntryTable::describe(const FileEntry &e, ResultItem &item) const
     item.size = e.size;
     item.physicalSize = e.physicalSize;
     item.modified = seconds(e.modifiedNs);
+    item.modifiedNsec = nanosecondPart(e.modifiedNs);
     item.lastUsed = e.lastUsed;
     item.attributes = seconds(e.changedNs);
+    item.changedNsec = nanosecondPart(e.changedNs);
     item.created = e.created;
     item.flags = e.flags;
     item.device = e.device;

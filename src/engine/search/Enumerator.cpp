@@ -18,6 +18,8 @@
 #include <sys/statvfs.h>
 #include <sys/sysmacros.h>
 #include <thread>
+#include <unordered_map>
+#include <unordered_set>
 #include <time.h>
 #include <unistd.h>
 
@@ -28,8 +30,20 @@ namespace {
 constexpr unsigned kStatMask = STATX_TYPE | STATX_MODE | STATX_UID | STATX_SIZE | STATX_BLOCKS | STATX_MTIME |
                                STATX_CTIME | STATX_ATIME | STATX_BTIME | STATX_INO;
 
+// A folder as the file system knows it, whatever path reached it.
+struct FolderId {
+    dev_t device = 0;
+    ino_t inode = 0;
+    bool operator==(const FolderId &) const = default;
+};
+
+struct FolderIdHash {
+    std::size_t operator()(const FolderId &id) const { return std::hash<ino_t>()(id.inode) ^ (id.device * 0x9e3779b97f4a7c15ULL); }
+};
+
 // What an item's folder tells about deleting items inside it.
 struct FolderAccess {
+    FolderId id;
     bool deletable = false; // writable and searchable
     bool sticky = false;
     bool readOnlyVolume = false;
@@ -41,6 +55,7 @@ FolderAccess folderAccess(int dirfd)
     FolderAccess access;
     struct stat st;
     if (fstat(dirfd, &st) == 0) {
+        access.id = {st.st_dev, st.st_ino};
         access.sticky = (st.st_mode & S_ISVTX) != 0;
         access.owner = st.st_uid;
     }
@@ -159,6 +174,10 @@ private:
     int m_busy = 0;
     std::atomic<qint64> m_seen{0};
     std::atomic<qint64> m_unreadable{0};
+    // An item is one directory entry: a folder reached again through another path is not
+    // listed twice, and a single-file location is left out of its folder's listing.
+    std::unordered_set<FolderId, FolderIdHash> m_listed;
+    std::unordered_map<FolderId, std::vector<std::string>, FolderIdHash> m_singleFiles;
 };
 
 bool Enumerator::Walk::visit(int dirfd, const FolderAccess &folder, quint32 folderIndex,
@@ -305,6 +324,8 @@ void Enumerator::Walk::list(const Job &job)
         if (dirfd >= 0)
             close(dirfd);
         ++m_unreadable;
+        std::lock_guard lock(m_mutex);
+        m_result.foldersNotListed.push_back(std::move(path));
         return;
     }
     if (!m_owner.m_onlySizes.empty() && isPseudoFileSystem(dirfd)) {
@@ -312,6 +333,17 @@ void Enumerator::Walk::list(const Job &job)
         return;
     }
     const FolderAccess access = folderAccess(dirfd);
+    const std::vector<std::string> *singleFiles = nullptr;
+    {
+        std::lock_guard lock(m_mutex);
+        if (!m_listed.insert(access.id).second) {
+            m_result.foldersNotListed.push_back(std::move(path));
+            closedir(dir);
+            return;
+        }
+        if (const auto found = m_singleFiles.find(access.id); found != m_singleFiles.end())
+            singleFiles = &found->second; // complete before any folder is listed
+    }
     EntryBatch batch;
     std::vector<Child> children;
     std::vector<std::string> packages;
@@ -323,6 +355,8 @@ void Enumerator::Walk::list(const Job &job)
             continue;
         if (aborted())
             break;
+        if (singleFiles && std::find(singleFiles->begin(), singleFiles->end(), name) != singleFiles->end())
+            continue;
         const bool enter = visit(dirfd, access, job.folder, path, name, d->d_type == DT_DIR, d->d_type == DT_UNKNOWN,
                                  job.level + 1, true, batch, packages);
         if (enter)
@@ -349,7 +383,12 @@ void Enumerator::Walk::location(const QString &location)
     const int dirfd = open(parent.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (dirfd < 0)
         return;
-    if (!aborted()) {
+    const FolderAccess access = folderAccess(dirfd);
+    std::string name = path.substr(path.rfind('/') + 1);
+    std::vector<std::string> &namesInFolder = m_singleFiles[access.id];
+    const bool repeated = std::find(namesInFolder.begin(), namesInFolder.end(), name) != namesInFolder.end();
+    if (!repeated && !aborted()) {
+        namesInFolder.push_back(name);
         quint32 folder;
         {
             std::lock_guard lock(m_mutex);
@@ -358,8 +397,7 @@ void Enumerator::Walk::location(const QString &location)
         EntryBatch batch;
         std::vector<Child> none;
         std::vector<std::string> packages;
-        const std::string name = path.substr(path.rfind('/') + 1);
-        visit(dirfd, folderAccess(dirfd), folder, parent, name, false, false, 1, false, batch, packages);
+        visit(dirfd, access, folder, parent, name, false, false, 1, false, batch, packages);
         flush(folder, batch, none, packages);
     }
     close(dirfd);

@@ -10,10 +10,33 @@
 #include "search/SweepSearch.h"
 
 #include <QCoreApplication>
+#include <QDir>
 
+#include <climits>
+#include <cstdlib>
 #include <unistd.h>
 
 namespace selfsame {
+
+namespace {
+
+// The locations as the file system knows them: a folder reached through a symbolic link is
+// searched under its real path, so that no file is found twice under two names. Locations
+// that resolve to the same place are searched once; one that does not exist stays as given.
+QStringList realLocations(const QStringList &locations)
+{
+    QStringList real;
+    for (const QString &location : locations) {
+        char resolved[PATH_MAX];
+        const std::string path = QDir::cleanPath(location).toStdString();
+        const QString found = realpath(path.c_str(), resolved) ? QString::fromStdString(resolved) : location;
+        if (!real.contains(found))
+            real.append(found);
+    }
+    return real;
+}
+
+} // namespace
 
 QList<ResultItem> SearchRun::run()
 {
@@ -22,9 +45,10 @@ QList<ResultItem> SearchRun::run()
 
     m_context.beginStep(1, steps, content);
     SearchRequest request = m_request;
+    request.searchInFolderURLs = realLocations(m_request.searchInFolderURLs);
     if (m_request.findAllDupesForSingleFiles) {
-        const auto index = ExactSizeIndex::create(m_context.singleFileScope, m_request, m_context);
-        request.searchInFolderURLs = SingleFileDuplicates(m_request, m_context, *index).extendedLocations();
+        const auto index = ExactSizeIndex::create(m_context.singleFileScope, request, m_context);
+        request.searchInFolderURLs = realLocations(SingleFileDuplicates(request, m_context, *index).extendedLocations());
     }
     const bool readsMetadata = request.detectionMode == DetectionMode::Duration ||
                                request.detectionMode == DetectionMode::Attribute;
