@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QMimeDatabase>
+#include <cmath>
 #include <fcntl.h>
 #include <sys/stat.h>
 
@@ -24,6 +25,25 @@ bool isMedia(const QMimeType &mime)
     return name.startsWith(QLatin1String("audio/")) || name.startsWith(QLatin1String("video/")) ||
            mime.inherits(QStringLiteral("application/ogg")) ||
            name == QLatin1String("application/vnd.rn-realmedia") || name == QLatin1String("application/mxf");
+}
+
+// Values a damaged or hand-edited file may hold but no real file can: a latitude beyond the
+// poles, a negative duration, a number that is not one. They count as missing, so that they
+// neither group files nor sort them.
+bool plausible(const QString &key, const QVariant &value)
+{
+    if (value.typeId() != QMetaType::Double && value.typeId() != QMetaType::Float &&
+        value.typeId() != QMetaType::Int && value.typeId() != QMetaType::LongLong &&
+        value.typeId() != QMetaType::UInt && value.typeId() != QMetaType::ULongLong)
+        return true;
+    const double number = value.toDouble();
+    if (!std::isfinite(number)) return false;
+    if (key == QLatin1String("kMDItemLatitude")) return std::fabs(number) <= 90.0;
+    if (key == QLatin1String("kMDItemLongitude")) return std::fabs(number) <= 180.0;
+    if (key == QLatin1String("kMDItemDurationSeconds") || key == QLatin1String("kMDItemTotalBitRate") ||
+        key == QLatin1String("kMDItemPixelWidth") || key == QLatin1String("kMDItemPixelHeight"))
+        return number >= 0.0;
+    return true;
 }
 
 } // namespace
@@ -63,7 +83,9 @@ MetadataValues readMetadata(const QString &path, const QSet<QString> &keys)
     else if (image && mime.name().startsWith(QLatin1String("image/")))
         readImageValues(localPath, values);
 
-    values.removeIf([&](const MetadataValues::iterator &it) { return !keys.contains(it.key()); });
+    values.removeIf([&](const MetadataValues::iterator &it) {
+        return !keys.contains(it.key()) || !plausible(it.key(), it.value());
+    });
     return values;
 }
 
