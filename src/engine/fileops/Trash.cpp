@@ -129,6 +129,23 @@ QString errorText(int error)
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
+// Writes `data` as the whole content of an existing file; returns the errno of the step that
+// failed (a full disk says ENOSPC, not a vague I/O error), 0 on success.
+int writeWhole(const QString &path, const QByteArray &data)
+{
+    const int fd = open(path.toUtf8().constData(), O_WRONLY | O_TRUNC | O_CLOEXEC | O_NOFOLLOW);
+    if (fd < 0) return errno;
+    int error = 0;
+    for (qsizetype done = 0; done < data.size() && !error;) {
+        const ssize_t n = write(fd, data.constData() + done, std::size_t(data.size() - done));
+        if (n > 0) done += n;
+        else if (n < 0 && errno != EINTR) error = errno;
+        else if (n == 0) error = EIO;
+    }
+    if (close(fd) != 0 && !error) error = errno;
+    return error;
+}
+
 } // namespace
 
 QString topDirectory(const QString &path)
@@ -185,14 +202,14 @@ TrashResult trashItem(const QString &path)
     const QString recorded = top.isEmpty() || top == u'/' ? path : path.mid(top.size() + 1);
     const QByteArray info = "[Trash Info]\nPath=" + encodeTrashInfoPath(recorded) + "\nDeletionDate=" +
                             QDateTime::currentDateTime().toString(Qt::ISODate).left(19).toUtf8() + '\n';
-    QFile infoFile(infoPath);
-    int error = 0;
-    if (!infoFile.open(QIODevice::WriteOnly | QIODevice::Truncate) || infoFile.write(info) != info.size() ||
-        !infoFile.flush())
-        error = EIO;
-    infoFile.close();
-    if (!error) error = renameNoReplace(path, target);
-    if (error) {
+    if (const int error = writeWhole(infoPath, info)) {
+        QFile::remove(infoPath);
+        result.error = error;
+        result.errorText = QCoreApplication::translate("Trash", "The trash information of “%1” could not be written: %2")
+                               .arg(path, errorText(error));
+        return result;
+    }
+    if (const int error = renameNoReplace(path, target)) {
         QFile::remove(infoPath);
         result.error = error;
         result.errorText = errorText(error);
