@@ -61,6 +61,7 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
     const bool trash = options.action == FileAction::Trash;
     const int mode = options.replaceWith;
     int done = 0;
+    int changed = 0;
     for (const ActionGroup &g : groups) {
         const QString replacement =
             mode ? tr(", replaced by %1 to %2").arg(modeName(mode), g.reference->path) : QString();
@@ -75,6 +76,7 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
         }
         const DeleteReport report = performDeleteAction(trash ? DeleteKind::Trash : DeleteKind::Delete, mode,
                                                         g.reference, g.selected);
+        changed += int(report.refused.size());
         for (const DeleteOutcome &o : report.outcomes) {
             if (o.status.isEmpty()) {
                 ++failures;
@@ -94,6 +96,11 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
                                 ? tr("%1 done, %2 failed\n")
                                 : tr("%1 would be done, %2 refused (dry run: add --yes to act)\n");
     err(summary.arg(done).arg(failures).toUtf8());
+    if (changed > 0)
+        err(tr("left alone because they or their kept copy changed since the search, or because they were "
+               "one file reached through two paths: %1\n")
+                .arg(changed)
+                .toUtf8());
     return failures == 0 ? 0 : 1;
 }
 

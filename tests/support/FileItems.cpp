@@ -23,6 +23,9 @@ ResultItem *ItemGroup::add(const QString &path, int group)
     item->size = S_ISDIR(st.st_mode) ? 0 : qint64(st.st_size);
     item->physicalSize = qint64(st.st_blocks) * 512;
     item->modified = st.st_mtim.tv_sec;
+    item->modifiedNsec = qint32(st.st_mtim.tv_nsec);
+    item->attributes = st.st_ctim.tv_sec;
+    item->changedNsec = qint32(st.st_ctim.tv_nsec);
     item->device = st.st_dev;
     item->inode = st.st_ino;
     item->group = group;

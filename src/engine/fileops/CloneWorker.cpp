@@ -57,7 +57,7 @@ void liftWriteProtection(const QString &path, const FSMetadata &snapshot)
         chmod(folder.constData(), (st.st_mode | 0200) & 07777);
 }
 
-QString cloneByMovingAside(const ResultItem &reference, const ResultItem &duplicate, bool changeOwner,
+QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, bool changeOwner,
                            const CloneSteps &steps)
 {
     const QString &path = duplicate.path;
@@ -68,6 +68,7 @@ QString cloneByMovingAside(const ResultItem &reference, const ResultItem &duplic
     const QString aside = besidePath(path);
     if (const int error = steps.moveAside(path, aside)) {
         restoreFSMetadata(path, snapshot);
+        recordCurrentState(duplicate);
         return tr("“%1” could not be moved aside: %2").arg(path, errorText(error));
     }
     // The original is safe aside only if it is really there; never remove what holds its path otherwise.
@@ -79,6 +80,7 @@ QString cloneByMovingAside(const ResultItem &reference, const ResultItem &duplic
     auto rollBack = [&] {
         renameNoReplace(aside, path);
         restoreFSMetadata(path, snapshot);
+        recordCurrentState(duplicate); // the same file, its change time moved by our own steps
     };
     if (const int error = steps.clone(reference.path, path, reference.has(IsFolder))) {
         if (asideExists()) {
@@ -152,11 +154,11 @@ QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, cons
     return kept;
 }
 
-QString cloneDuplicate(const ResultItem &reference, const ResultItem &duplicate, bool changeOwner,
+QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool changeOwner,
                        const CloneSteps &steps)
 {
     if (QString changed = changedSinceSearch(duplicate); !changed.isEmpty()) return changed;
-    if (QString changed = changedSinceSearch(reference); !changed.isEmpty()) return changed;
+    if (QString problem = keptCopyProblem(duplicate, reference, false); !problem.isEmpty()) return problem;
     if (!duplicate.has(IsFolder)) {
         const int shared = steps.dedupe(reference.path, duplicate.path);
         if (shared == 0) return {};

@@ -48,9 +48,10 @@ QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, cons
 
 // Replaces `duplicate` by a clone of `reference`: by FIDEDUPERANGE where offered, else by
 // moving it aside, cloning, restoring its metadata and removing the moved-aside file, rolling
-// back on any failure. Both files must still be as the search found them.
-// Returns an empty string on success, else why nothing was changed.
-QString cloneDuplicate(const ResultItem &reference, const ResultItem &duplicate, bool changeOwner,
+// back on any failure. Both files must still be as the search found them, and not one file
+// reached twice. After a rollback the duplicate is recorded anew: our own steps moved its
+// change time. Returns an empty string on success, else why nothing was changed.
+QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool changeOwner,
                        const CloneSteps &steps);
 
 // A private temporary folder for the cloning plan, under the user's runtime folder.

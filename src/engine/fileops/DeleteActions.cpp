@@ -1,5 +1,6 @@
 #include "fileops/DeleteActions.h"
 
+#include "autoselect/AutoSelectRules.h"
 #include "fileops/CloneItem.h"
 #include "fileops/FSMetadata.h"
 #include "fileops/ItemSafety.h"
@@ -8,6 +9,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QSet>
 #include <QUuid>
 #include <cstring>
 
@@ -63,6 +65,32 @@ void bringBack(DeleteKind kind, const QString &from, const QString &path)
     }
 }
 
+// Whether the kept copy must hold the same bytes: for a replacement deleted for good, and,
+// among copies the search found equal, for a deletion or a trash onto another device.
+bool comparesBytes(DeleteKind kind, bool replacing, const ResultItem &item, const ResultItem &kept)
+{
+    if (replacing) return kind == DeleteKind::Delete;
+    return sameFoundContent(item, kept) && (kind == DeleteKind::Delete || kept.device != item.device);
+}
+
+// Why `item` must be left alone, checked right before it is acted on: it changed since the
+// search, or no kept copy of it is safe to rely on. Empty when it may go.
+QString whyNotSafe(DeleteKind kind, int mode, const ResultItem &item, const ResultItem *reference,
+                   const QSet<const ResultItem *> &acting, const DuplicatesFor &duplicatesFor)
+{
+    if (QString changed = changedSinceSearch(item); !changed.isEmpty()) return changed;
+    const bool replacing = reference && mode >= ReplaceWithAlias && mode <= ReplaceWithClone;
+    if (reference) return keptCopyProblem(item, *reference, comparesBytes(kind, replacing, item, *reference));
+    QString firstProblem;
+    for (const ResultItem *other : duplicatesFor ? duplicatesFor(item) : QList<ResultItem *>{}) {
+        if (other == &item || acting.contains(other) || isGone(*other)) continue;
+        const QString problem = keptCopyProblem(item, *other, comparesBytes(kind, false, item, *other));
+        if (problem.isEmpty()) return {};
+        if (firstProblem.isEmpty()) firstProblem = problem;
+    }
+    return firstProblem; // empty too when every copy was chosen, the user having been warned
+}
+
 } // namespace
 
 QString besidePath(const QString &path)
@@ -71,10 +99,15 @@ QString besidePath(const QString &path)
 }
 
 DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference,
-                                 const QList<ResultItem *> &targets)
+                                 const QList<ResultItem *> &targets, const DuplicatesFor &duplicatesFor)
 {
     DeleteReport report;
     const bool replacing = reference && mode >= ReplaceWithAlias && mode <= ReplaceWithClone;
+    const QSet<const ResultItem *> acting(targets.cbegin(), targets.cend());
+    SharedFiles shared;
+    shared.watch(reference);
+    for (ResultItem *item : targets)
+        shared.watch(item);
     for (ResultItem *item : targets) {
         DeleteOutcome outcome;
         outcome.item = item;
@@ -95,16 +128,17 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
             report.lastReference = reference->path;
             report.lastDeleted = item->path;
         };
-        QString changed = changedSinceSearch(*item);
-        if (changed.isEmpty() && replacing) changed = changedSinceSearch(*reference);
-        // Deleted for good and replaced: the bytes must really be the reference's.
-        if (changed.isEmpty() && replacing && kind == DeleteKind::Delete && !item->has(IsFolder) &&
-            !sameContent(reference->path, item->path))
-            changed = QCoreApplication::translate("DeleteActions", "“%1” no longer has the content of “%2”")
-                          .arg(item->path, reference->path);
-        if (!changed.isEmpty()) {
-            removalFailed(changed);
-        } else if (!replacing) {
+        if (const QString refused = whyNotSafe(kind, mode, *item, reference, acting, duplicatesFor);
+            !refused.isEmpty()) {
+            removalFailed(refused);
+            report.refused.append(item->path);
+            report.outcomes.append(outcome);
+            continue;
+        }
+        // Our own steps move the change time of every link of the files they touch.
+        QList<ResultItem *> touched = shared.unchangedSharing(*item);
+        if (replacing && mode == ReplaceWithHardLink) touched += shared.unchangedSharing(*reference);
+        if (!replacing) {
             if (const QString error = removeOnly(kind, *item, mode, outcome); !error.isEmpty())
                 removalFailed(error);
         } else {
@@ -122,6 +156,7 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
                 removalFailed(error);
             } else if (const int e = renameNoReplace(staged, item->path)) {
                 bringBack(kind, away, item->path);
+                recordCurrentState(*item); // the same file back, its change time moved by the moves
                 removeItem(staged);
                 replacementFailed(QCoreApplication::translate("DeleteActions",
                                                               "The replacement could not be put in place: %1")
@@ -137,8 +172,12 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
                 // Last, so that the folder's modification time is the one from before.
                 if (mode == ReplaceWithClone) restoreFSMetadata(item->path, snapshot);
                 outcome.status = statusImageName(kind == DeleteKind::Trash, mode);
+                item->setStatusImage(outcome.status);
+                recordCurrentState(*item); // the replacement now stands for the item
             }
         }
+        for (ResultItem *other : touched)
+            if (other != item && !isGone(*other)) recordCurrentState(*other);
         if (!outcome.status.isEmpty()) item->setStatusImage(outcome.status);
         report.outcomes.append(outcome);
     }

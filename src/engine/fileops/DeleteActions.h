@@ -4,11 +4,16 @@
 
 #include <QList>
 #include <QString>
+#include <QStringList>
+#include <functional>
 
 namespace selfsame
 {
 
 enum class DeleteKind { Trash, Delete };
+
+// The items of an item's duplicate group, the item itself included.
+using DuplicatesFor = std::function<QList<ResultItem *>(const ResultItem &)>;
 
 struct DeleteOutcome {
     ResultItem *item = nullptr;
@@ -24,18 +29,22 @@ struct DeleteReport {
     QString lastReference, lastDeleted; // paths of the last replacement failure
     QString lastErrorText;              // of the last removal failure
     QString firstFailedPath;
+    QStringList refused;                // left alone: changed, or no safe kept copy
 };
 
 // Moves `targets` to the trash (kind Trash) or deletes them (kind Delete) and, with a
-// reference and a mode other than 0, puts the mode's replacement at each path. Every item is
-// first checked against what the search recorded, and the reference too when replacing; a
-// changed file is left alone and counts as a failure. A replacement is made beside the file
-// first, then swapped in: when any step fails the file stays where it was, unchanged.
-// Marks the items: trashedURL for a plain move to the trash, the Deleted flag after deletion,
-// and the status image of what was done.
+// reference and a mode other than 0, puts the mode's replacement at each path. A replacement
+// is made beside the file first, then swapped in: when any step fails the file stays where it
+// was, unchanged. Marks the items: trashedURL for a plain move to the trash, the Deleted flag
+// after deletion, and the status image of what was done.
+// Right before each step, the item and its kept copy (the reference, else the first other
+// copy of its group that is not acted on and passes) are checked: neither changed since the
+// search, not one file reached twice, and, for a deletion and for a trash onto another device,
+// the same bytes. An item that fails is left alone and counts as refused. Without any other
+// copy left (the user chose to remove them all) only the item itself is checked.
 // Without a reference the items are removed and given the mode's status, as asked.
 DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference,
-                                 const QList<ResultItem *> &targets);
+                                 const QList<ResultItem *> &targets, const DuplicatesFor &duplicatesFor = {});
 
 // A path beside `path` that nothing uses: "path_UNIQUE".
 QString besidePath(const QString &path);

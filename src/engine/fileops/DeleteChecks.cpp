@@ -27,6 +27,23 @@ constexpr long kF2fsMagic = 0xf2f52010;
 constexpr long kOcfs2Magic = 0x7461636f;
 constexpr long kJfsMagic = 0x3153464a;
 
+// Names the files left alone because acting on them could have lost a copy.
+QString withRefused(const QString &text, const DeleteReport &report)
+{
+    if (report.refused.isEmpty()) return text;
+    constexpr qsizetype kNamed = 10;
+    QStringList names;
+    for (qsizetype i = 0; i < std::min(kNamed, report.refused.size()); ++i)
+        names.append(report.refused[i]);
+    if (report.refused.size() > kNamed)
+        names.append(tr("and %1 more").arg(formatCount(report.refused.size() - kNamed)));
+    const QString refused = tr("Left alone because they changed since the search, or no unchanged copy of them remains:\n%1")
+            .arg(names.join(u'\n'));
+    if (report.refused.size() == 1 && report.removalFailures == 1)
+        return report.lastErrorText; // names the file and what changed
+    return text.isEmpty() ? refused : text + QStringLiteral("\n\n") + refused;
+}
+
 } // namespace
 
 QString displayName(const QString &path)
@@ -160,7 +177,7 @@ std::optional<Alert> trashFailureAlert(const DeleteReport &report, const QList<R
         targets.size() == 1 ? tr("“%1” could not be put in the Bin.").arg(displayName(targets.first()->path))
                             : tr("%1 files could not be put in the Bin.").arg(formatCount(report.removalFailures));
     return Alert{message,
-                 report.lastErrorText,
+                 withRefused(report.lastErrorText, report),
                  {tr("OK"), tr("Delete Immediately…"), tr("Grant Access to Bin…")},
                  0,
                  0,
@@ -174,7 +191,7 @@ std::optional<Alert> deletionFailureAlert(const DeleteReport &report, const QLis
         targets.size() == 1
             ? tr("“%1” could not be deleted immediately.").arg(displayName(targets.first()->path))
             : tr("%1 files could not be deleted immediately.").arg(formatCount(report.removalFailures));
-    return Alert{message, {}, {tr("OK")}};
+    return Alert{message, withRefused({}, report), {tr("OK")}};
 }
 
 Alert deleteConfirmationAlert(const QList<ResultItem *> &targets)

@@ -12,9 +12,6 @@
 namespace selfsame
 {
 
-// The items of an item's duplicate group, the item itself included.
-using DuplicatesFor = std::function<QList<ResultItem *>(const ResultItem &)>;
-
 // The answer to a check: go on when there is no alert, or when the user pressed the button
 // whose code is proceedCode (never when it is 0).
 struct CheckOutcome {

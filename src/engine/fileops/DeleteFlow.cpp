@@ -33,7 +33,8 @@ DeleteActionResult runDeleteAction(const DeleteActionRequest &request, const Del
     if (request.kind == DeleteKind::Delete && ui.ask(deleteConfirmationAlert(request.targets)) != kFirstButton)
         return result;
 
-    const DeleteReport report = performDeleteAction(request.kind, request.mode, request.reference, request.targets);
+    const DeleteReport report = performDeleteAction(request.kind, request.mode, request.reference, request.targets,
+                                                    request.duplicatesFor);
     result.performed = true;
     if (request.kind == DeleteKind::Trash) {
         if (const auto failed = trashFailureAlert(report, request.targets)) {

@@ -66,6 +66,10 @@ struct ResultItem {
     qint64 created = kNoDate;        // "created": birth time when the file system keeps one
     quint64 device = 0;              // st_dev and st_ino, to tell hard links apart
     quint64 inode = 0;
+    // The nanoseconds of "modified" and "attributes", -1 when unknown (results saved without
+    // them): with the inode they tell whether the file is still the one the search saw.
+    qint32 modifiedNsec = -1;
+    qint32 changedNsec = -1;
     Digest digest{};                 // "digest", valid with HasDigest
     AllocationKey allocDigest{};     // "allocDigest", valid with HasAllocDigest
     int group = -1;                  // "group"

@@ -1,5 +1,7 @@
 #include "fileops/CloneWorker.h"
 
+#include "fileops/ItemSafety.h"
+
 #include "fileops/CloneAlerts.h"
 #include "fileops/Dedupe.h"
 #include "format/ByteSize.h"
@@ -59,6 +61,7 @@ TEST_P(CloneWorkerOn, PlansLargestFirstThenClonesInPlaceKeepingEveryFilesMetadat
     const QByteArray big2 = item(1)->path.toUtf8();
     lsetxattr(big2.constData(), "user.xdg.tags", "Blue", 4, 0);
     chmod(big2.constData(), 0600);
+    recordCurrentState(*item(1)); // as the search would have seen it
     const struct stat before = statOf(item(1)->path);
 
     CloneWorker w = worker({item(0)}); // one selected row: all found files count
@@ -116,6 +119,7 @@ TEST_P(CloneWorkerOn, WithoutDedupeMovesAsideClonesRestoresAndRollsBackEachFaili
     steps.dedupe = [](const QString &, const QString &) { return EOPNOTSUPP; };
     const QByteArray path = item(1)->path.toUtf8();
     lsetxattr(path.constData(), "user.note", "n", 1, 0);
+    recordCurrentState(*item(1));
     const struct stat original = statOf(item(1)->path);
     const struct stat folder = statOf(volume.path(QStringLiteral("a")));
 
@@ -166,6 +170,8 @@ TEST_P(CloneWorkerOn, WriteProtectedAndOtherOwnersFilesComeBackProtectedAndOwned
     const QByteArray foreign = item(2)->path.toUtf8();
     ASSERT_EQ(chown(foreign.constData(), 1234, 4321), 0);
     item(2)->set(OtherOwner);
+    recordCurrentState(*item(1));
+    recordCurrentState(*item(2));
 
     EXPECT_EQ(cloneDuplicate(*item(0), *item(1), true, steps), QString());
     EXPECT_TRUE(inodeFlagsOf(item(1)->path) & FS_IMMUTABLE_FL) << "the flag came back";

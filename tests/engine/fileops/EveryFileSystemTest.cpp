@@ -2,6 +2,7 @@
 
 #include "fileops/DeleteActions.h"
 #include "fileops/PutBack.h"
+#include "fileops/ItemSafety.h"
 #include "fileops/Replacement.h"
 #include "search/Digest.h"
 #include "support/FileItems.h"
@@ -106,7 +107,7 @@ TEST_P(OnEveryFileSystem, TrashAndPutBackRestoreExactPathContentAndTimes)
     const timespec times[2] = {{1234567890, 111}, {1234567891, 222222}};
     utimensat(AT_FDCWD, duplicate->path.toUtf8().constData(), times, 0);
     const struct stat before = statOf(duplicate->path);
-    duplicate->modified = before.st_mtim.tv_sec;
+    recordCurrentState(*duplicate);
 
     const DeleteReport report = performDeleteAction(DeleteKind::Trash, ReplaceWithNone, nullptr, {duplicate});
     ASSERT_EQ(report.removalFailures, 0) << report.outcomes[0].error.toStdString();

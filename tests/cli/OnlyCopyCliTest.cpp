@@ -1,0 +1,123 @@
+// selfsame-cli never deletes the only copy of a content, however the file is reached or named.
+
+#include "support/TempTree.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QProcess>
+#include <fcntl.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utime.h>
+
+namespace
+{
+
+struct CliRun {
+    int exitCode = -1;
+    QByteArray out, err;
+};
+
+CliRun runCli(const QStringList &arguments)
+{
+    static int argc = 1;
+    static char name[] = "cli-tests", *argv[] = {name, nullptr};
+    if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
+    QProcess process;
+    process.start(QStringLiteral(SELFSAME_CLI_PATH), arguments);
+    EXPECT_TRUE(process.waitForFinished(60000));
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+// Files named by their exact bytes: a name that is not UTF-8 must not pass through a QString.
+QByteArray bytesAt(const QByteArray &path)
+{
+    QByteArray bytes;
+    const int fd = open(path.constData(), O_RDONLY | O_CLOEXEC);
+    char buffer[65536];
+    for (ssize_t n; fd >= 0 && (n = read(fd, buffer, sizeof buffer)) > 0;)
+        bytes.append(buffer, n);
+    if (fd >= 0) close(fd);
+    return bytes;
+}
+
+bool writeAt(const QByteArray &path, const QByteArray &bytes)
+{
+    const int fd = open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    const bool written = fd >= 0 && write(fd, bytes.constData(), std::size_t(bytes.size())) == bytes.size();
+    return close(fd) == 0 && written;
+}
+
+TEST(OnlyCopyCli, AFileReachedThroughALinkedFolderIsNeverDeletedAsItsOwnCopy)
+{
+    TempTree tree;
+    const QByteArray only = patternBytes(5000, 21);
+    tree.file(QStringLiteral("A/sub/only.bin"), only);
+    const QString a = tree.path(QStringLiteral("A")), link = tree.symlink(QStringLiteral("Alink"), a);
+    const QString file = tree.path(QStringLiteral("A/sub/only.bin"));
+    const QList<QStringList> commands = {
+        {"--no-cache", "--select", "folder", link, "--inside-any-depth", "--delete", "--yes", a, link},
+        {"--compare-folders", "--select", "folder", link, "--inside-any-depth", "--delete", "--yes", a, link},
+        {"--select", "folder", link, "--inside", "--delete", "--yes", "--anywhere", file, link},
+        {"--select", "folder", link, "--inside-any-depth", "--replace-with", "symlink", "--yes", a, link},
+    };
+    for (const QStringList &command : commands) {
+        runCli(command);
+        struct stat st {
+        };
+        ASSERT_EQ(lstat(file.toUtf8().constData(), &st), 0) << command.join(u' ').toStdString();
+        EXPECT_TRUE(S_ISREG(st.st_mode));
+        EXPECT_EQ(bytesAt(file.toUtf8()), only);
+    }
+}
+
+TEST(OnlyCopyCli, NamesThatLookAlikeAreNeverConfused)
+{
+    TempTree tree;
+    // A Latin-1 name and one literally holding U+FFFD: a lossy decoding makes them one text.
+    const QByteArray folder = tree.folder(QStringLiteral("u8")).toUtf8();
+    const QByteArray invalid = folder + "/u\xff.bin", replacement = folder + "/u\xef\xbf\xbd.bin";
+    const QByteArray shared = patternBytes(5000, 22), unique = patternBytes(5000, 23);
+    for (const auto &[path, bytes] : {std::pair{invalid, shared}, std::pair{replacement, unique},
+                                      std::pair{folder + "/keep.bin", shared}})
+        ASSERT_TRUE(writeAt(path, bytes));
+    const utimbuf old{1577836800, 1577836800}, newer{1683280800, 1683280800};
+    ASSERT_EQ(utime((folder + "/keep.bin").constData(), &old), 0);
+    ASSERT_EQ(utime(invalid.constData(), &newer), 0);
+    ASSERT_EQ(utime(replacement.constData(), &newer), 0);
+
+    runCli({"--no-cache", "--select", "same-folder", "--keep", "oldest", "--delete", "--yes",
+            QString::fromUtf8(folder)});
+    EXPECT_EQ(bytesAt(replacement), unique) << "the file with no copy is never reached";
+    EXPECT_EQ(bytesAt(folder + "/keep.bin"), shared);
+}
+
+// The checks hold back only what changed: copies found by a search and left as they were go,
+// even when each new hard link moves the kept copy's change time.
+TEST(OnlyCopyCli, UnchangedCopiesAreStillActedOn)
+{
+    TempTree tree;
+    const QByteArray content = patternBytes(8000, 24);
+    tree.file(QStringLiteral("keep/a.bin"), content);
+    tree.file(QStringLiteral("other/b.bin"), content);
+    tree.file(QStringLiteral("other/c.bin"), content);
+    tree.file(QStringLiteral("other/d.bin"), content);
+    CliRun run = runCli({"--no-cache", "--select", "folder", tree.path(QStringLiteral("other")), "--inside",
+                         "--replace-with", "hardlink", "--yes", tree.path()});
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    struct stat st {
+    };
+    ASSERT_EQ(stat(tree.path(QStringLiteral("keep/a.bin")).toUtf8().constData(), &st), 0);
+    EXPECT_EQ(st.st_nlink, 4u) << run.err.toStdString();
+
+    tree.file(QStringLiteral("third/e.bin"), patternBytes(9000, 25));
+    tree.file(QStringLiteral("third/f.bin"), patternBytes(9000, 25));
+    run = runCli({"--no-cache", "--select", "same-folder", "--keep", "oldest", "--delete", "--yes",
+                  tree.path(QStringLiteral("third"))});
+    EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
+    EXPECT_NE(QFile::exists(tree.path(QStringLiteral("third/e.bin"))),
+              QFile::exists(tree.path(QStringLiteral("third/f.bin"))));
+}
+
+} // namespace
