@@ -124,6 +124,24 @@ TEST_F(MetadataReaderTest, ReadsPhotoExifXmpAndIptc)
     EXPECT_FALSE(photo.contains("kMDItemDurationSeconds"));
 }
 
+TEST_F(MetadataReaderTest, CoordinatesBeyondTheirRangeCountAsMissing)
+{
+    ASSERT_TRUE(
+        makeJpeg(tree.path("far.jpg"),
+                 {"set Exif.GPSInfo.GPSLatitude 299965352/1 57/1 36/1", "set Exif.GPSInfo.GPSLatitudeRef S",
+                  "set Exif.GPSInfo.GPSLongitude 10/1 0/1 0/1", "set Exif.GPSInfo.GPSLongitudeRef E"}));
+    ASSERT_TRUE(
+        makeJpeg(tree.path("past.jpg"),
+                 {"set Exif.GPSInfo.GPSLatitude 91/1 1/1 12/1", "set Exif.GPSInfo.GPSLatitudeRef S",
+                  "set Exif.GPSInfo.GPSLongitude 181/1 0/1 0/1", "set Exif.GPSInfo.GPSLongitudeRef W"}));
+    const MetadataValues far = read("far.jpg");
+    EXPECT_FALSE(far.contains("kMDItemLatitude")) << number(far, "kMDItemLatitude");
+    EXPECT_EQ(number(far, "kMDItemLongitude"), 10) << "the other coordinate is kept";
+    const MetadataValues past = read("past.jpg");
+    EXPECT_FALSE(past.contains("kMDItemLatitude")) << number(past, "kMDItemLatitude");
+    EXPECT_FALSE(past.contains("kMDItemLongitude")) << number(past, "kMDItemLongitude");
+}
+
 TEST_F(MetadataReaderTest, ReadsFileSystemValuesAndOnlyTheKeysAsked)
 {
     tree.file("notes.txt", "twelve bytes");

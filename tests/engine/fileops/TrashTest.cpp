@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <cstring>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -138,6 +139,25 @@ TEST_F(Trash, AFailedMoveLeavesTheFileAndNoRecord)
     EXPECT_EQ(readFile(path), "keep");
     EXPECT_EQ(QDir(trash + QStringLiteral("/info")).entryList(QDir::Files).size(), 0);
     EXPECT_EQ(QDir(trash + QStringLiteral("/files")).entryList(QDir::Files).size(), 0);
+}
+
+TEST_F(Trash, AFullVolumeSaysSoAndLeavesTheFileInPlace)
+{
+    if (geteuid() != 0) GTEST_SKIP() << "not running as root: cannot mount a small volume";
+    const QString mountPoint = files.folder(QStringLiteral("small"));
+    if (!shell(QStringLiteral("mount -t tmpfs -o size=256k tmpfs \"$0\""), {mountPoint}))
+        GTEST_SKIP() << "could not mount a tmpfs volume";
+    const QString path = files.file(QStringLiteral("small/victim.txt"), "the only copy");
+    QDir().mkpath(mountPoint + QStringLiteral("/.Trash-0/info")); // as a first trash of it would
+    shell(QStringLiteral("dd if=/dev/zero of=\"$0/filler\" bs=4k 2>/dev/null; true"), {mountPoint});
+
+    const TrashResult result = trashItem(path);
+    const QStringList records = QDir(mountPoint + QStringLiteral("/.Trash-0/info")).entryList(QDir::Files);
+    shell(QStringLiteral("umount \"$0\""), {mountPoint});
+    EXPECT_EQ(result.error, ENOSPC);
+    EXPECT_TRUE(result.errorText.contains(QString::fromLocal8Bit(strerror(ENOSPC))))
+        << result.errorText.toStdString();
+    EXPECT_TRUE(records.isEmpty()) << "no record without its file";
 }
 
 TEST_F(Trash, PuttingBackItemsPassesOverTheOthersAndCountsFailures)
