@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringView>
+#include <string>
+#include <string_view>
+
+namespace selfsame
+{
+
+// File names are bytes, and not every name is UTF-8 (Latin-1 names from old disks and
+// archives). A QString holds any name without loss: valid UTF-8 decodes as usual, and each
+// byte of an invalid sequence becomes the lone surrogate U+DC00 + byte (U+DC80 to U+DCFF),
+// which no valid UTF-8 decodes to. So every name from the kernel goes through pathFromBytes,
+// every name given to it through pathBytes, and the round trip gives back the same bytes.
+
+QString pathFromBytes(std::string_view bytes);
+inline QString pathFromBytes(const QByteArray &bytes)
+{
+    return pathFromBytes(std::string_view(bytes.constData(), std::size_t(bytes.size())));
+}
+QByteArray pathBytes(QStringView path);
+std::string pathStdBytes(QStringView path);
+
+// Whether the path holds bytes that are not UTF-8 (shown escaped, saved with their bytes).
+bool hasInvalidBytes(QStringView path);
+
+// The path as a person sees it: every byte that is not UTF-8 as \xFF, the rest as it is.
+QString displayPath(QStringView path);
+
+} // namespace selfsame
