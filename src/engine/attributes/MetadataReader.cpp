@@ -1,6 +1,7 @@
 #include "attributes/MetadataReader.h"
 
 #include "attributes/MetadataSources.h"
+#include "names/FileNames.h"
 
 #include <QFile>
 #include <QMimeDatabase>
@@ -56,7 +57,7 @@ QSet<QString> readableMetadataKeys()
 MetadataValues readMetadata(const QString &path, const QSet<QString> &keys)
 {
     MetadataValues values;
-    const QByteArray localPath = QFile::encodeName(path);
+    const QByteArray localPath = pathBytes(path);
     struct statx st {
     };
     if (keys.isEmpty() ||

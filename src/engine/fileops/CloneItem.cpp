@@ -1,5 +1,7 @@
 #include "fileops/CloneItem.h"
 
+#include "names/FileNames.h"
+
 #include <cerrno>
 #include <cstring>
 #include <dirent.h>
@@ -138,16 +140,16 @@ int cloneFolderAt(int sourceDir, const char *sourceName, int destDir, const char
 
 int cloneItem(const QString &source, const QString &destination, bool isFolder)
 {
-    const QByteArray from = source.toUtf8();
-    const QByteArray to = destination.toUtf8();
+    const QByteArray from = pathBytes(source);
+    const QByteArray to = pathBytes(destination);
     return isFolder ? cloneFolderAt(AT_FDCWD, from.constData(), AT_FDCWD, to.constData())
                     : cloneFileAt(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), false);
 }
 
 int renameNoReplace(const QString &from, const QString &to)
 {
-    const QByteArray f = from.toUtf8();
-    const QByteArray t = to.toUtf8();
+    const QByteArray f = pathBytes(from);
+    const QByteArray t = pathBytes(to);
     if (renameat2(AT_FDCWD, f.constData(), AT_FDCWD, t.constData(), RENAME_NOREPLACE) == 0) return 0;
     if (errno != EINVAL && errno != ENOSYS) return errno;
     // A file system without RENAME_NOREPLACE: check, then rename (a narrow race, never a
@@ -160,7 +162,7 @@ int renameNoReplace(const QString &from, const QString &to)
 
 int removeItem(const QString &path)
 {
-    return removeAt(AT_FDCWD, path.toUtf8().constData());
+    return removeAt(AT_FDCWD, pathBytes(path).constData());
 }
 
 } // namespace selfsame

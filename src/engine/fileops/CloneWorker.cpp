@@ -5,6 +5,7 @@
 #include "fileops/DeleteActions.h"
 #include "fileops/ItemSafety.h"
 #include "format/ByteSize.h"
+#include "names/FileNames.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -37,7 +38,7 @@ QString errorText(int error)
 
 void clearInodeFlags(const QString &path)
 {
-    const int fd = open(path.toUtf8().constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    const int fd = open(pathBytes(path).constData(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
     if (fd < 0) return;
     int flags = 0;
     ioctl(fd, FS_IOC_SETFLAGS, &flags);
@@ -48,9 +49,9 @@ void clearInodeFlags(const QString &path)
 // writable folder when it is ours. The snapshot puts everything back.
 void liftWriteProtection(const QString &path, const FSMetadata &snapshot)
 {
-    if (snapshot.permissions) chmod(path.toUtf8().constData(), (*snapshot.permissions | 0200) & 07777);
+    if (snapshot.permissions) chmod(pathBytes(path).constData(), (*snapshot.permissions | 0200) & 07777);
     clearInodeFlags(path);
-    const QByteArray folder = parentFolder(path).toUtf8();
+    const QByteArray folder = pathBytes(parentFolder(path));
     struct stat st {
     };
     if (stat(folder.constData(), &st) == 0 && st.st_uid == geteuid())
@@ -62,20 +63,20 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
 {
     const QString &path = duplicate.path;
     if (!duplicate.has(IsFolder) && !sameContent(reference.path, path))
-        return tr("“%1” no longer has the content of “%2”").arg(path, reference.path);
+        return tr("“%1” no longer has the content of “%2”").arg(displayPath(path), displayPath(reference.path));
     const FSMetadata snapshot = captureFSMetadata(path);
     if (duplicate.has(ReadOnly)) liftWriteProtection(path, snapshot);
     const QString aside = besidePath(path);
     if (const int error = steps.moveAside(path, aside)) {
         restoreFSMetadata(path, snapshot);
         recordCurrentState(duplicate);
-        return tr("“%1” could not be moved aside: %2").arg(path, errorText(error));
+        return tr("“%1” could not be moved aside: %2").arg(displayPath(path), errorText(error));
     }
     // The original is safe aside only if it is really there; never remove what holds its path otherwise.
     auto asideExists = [&] {
         struct stat st {
         };
-        return lstat(aside.toUtf8().constData(), &st) == 0;
+        return lstat(pathBytes(aside).constData(), &st) == 0;
     };
     auto rollBack = [&] {
         renameNoReplace(aside, path);
@@ -87,12 +88,12 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
             removeItem(path); // a partial clone, if any
             rollBack();
         }
-        return tr("“%1” could not be cloned from “%2”: %3").arg(path, reference.path, errorText(error));
+        return tr("“%1” could not be cloned from “%2”: %3").arg(displayPath(path), displayPath(reference.path), errorText(error));
     }
     struct stat st {
     };
-    if (stat(path.toUtf8().constData(), &st) == 0)
-        chmod(path.toUtf8().constData(), (st.st_mode | 0200) & 07777);
+    if (stat(pathBytes(path).constData(), &st) == 0)
+        chmod(pathBytes(path).constData(), (st.st_mode | 0200) & 07777);
     unsigned failed = steps.restore(path, snapshot);
     // Another owner's file becomes ours when we may not give it back: the user accepted that.
     if (changeOwner && duplicate.has(OtherOwner)) failed &= ~unsigned(RestoreOwner);
@@ -100,11 +101,11 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
         removeItem(path);
         rollBack();
         return tr("The metadata of “%1” could not be carried over to its clone; it was left as it was")
-            .arg(path);
+            .arg(displayPath(path));
     }
     if (const int error = removeItem(aside))
         return tr("“%1” was cloned, but its former copy “%2” could not be removed: %3")
-            .arg(path, aside, errorText(error));
+            .arg(displayPath(path), displayPath(aside), errorText(error));
     restoreParentFolder(path, snapshot);
     return {};
 }
@@ -128,7 +129,7 @@ QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, cons
                                      QList<ResultItem *> &previousClones)
 {
     QList<ResultItem *> kept;
-    const QByteArray ref = reference.path.toUtf8();
+    const QByteArray ref = pathBytes(reference.path);
     struct statfs fs {
     };
     struct stat rs {
@@ -141,7 +142,7 @@ QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, cons
         if (d->has(OtherOwner) && !changeOwner) continue;
         struct stat ds {
         };
-        if (d->path == reference.path || lstat(d->path.toUtf8().constData(), &ds) != 0 ||
+        if (d->path == reference.path || lstat(pathBytes(d->path).constData(), &ds) != 0 ||
             ds.st_dev != rs.st_dev || ds.st_ino == rs.st_ino)
             continue;
         if (d->has(HasAllocDigest) && reference.has(HasAllocDigest) &&
@@ -163,7 +164,7 @@ QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool 
         const int shared = steps.dedupe(reference.path, duplicate.path);
         if (shared == 0) return {};
         if (shared == kContentDiffers)
-            return tr("“%1” no longer has the content of “%2”").arg(duplicate.path, reference.path);
+            return tr("“%1” no longer has the content of “%2”").arg(displayPath(duplicate.path), displayPath(reference.path));
     }
     return cloneByMovingAside(reference, duplicate, changeOwner, steps);
 }
@@ -216,16 +217,13 @@ bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool ch
         for (ResultItem *d : candidates) {
             if (done.contains(d) || !among.contains(d)) continue;
             if (!perform && plan.isOpen()) {
+                // Paths go into the plan as their bytes, as a shell would name them.
                 if (!produced)
-                    plan.write(QString::asprintf("%s (%s on disk) will be cloned to:\n",
-                                                 r->path.toUtf8().constData(),
-                                                 formatByteCount(r->physicalSize).toUtf8().constData())
-                                   .toUtf8());
+                    plan.write(pathBytes(r->path) + " (" + formatByteCount(r->physicalSize).toUtf8() +
+                               " on disk) will be cloned to:\n");
                 const bool writeProtected = d->has(ReadOnly) && !d->has(OtherOwner);
-                plan.write(QString::asprintf("\t%s%s%s\n", d->path.toUtf8().constData(),
-                                             writeProtected ? " (write-protected)" : "",
-                                             d->has(OtherOwner) ? " (other owner)" : "")
-                               .toUtf8());
+                plan.write('\t' + pathBytes(d->path) + (writeProtected ? " (write-protected)" : "") +
+                           (d->has(OtherOwner) ? " (other owner)" : "") + '\n');
                 c.writeProtected += writeProtected ? 1 : 0;
                 c.otherOwner += d->has(OtherOwner) ? 1 : 0;
             } else if (perform) {

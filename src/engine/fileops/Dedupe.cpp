@@ -1,5 +1,7 @@
 #include "fileops/Dedupe.h"
 
+#include "names/FileNames.h"
+
 #include <QtGlobal>
 #include <algorithm>
 #include <cerrno>
@@ -46,10 +48,10 @@ int dedupeOpen(int source, int dest, off_t size)
 
 int dedupeFile(const QString &reference, const QString &duplicate)
 {
-    const int source = open(reference.toUtf8().constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    const int source = open(pathBytes(reference).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
     if (source < 0) return errno;
     // Read-only is enough for the owner; the kernel checks the right to share.
-    const int dest = open(duplicate.toUtf8().constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    const int dest = open(pathBytes(duplicate).constData(), O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
     if (dest < 0) {
         const int error = errno;
         close(source);

@@ -6,9 +6,11 @@
 #include "fileops/ItemSafety.h"
 #include "fileops/Replacement.h"
 #include "fileops/Trash.h"
+#include "names/FileNames.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <unistd.h>
 #include <QSet>
 #include <QUuid>
 #include <cstring>
@@ -61,7 +63,7 @@ void bringBack(DeleteKind kind, const QString &from, const QString &path)
 {
     if (renameNoReplace(from, path) == 0 && kind == DeleteKind::Trash) {
         removePutBackAttribute(path);
-        QFile::remove(trashInfoPathFor(from));
+        unlink(pathBytes(trashInfoPathFor(from)).constData());
     }
 }
 
@@ -166,7 +168,7 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
                     if (const int e = removeItem(away))
                         outcome.error =
                             QCoreApplication::translate("DeleteActions", "“%1” could not be removed: %2")
-                                .arg(away, errorText(e));
+                                .arg(displayPath(away), errorText(e));
                     item->set(Deleted);
                 }
                 // Last, so that the folder's modification time is the one from before.

@@ -3,6 +3,7 @@
 #include "fileops/FSMetadata.h"
 #include "fileops/Replacement.h"
 #include "format/Formatters.h"
+#include "names/FileNames.h"
 
 #include <QCoreApplication>
 #include <QSet>
@@ -34,7 +35,7 @@ QString withRefused(const QString &text, const DeleteReport &report)
     constexpr qsizetype kNamed = 10;
     QStringList names;
     for (qsizetype i = 0; i < std::min(kNamed, report.refused.size()); ++i)
-        names.append(report.refused[i]);
+        names.append(displayPath(report.refused[i]));
     if (report.refused.size() > kNamed)
         names.append(tr("and %1 more").arg(formatCount(report.refused.size() - kNamed)));
     const QString refused = tr("Left alone because they changed since the search, or no unchanged copy of them remains:\n%1")
@@ -49,7 +50,7 @@ QString withRefused(const QString &text, const DeleteReport &report)
 QString displayName(const QString &path)
 {
     const QString name = path.mid(path.lastIndexOf(u'/') + 1);
-    return name.isEmpty() ? path : name;
+    return displayPath(name.isEmpty() ? path : name);
 }
 
 bool isCloneCapableFileSystem(long type)
@@ -122,7 +123,7 @@ CheckOutcome checkFilesystemForDeleteAction(int mode, const QStringList &urls)
     for (const QString &url : urls) {
         struct statfs fs {
         };
-        if (statfs(url.toUtf8().constData(), &fs) != 0) continue;
+        if (statfs(pathBytes(url).constData(), &fs) != 0) continue;
         QString message;
         if (mode == ReplaceWithClone && !isCloneCapableFileSystem(long(fs.f_type)))
             message = tr("Clone files may be unsupported on non APFS volumes");

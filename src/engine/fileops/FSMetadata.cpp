@@ -1,5 +1,7 @@
 #include "fileops/FSMetadata.h"
 
+#include "names/FileNames.h"
+
 #include <acl/libacl.h>
 #include <cstring>
 #include <fcntl.h>
@@ -95,7 +97,7 @@ QString parentFolder(const QString &path)
 FSMetadata captureFSMetadata(const QString &path)
 {
     FSMetadata m;
-    const QByteArray p = path.toUtf8();
+    const QByteArray p = pathBytes(path);
     bool listed = false;
     auto xattrs = readUserXattrs(p.constData(), &listed);
     if (listed && !xattrs.isEmpty()) m.xattr = std::move(xattrs);
@@ -115,7 +117,7 @@ FSMetadata captureFSMetadata(const QString &path)
     }
     struct stat parent {
     };
-    if (stat(parentFolder(path).toUtf8().constData(), &parent) == 0) {
+    if (stat(pathBytes(parentFolder(path)).constData(), &parent) == 0) {
         m.parentModificationTime = parent.st_mtim;
         m.parentPermissions = parent.st_mode;
     }
@@ -124,7 +126,7 @@ FSMetadata captureFSMetadata(const QString &path)
 
 unsigned restoreFSMetadata(const QString &path, const FSMetadata &m)
 {
-    const QByteArray p = path.toUtf8();
+    const QByteArray p = pathBytes(path);
     const char *c = p.constData();
     unsigned failed = 0;
     if (m.xattr) {
@@ -157,7 +159,7 @@ unsigned restoreFSMetadata(const QString &path, const FSMetadata &m)
 unsigned restoreParentFolder(const QString &path, const FSMetadata &m)
 {
     unsigned failed = 0;
-    const QByteArray parent = parentFolder(path).toUtf8();
+    const QByteArray parent = pathBytes(parentFolder(path));
     if (m.parentModificationTime) {
         // Only the modification time: the folder's last-used date is not ours to set.
         const timespec times[2] = {{0, UTIME_OMIT}, *m.parentModificationTime};

@@ -4,10 +4,12 @@
 #include "fileops/DeleteChecks.h"
 #include "fileops/FSMetadata.h"
 #include "fileops/Trash.h"
+#include "names/FileNames.h"
 #include "format/Formatters.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <unistd.h>
 #include <cerrno>
 #include <cstring>
 
@@ -40,7 +42,7 @@ PutBackResult putBackItem(ResultItem &item)
     PutBackResult result = moveBack(trashed, item.path);
     if (result.ok()) {
         removePutBackAttribute(item.path);
-        QFile::remove(trashInfoPathFor(trashed));
+        unlink(pathBytes(trashInfoPathFor(trashed)).constData());
         item.setTrashedURL({});
         item.setStatusImage({});
     }
@@ -52,7 +54,7 @@ PutBackResult putBackFile(const QString &trashedPath, const QString &destination
     PutBackResult result = moveBack(trashedPath, destination);
     if (result.ok()) {
         removePutBackAttribute(trashedPath); // fails unnoticed: the file is no longer there
-        QFile::remove(trashInfoPathFor(trashedPath));
+        unlink(pathBytes(trashInfoPathFor(trashedPath)).constData());
     }
     return result;
 }
@@ -88,7 +90,7 @@ Alert putBackQuestion(const QString &trashedPath, const QString &destination, in
     QStringList buttons{tr("Put Back"), tr("Cancel")};
     if (fileCount >= 2) buttons << tr("Put Back All");
     return Alert{tr("Do you want to put back “%1” to its original location “%2”?")
-                     .arg(displayName(trashedPath), destination),
+                     .arg(displayName(trashedPath), displayPath(destination)),
                  {},
                  buttons,
                  0,
@@ -100,7 +102,7 @@ Alert putBackErrorAlert(const QString &trashedPath, const QString &destination, 
 {
     QStringList buttons{tr("Cancel")};
     if (firstAttempt) buttons << tr("Grant Access to “%1”…").arg(displayName(parentFolder(destination)));
-    return Alert{tr("Error: “%1” could not be put back to “%2”").arg(displayName(trashedPath), destination),
+    return Alert{tr("Error: “%1” could not be put back to “%2”").arg(displayName(trashedPath), displayPath(destination)),
                  errorText, buttons, 0, 0};
 }
 

@@ -2,10 +2,10 @@
 
 #include "fileops/CloneItem.h"
 #include "fileops/FSMetadata.h"
+#include "names/FileNames.h"
 
 #include <QCoreApplication>
 #include <QStringList>
-#include <QUrl>
 #include <cerrno>
 #include <fcntl.h>
 #include <unistd.h>
@@ -89,29 +89,30 @@ QString relativePathFromFolder(const QString &targetPath, const QString &folderP
 int writeDesktopLink(const QString &target, const QString &path)
 {
     const int fd =
-        open(path.toUtf8().constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
+        open(pathBytes(path).constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0644);
     if (fd < 0) return errno;
     const QString name = target.mid(target.lastIndexOf(u'/') + 1);
-    const QByteArray entry = "[Desktop Entry]\nType=Link\nName=" + name.toUtf8() +
-                             "\nURL=" + QUrl::fromLocalFile(target).toEncoded() + '\n';
+    // The URL carries the exact bytes of the target's path; the name is only shown.
+    const QByteArray entry = "[Desktop Entry]\nType=Link\nName=" + displayPath(name).toUtf8() +
+                             "\nURL=" + fileUrl(target).toEncoded() + '\n';
     int error =
         write(fd, entry.constData(), std::size_t(entry.size())) == entry.size() ? 0 : (errno ? errno : EIO);
     if (close(fd) != 0 && !error) error = errno;
-    if (error) unlink(path.toUtf8().constData());
+    if (error) unlink(pathBytes(path).constData());
     return error;
 }
 
 int makeReplacement(int mode, const QString &reference, const QString &path, bool referenceIsFolder)
 {
-    const QByteArray ref = reference.toUtf8();
-    const QByteArray at = path.toUtf8();
+    const QByteArray ref = pathBytes(reference);
+    const QByteArray at = pathBytes(path);
     switch (mode) {
     case ReplaceWithAlias:
         return writeDesktopLink(reference, path);
     case ReplaceWithSymbolicLink:
         return symlink(ref.constData(), at.constData()) == 0 ? 0 : errno;
     case ReplaceWithRelativeSymbolicLink:
-        return symlink(relativePathFromFolder(reference, parentFolder(path)).toUtf8().constData(),
+        return symlink(pathBytes(relativePathFromFolder(reference, parentFolder(path))).constData(),
                        at.constData()) == 0
                    ? 0
                    : errno;

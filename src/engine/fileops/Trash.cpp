@@ -1,6 +1,7 @@
 #include "fileops/Trash.h"
 
 #include "fileops/CloneItem.h"
+#include "names/FileNames.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -32,13 +33,13 @@ dev_t deviceOf(const QString &path)
 {
     struct stat st {
     };
-    return lstat(path.toUtf8().constData(), &st) == 0 ? st.st_dev : dev_t(-1);
+    return lstat(pathBytes(path).constData(), &st) == 0 ? st.st_dev : dev_t(-1);
 }
 
 // The nearest existing folder at or above `path`, for the home trash's device before it exists.
 QString existingAncestor(QString path)
 {
-    while (!QFileInfo::exists(path) && path != u'/')
+    while (deviceOf(path) == dev_t(-1) && path != u'/')
         path = QFileInfo(path).path();
     return path;
 }
@@ -47,12 +48,12 @@ bool isOwnFolder(const QString &path)
 {
     struct stat st {
     };
-    return lstat(path.toUtf8().constData(), &st) == 0 && S_ISDIR(st.st_mode) && st.st_uid == geteuid();
+    return lstat(pathBytes(path).constData(), &st) == 0 && S_ISDIR(st.st_mode) && st.st_uid == geteuid();
 }
 
 bool makePrivateFolder(const QString &path)
 {
-    return mkdir(path.toUtf8().constData(), 0700) == 0 || (errno == EEXIST && isOwnFolder(path));
+    return mkdir(pathBytes(path).constData(), 0700) == 0 || (errno == EEXIST && isOwnFolder(path));
 }
 
 bool prepareTrash(const QString &trash, bool makeParents)
@@ -69,7 +70,7 @@ QString volumeTrashFolder(const QString &top, bool create)
     struct stat st {
     };
     // An administrator's .Trash counts only as a real sticky folder, never through a link.
-    if (lstat(shared.toUtf8().constData(), &st) == 0 && S_ISDIR(st.st_mode) && (st.st_mode & S_ISVTX)) {
+    if (lstat(pathBytes(shared).constData(), &st) == 0 && S_ISDIR(st.st_mode) && (st.st_mode & S_ISVTX)) {
         const QString mine = shared + u'/' + uid;
         if (!create || prepareTrash(mine, false)) return mine;
     }
@@ -110,9 +111,9 @@ int claimInfoFile(const QString &trash, const QString &name, QString *chosen)
         const QString candidate = n == 1 ? name : QStringLiteral("%1 %2%3").arg(stem).arg(n).arg(extension);
         struct stat st {
         };
-        if (lstat((trash + QStringLiteral("/files/") + candidate).toUtf8().constData(), &st) == 0) continue;
+        if (lstat(pathBytes(trash + QStringLiteral("/files/") + candidate).constData(), &st) == 0) continue;
         const QByteArray info =
-            (trash + QStringLiteral("/info/") + candidate + QStringLiteral(".trashinfo")).toUtf8();
+            pathBytes(trash + QStringLiteral("/info/") + candidate + QStringLiteral(".trashinfo"));
         const int fd = open(info.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600);
         if (fd >= 0) {
             close(fd);
@@ -129,11 +130,26 @@ QString errorText(int error)
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
+// The content of a small file (a trash record), empty when it cannot be read.
+QByteArray readSmallFile(const QString &path)
+{
+    QByteArray content;
+    const int fd = open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW);
+    char buffer[4096];
+    for (ssize_t n; fd >= 0 && content.size() < (1 << 20) && (n = read(fd, buffer, sizeof buffer)) != 0;) {
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) break;
+        content.append(buffer, n);
+    }
+    if (fd >= 0) close(fd);
+    return content;
+}
+
 // Writes `data` as the whole content of an existing file; returns the errno of the step that
 // failed (a full disk says ENOSPC, not a vague I/O error), 0 on success.
 int writeWhole(const QString &path, const QByteArray &data)
 {
-    const int fd = open(path.toUtf8().constData(), O_WRONLY | O_TRUNC | O_CLOEXEC | O_NOFOLLOW);
+    const int fd = open(pathBytes(path).constData(), O_WRONLY | O_TRUNC | O_CLOEXEC | O_NOFOLLOW);
     if (fd < 0) return errno;
     int error = 0;
     for (qsizetype done = 0; done < data.size() && !error;) {
@@ -162,7 +178,7 @@ QString topDirectory(const QString &path)
 
 QByteArray encodeTrashInfoPath(const QString &path)
 {
-    return QUrl::toPercentEncoding(path, "/");
+    return percentEncodedPath(path); // the exact bytes: a name that is not UTF-8 comes back whole
 }
 
 QString trashFolderFor(const QString &path)
@@ -175,7 +191,7 @@ TrashResult trashItem(const QString &path)
     TrashResult result;
     struct stat st {
     };
-    if (lstat(path.toUtf8().constData(), &st) != 0) {
+    if (lstat(pathBytes(path).constData(), &st) != 0) {
         result.error = errno;
         result.errorText = errorText(errno);
         return result;
@@ -186,7 +202,7 @@ TrashResult trashItem(const QString &path)
         result.error = EACCES;
         result.errorText =
             QCoreApplication::translate("Trash", "No trash folder could be made on the volume of “%1”.")
-                .arg(path);
+                .arg(displayPath(path));
         return result;
     }
     const QString name = path.mid(path.lastIndexOf(u'/') + 1);
@@ -203,19 +219,19 @@ TrashResult trashItem(const QString &path)
     const QByteArray info = "[Trash Info]\nPath=" + encodeTrashInfoPath(recorded) + "\nDeletionDate=" +
                             QDateTime::currentDateTime().toString(Qt::ISODate).left(19).toUtf8() + '\n';
     if (const int error = writeWhole(infoPath, info)) {
-        QFile::remove(infoPath);
+        unlink(pathBytes(infoPath).constData());
         result.error = error;
         result.errorText = QCoreApplication::translate("Trash", "The trash information of “%1” could not be written: %2")
-                               .arg(path, errorText(error));
+                               .arg(displayPath(path), errorText(error));
         return result;
     }
     if (const int error = renameNoReplace(path, target)) {
-        QFile::remove(infoPath);
+        unlink(pathBytes(infoPath).constData());
         result.error = error;
         result.errorText = errorText(error);
         return result;
     }
-    const QByteArray former = path.toUtf8();
+    const QByteArray former = pathBytes(path);
     // Where user attributes are refused, the Path= line stays the record.
     lsetxattr(target.toUtf8().constData(), kPutBackAttribute, former.constData(), std::size_t(former.size()),
               0);
@@ -225,12 +241,12 @@ TrashResult trashItem(const QString &path)
 
 bool hasPutBackAttribute(const QString &trashedPath)
 {
-    return lgetxattr(trashedPath.toUtf8().constData(), kPutBackAttribute, nullptr, 0) > 0;
+    return lgetxattr(pathBytes(trashedPath).constData(), kPutBackAttribute, nullptr, 0) > 0;
 }
 
 bool removePutBackAttribute(const QString &path)
 {
-    return lremovexattr(path.toUtf8().constData(), kPutBackAttribute) == 0;
+    return lremovexattr(pathBytes(path).constData(), kPutBackAttribute) == 0;
 }
 
 QString trashInfoPathFor(const QString &trashedPath)
@@ -243,19 +259,17 @@ QString trashInfoPathFor(const QString &trashedPath)
 
 QString putBackPath(const QString &trashedPath)
 {
-    const QByteArray p = trashedPath.toUtf8();
+    const QByteArray p = pathBytes(trashedPath);
     const ssize_t size = lgetxattr(p.constData(), kPutBackAttribute, nullptr, 0);
     if (size > 0) {
         QByteArray value(size, Qt::Uninitialized);
         const ssize_t read = lgetxattr(p.constData(), kPutBackAttribute, value.data(), std::size_t(size));
-        if (read > 0) return QString::fromUtf8(value.left(read));
+        if (read > 0) return pathFromBytes(value.left(read));
     }
-    QFile info(trashInfoPathFor(trashedPath));
-    if (!info.open(QIODevice::ReadOnly)) return {};
-    const QList<QByteArray> lines = info.readAll().split('\n');
+    const QList<QByteArray> lines = readSmallFile(trashInfoPathFor(trashedPath)).split('\n');
     for (const QByteArray &line : lines) {
         if (!line.startsWith("Path=")) continue;
-        const QString recorded = QUrl::fromPercentEncoding(line.mid(5).trimmed());
+        const QString recorded = pathFromBytes(QByteArray::fromPercentEncoding(line.mid(5).trimmed()));
         if (recorded.startsWith(u'/')) return recorded;
         // Relative to the volume's top folder, which holds the trash folder.
         QString trash = QFileInfo(QFileInfo(trashedPath).path()).path();

@@ -114,4 +114,35 @@ QString displayPath(QStringView path)
     return shown;
 }
 
+QByteArray percentEncodedPath(const QString &path)
+{
+    static constexpr char kHex[] = "0123456789ABCDEF";
+    QByteArray encoded;
+    for (const char c : pathBytes(path)) {
+        const auto byte = static_cast<unsigned char>(c);
+        const bool plain = (byte >= 'a' && byte <= 'z') || (byte >= 'A' && byte <= 'Z') ||
+                           (byte >= '0' && byte <= '9') || c == '/' || c == '-' || c == '.' || c == '_' ||
+                           c == '~';
+        if (plain) {
+            encoded += c;
+        } else {
+            encoded += '%';
+            encoded += kHex[byte >> 4];
+            encoded += kHex[byte & 0xF];
+        }
+    }
+    return encoded;
+}
+
+QUrl fileUrl(const QString &path)
+{
+    return QUrl::fromEncoded("file://" + percentEncodedPath(path), QUrl::StrictMode);
+}
+
+QString pathFromUrl(const QUrl &url)
+{
+    if (!url.isLocalFile()) return {};
+    return pathFromBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
+}
+
 } // namespace selfsame

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringView>
+#include <QUrl>
 #include <string>
 #include <string_view>
 
@@ -25,6 +26,13 @@ std::string pathStdBytes(QStringView path);
 
 // Whether the path holds bytes that are not UTF-8 (shown escaped, saved with their bytes).
 bool hasInvalidBytes(QStringView path);
+
+// A file URL that carries the path's exact bytes, percent-encoded, and the path of one
+// (QUrl::fromLocalFile and toLocalFile go through UTF-8 and lose what is not).
+QUrl fileUrl(const QString &path);
+QString pathFromUrl(const QUrl &url);
+// The bytes percent-encoded for a URL or a trash record: letters, digits and "/-._~" stay.
+QByteArray percentEncodedPath(const QString &path);
 
 // The path as a person sees it: every byte that is not UTF-8 as \xFF, the rest as it is.
 QString displayPath(QStringView path);

@@ -1,5 +1,7 @@
 #include "results/ChangedItems.h"
 
+#include "names/FileNames.h"
+
 #include <algorithm>
 #include <numeric>
 #include <sys/stat.h>
@@ -13,7 +15,7 @@ namespace {
 bool changed(const ResultItem &item)
 {
     struct stat st;
-    if (::lstat(item.path.toUtf8().constData(), &st) != 0) return true;
+    if (::lstat(pathBytes(item.path).constData(), &st) != 0) return true;
     if (!item.statusImage().isEmpty()) return false; // a link or clone stands there now
     if (quint64(st.st_ino) != item.inode) return true;
     if (item.has(IsFolder)) return !S_ISDIR(st.st_mode);

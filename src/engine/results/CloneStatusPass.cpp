@@ -1,5 +1,7 @@
 #include "results/CloneStatusPass.h"
 
+#include "names/FileNames.h"
+
 #include <sys/stat.h>
 
 namespace selfsame
@@ -11,12 +13,12 @@ namespace
 bool exists(const QString &path)
 {
     struct stat st;
-    return ::stat(path.toUtf8().constData(), &st) == 0;
+    return ::stat(pathBytes(path).constData(), &st) == 0;
 }
 
 bool linkStat(const QString &path, struct stat *st)
 {
-    return ::lstat(path.toUtf8().constData(), st) == 0;
+    return ::lstat(pathBytes(path).constData(), st) == 0;
 }
 
 bool sameAllocation(const ResultItem &a, const ResultItem &b)
@@ -30,7 +32,7 @@ void CloneStatusPass::ensureDigests(ResultItem &item)
 {
     if (item.has(HasDigest)) return;
     if (!m_buffer) m_buffer = std::make_unique<ReadBuffer>(kBufferSize);
-    const DigestResult result = computeDigest(item.path.toUtf8().constData(), item.size, m_ignoreMp4Header,
+    const DigestResult result = computeDigest(pathBytes(item.path).constData(), item.size, m_ignoreMp4Header,
                                               *m_buffer, m_allocStorage);
     if (result.digest) {
         item.digest = *result.digest;

@@ -1,5 +1,7 @@
 #include "results/EnclosingFolders.h"
 
+#include "names/FileNames.h"
+
 #include <QFileInfo>
 #include <sys/stat.h>
 
@@ -13,7 +15,7 @@ bool deviceOf(const QString &path, dev_t *device)
 {
     struct stat st {
     };
-    if (stat(path.toUtf8().constData(), &st) != 0) return false;
+    if (stat(pathBytes(path).constData(), &st) != 0) return false;
     *device = st.st_dev;
     return true;
 }

@@ -1,5 +1,6 @@
 #include "search/ContentSearch.h"
 
+#include "names/FileNames.h"
 #include "results/FileAttributes.h"
 #include "search/Digest.h"
 
@@ -378,8 +379,8 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
         ResultItem &item = items[qsizetype(m)];
         const Name &name = names[m];
         item.path =
-            QString::fromStdString(m_entries.path(name.folder, m_entries.name(name.offset, name.length)));
-        if (item.has(IsFolder)) item.setTagList(readUserTags(item.path.toUtf8().constData()));
+            pathFromBytes(m_entries.path(name.folder, m_entries.name(name.offset, name.length)));
+        if (item.has(IsFolder)) item.setTagList(readUserTags(pathBytes(item.path).constData()));
     }
     return items;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "names/FileNames.h"
 #include "results/ResultItem.h"
 #include "search/ItemMetadata.h"
 #include "search/LargeBlockAllocator.h"
@@ -74,7 +75,7 @@ public:
     const std::string &folderPath(quint32 folder) const { return m_folders[folder]; }
     std::size_t folderCount() const { return m_folders.size(); }
     std::string path(const FileEntry &e) const { return path(e.folder, name(e)); }
-    QString qPath(const FileEntry &e) const { return QString::fromStdString(path(e)); }
+    QString qPath(const FileEntry &e) const { return pathFromBytes(path(e)); }
     // The path of a name in one of the table's folders; the names outlive the entries.
     std::string path(quint32 folder, std::string_view name) const;
 

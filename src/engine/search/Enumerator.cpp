@@ -1,5 +1,6 @@
 #include "search/Enumerator.h"
 
+#include "names/FileNames.h"
 #include "search/AliasFiles.h"
 
 #include <QDir>
@@ -193,7 +194,7 @@ bool Enumerator::Walk::visit(int dirfd, const FolderAccess &folder, quint32 fold
     }
     bool namePasses = true;
     if (!m_request.skipFilenameRegexes.isEmpty()) {
-        const QString qName = QString::fromUtf8(name.data(), qsizetype(name.size()));
+        const QString qName = pathFromBytes(name);
         for (const QRegularExpression &expression : m_request.skipFilenameRegexes) {
             if (expression.match(qName).hasMatch()) {
                 namePasses = false;
@@ -370,7 +371,7 @@ void Enumerator::Walk::list(const Job &job)
 
 void Enumerator::Walk::location(const QString &location)
 {
-    std::string path = QDir::cleanPath(location).toStdString();
+    std::string path = pathStdBytes(QDir::cleanPath(location));
     struct stat st;
     if (path.empty() || stat(path.c_str(), &st) != 0)
         return; // a location that no longer exists is skipped

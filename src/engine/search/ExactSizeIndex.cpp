@@ -1,6 +1,7 @@
 #include "search/ExactSizeIndex.h"
 
 #include "format/Formatters.h"
+#include "names/FileNames.h"
 #include "search/Enumerator.h"
 #include "search/TrackerIndex.h"
 
@@ -28,14 +29,14 @@ QString volumeRoot(const QString &path)
 {
     QString root = QDir::cleanPath(path);
     struct stat st;
-    if (stat(QFile::encodeName(root).constData(), &st) != 0)
+    if (stat(pathBytes(root).constData(), &st) != 0)
         return root;
     if (!S_ISDIR(st.st_mode))
         root = parentFolder(root);
     for (;;) {
         const QString parent = parentFolder(root);
         struct stat up;
-        if (parent == root || stat(QFile::encodeName(parent).constData(), &up) != 0 || up.st_dev != st.st_dev)
+        if (parent == root || stat(pathBytes(parent).constData(), &up) != 0 || up.st_dev != st.st_dev)
             return root;
         root = parent;
     }

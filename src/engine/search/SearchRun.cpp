@@ -2,6 +2,7 @@
 
 #include "attributes/SpotlightAttributesManager.h"
 #include "format/Formatters.h"
+#include "names/FileNames.h"
 #include "results/PathPrefix.h"
 #include "search/ContentSearch.h"
 #include "search/Enumerator.h"
@@ -28,8 +29,8 @@ QStringList realLocations(const QStringList &locations)
     QStringList real;
     for (const QString &location : locations) {
         char resolved[PATH_MAX];
-        const std::string path = QDir::cleanPath(location).toStdString();
-        const QString found = realpath(path.c_str(), resolved) ? QString::fromStdString(resolved) : location;
+        const std::string path = pathStdBytes(QDir::cleanPath(location));
+        const QString found = realpath(path.c_str(), resolved) ? pathFromBytes(std::string_view(resolved)) : location;
         if (!real.contains(found))
             real.append(found);
     }

@@ -1,5 +1,6 @@
 #include "search/SingleFileDuplicates.h"
 
+#include "names/FileNames.h"
 #include "search/DigestCache.h"
 
 #include <QDir>
@@ -20,7 +21,7 @@ qint64 nanoseconds(const statx_timestamp &t) { return qint64(t.tv_sec) * 1'000'0
 // The size of a readable regular file, else nothing.
 std::optional<qint64> regularFileSize(const QString &path)
 {
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = pathBytes(path);
     struct stat st;
     if (lstat(name.constData(), &st) != 0 || !S_ISREG(st.st_mode) || access(name.constData(), R_OK) != 0)
         return std::nullopt;
@@ -93,7 +94,7 @@ QStringList SingleFileDuplicates::identicalAmong(const QString &path, qint64 siz
 
 std::optional<Digest> SingleFileDuplicates::digestOf(const QString &path, qint64 size)
 {
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = pathBytes(path);
     DigestCache *cache = m_context.digestCache;
     std::optional<DigestKey> key;
     std::optional<quint64> knownSample;
@@ -102,7 +103,7 @@ std::optional<Digest> SingleFileDuplicates::digestOf(const QString &path, qint64
         qint64(st.stx_size) == size && nanoseconds(st.stx_ctime) < m_startedNs - cache->options().settleNs &&
         nanoseconds(st.stx_mtime) < m_startedNs - cache->options().settleNs) {
         const auto slash = path.lastIndexOf(u'/');
-        const bool skipped = skipsMp4Header(m_request.ignoreMp4Header, path.mid(slash + 1).toStdString(), size);
+        const bool skipped = skipsMp4Header(m_request.ignoreMp4Header, pathStdBytes(path.mid(slash + 1)), size);
         key = DigestKey{quint64(makedev(st.stx_dev_major, st.stx_dev_minor)), st.stx_ino, size,
                         nanoseconds(st.stx_mtime), nanoseconds(st.stx_ctime), skipped};
         if (const auto known = cache->lookup({*key}).front(); known && known->digest) {

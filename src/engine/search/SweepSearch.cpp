@@ -1,5 +1,6 @@
 #include "search/SweepSearch.h"
 
+#include "names/FileNames.h"
 #include "results/FileAttributes.h"
 #include "search/FilenameSortKey.h"
 
@@ -121,7 +122,7 @@ std::vector<std::size_t> SweepSearch::sortedByName(std::vector<SweepRun> &runs)
     std::vector<QString> comparable(m_entries.size());
     for (std::size_t i = 0; i < m_entries.size(); ++i) {
         const std::string_view name = m_entries.name(m_entries[i]);
-        comparable[i] = key.comparable(key.keyValue(QString::fromUtf8(name.data(), qsizetype(name.size()))));
+        comparable[i] = key.comparable(key.keyValue(pathFromBytes(name)));
     }
     std::vector<std::size_t> sorted = identity(m_entries.size());
     std::stable_sort(sorted.begin(), sorted.end(),
@@ -156,7 +157,7 @@ ResultItem SweepSearch::makeItem(std::size_t index) const
 {
     const FileEntry &entry = m_entries[index];
     ResultItem item = m_entries.resultItem(entry);
-    item.setTagList(readUserTags(item.path.toUtf8().constData()));
+    item.setTagList(readUserTags(pathBytes(item.path).constData()));
     if (m_request.detectionMode != DetectionMode::FileName) {
         const ItemMetadata &metadata = m_entries.metadata(index);
         item.setDuration(metadata.duration);

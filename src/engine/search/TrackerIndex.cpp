@@ -1,5 +1,7 @@
 #include "search/TrackerIndex.h"
 
+#include "names/FileNames.h"
+
 #include <QDBusConnectionInterface>
 #include <QDBusMessage>
 #include <QDBusPendingCall>
@@ -86,7 +88,7 @@ std::vector<std::pair<QString, qint64>> parseRows(const QByteArray &bytes)
         const qint64 value = size.toLongLong(&ok);
         const QUrl parsed = QUrl::fromEncoded(url);
         if (ok && parsed.isLocalFile())
-            rows.emplace_back(parsed.toLocalFile(), value);
+            rows.emplace_back(pathFromUrl(parsed), value);
     }
     return rows;
 }

@@ -56,4 +56,15 @@ TEST(FileNames, NamesThatLookAlikeStayApart)
     EXPECT_EQ(displayPath(pathFromBytes(std::string("a\x80\xc3"))), QStringLiteral("a\\x80\\xC3"));
 }
 
+TEST(FileNames, FileUrlsCarryTheExactBytes)
+{
+    const QString path = pathFromBytes(std::string("/tmp/a b/bad\xff\xc3\xa9%.txt"));
+    const QUrl url = fileUrl(path);
+    EXPECT_EQ(url.toEncoded(), QByteArray("file:///tmp/a%20b/bad%FF%C3%A9%25.txt"));
+    EXPECT_EQ(pathFromUrl(url), path);
+    EXPECT_EQ(pathFromUrl(QUrl::fromLocalFile(QStringLiteral("/x/caf\u00e9 1"))),
+              QStringLiteral("/x/caf\u00e9 1"));
+    EXPECT_TRUE(pathFromUrl(QUrl(QStringLiteral("https://example.org/a"))).isEmpty());
+}
+
 } // namespace
