@@ -21,7 +21,8 @@ struct CsvColumn {
 QString exportedCellText(const ResultItem &item, const QString &column, const QString &spotlightAttribute);
 
 // The items as CSV (RFC 4180, UTF-8): a header of the column titles, then one row per item
-// with the columns in the given order.
+// with the columns in the given order. Invalid bytes of names show as \xFF; when any item's
+// path is not UTF-8, a last column "pathBytes" holds such paths' exact bytes in base64.
 QByteArray exportCsv(const QList<const ResultItem *> &items, const QList<CsvColumn> &columns,
                      const QString &spotlightAttribute);
 
