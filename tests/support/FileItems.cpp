@@ -1,5 +1,6 @@
 #include "support/FileItems.h"
 
+#include "names/FileNames.h"
 #include "search/Digest.h"
 
 #include <QFile>
@@ -17,7 +18,7 @@ ResultItem *ItemGroup::add(const QString &path, int group)
     auto item = std::make_unique<ResultItem>();
     struct stat st {
     };
-    if (lstat(path.toUtf8().constData(), &st) != 0)
+    if (lstat(pathBytes(path).constData(), &st) != 0)
         throw std::runtime_error("no such file " + path.toStdString());
     item->path = path;
     item->size = S_ISDIR(st.st_mode) ? 0 : qint64(st.st_size);
@@ -30,10 +31,10 @@ ResultItem *ItemGroup::add(const QString &path, int group)
     item->inode = st.st_ino;
     item->group = group;
     if (S_ISDIR(st.st_mode)) item->set(IsFolder);
-    if (access(path.toUtf8().constData(), W_OK) != 0) item->set(ReadOnly);
+    if (access(pathBytes(path).constData(), W_OK) != 0) item->set(ReadOnly);
     if (st.st_uid != geteuid()) item->set(OtherOwner);
     if (S_ISREG(st.st_mode)) {
-        const int fd = open(path.toUtf8().constData(), O_RDONLY);
+        const int fd = open(pathBytes(path).constData(), O_RDONLY);
         std::vector<qint64> storage;
         if (const auto alloc = computeAllocDigest(fd, storage)) {
             item->allocDigest = allocationKey(*alloc);
@@ -76,7 +77,7 @@ QByteArray readFile(const QString &path)
 
 bool setImmutable(const QString &path, bool on)
 {
-    const int fd = open(path.toUtf8().constData(), O_RDONLY | O_NONBLOCK);
+    const int fd = open(pathBytes(path).constData(), O_RDONLY | O_NONBLOCK);
     int flags = 0;
     bool ok = fd >= 0 && ioctl(fd, FS_IOC_GETFLAGS, &flags) == 0;
     flags = on ? (flags | FS_IMMUTABLE_FL) : (flags & ~FS_IMMUTABLE_FL);
@@ -89,20 +90,20 @@ struct stat statOf(const QString &path)
 {
     struct stat st {
     };
-    lstat(path.toUtf8().constData(), &st);
+    lstat(pathBytes(path).constData(), &st);
     return st;
 }
 
 QString readLinkText(const QString &path)
 {
     char buffer[4096];
-    const ssize_t n = readlink(path.toUtf8().constData(), buffer, sizeof buffer);
+    const ssize_t n = readlink(pathBytes(path).constData(), buffer, sizeof buffer);
     return n < 0 ? QString() : QString::fromUtf8(buffer, n);
 }
 
 std::optional<Digest> allocDigestOf(const QString &path)
 {
-    const int fd = open(path.toUtf8().constData(), O_RDONLY);
+    const int fd = open(pathBytes(path).constData(), O_RDONLY);
     std::vector<qint64> storage;
     auto digest = fd < 0 ? std::nullopt : computeAllocDigest(fd, storage);
     if (fd >= 0) close(fd);
@@ -111,7 +112,7 @@ std::optional<Digest> allocDigestOf(const QString &path)
 
 int inodeFlagsOf(const QString &path)
 {
-    const int fd = open(path.toUtf8().constData(), O_RDONLY | O_NONBLOCK);
+    const int fd = open(pathBytes(path).constData(), O_RDONLY | O_NONBLOCK);
     int flags = -1;
     if (fd >= 0 && ioctl(fd, FS_IOC_GETFLAGS, &flags) != 0) flags = -1;
     if (fd >= 0) close(fd);

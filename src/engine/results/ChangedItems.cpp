@@ -19,7 +19,8 @@ bool changed(const ResultItem &item)
     if (!item.statusImage().isEmpty()) return false; // a link or clone stands there now
     if (quint64(st.st_ino) != item.inode) return true;
     if (item.has(IsFolder)) return !S_ISDIR(st.st_mode);
-    return qint64(st.st_size) != item.size || qint64(st.st_mtim.tv_sec) != item.modified;
+    return qint64(st.st_size) != item.size || qint64(st.st_mtim.tv_sec) != item.modified ||
+           (item.modifiedNsec >= 0 && st.st_mtim.tv_nsec != item.modifiedNsec);
 }
 
 } // namespace

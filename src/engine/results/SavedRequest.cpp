@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 
 #include <algorithm>
+#include <limits>
+#include <utility>
 
 namespace selfsame {
 
@@ -25,15 +27,29 @@ void writeExpressions(JsonWriter &json, const QList<QRegularExpression> &express
     json.end(']');
 }
 
+// Tolerances are seconds or degrees; beyond this they would overflow when turned into
+// milliseconds or moved dates.
+constexpr double kLargestTolerance = 1e12;
+
 // Reads the parameters one by one and remembers the first that is not as it should be.
 class RequestReader {
 public:
     explicit RequestReader(json::Element object) : m_object(object) {}
 
     bool flag(const char *name, bool &into) { return read(name, json::flag, into); }
-    bool number(const char *name, double &into) { return read(name, json::number, into); }
     bool integer(const char *name, qint64 &into) { return read(name, json::integer, into); }
     bool text(const char *name, QString &into) { return read(name, json::string, into); }
+    // A whole number from `min` to `max`.
+    bool wholeNumber(const char *name, qint64 min, qint64 max, qint64 &into)
+    {
+        const std::optional<json::Element> element = value(name);
+        return element ? check(name, json::wholeNumber(*element, min, max, into)) : fail(name);
+    }
+    bool tolerance(const char *name, double &into)
+    {
+        const std::optional<json::Element> element = value(name);
+        return element ? check(name, json::realNumber(*element, 0, kLargestTolerance, into)) : fail(name);
+    }
     bool texts(const char *name, QStringList &into)
     {
         simdjson::dom::array array;
@@ -42,6 +58,15 @@ public:
             const std::optional<QString> text = json::string(element);
             if (!text) return fail(name);
             into.append(*text);
+        }
+        return true;
+    }
+    bool paths(const char *name, QStringList &into)
+    {
+        if (!texts(name, into)) return false;
+        for (const QString &path : std::as_const(into)) {
+            if (!path.startsWith(u'/')) return fail(name, kRelativePath);
+            if (path.contains(QChar(0))) return fail(name, kPathWithNul);
         }
         return true;
     }
@@ -54,25 +79,39 @@ public:
             const std::optional<QString> text = pattern ? json::string(*pattern) : std::nullopt;
             if (!text) return fail(name);
             QRegularExpression::PatternOptions options = QRegularExpression::UseUnicodePropertiesOption;
-            const std::optional<json::Element> caseInsensitive = json::member(element, "caseInsensitive");
-            if (caseInsensitive && json::flag(*caseInsensitive).value_or(false))
-                options |= QRegularExpression::CaseInsensitiveOption;
+            if (const std::optional<json::Element> caseless = json::member(element, "caseInsensitive")) {
+                const std::optional<bool> on = json::flag(*caseless);
+                if (!on) return fail(name);
+                if (*on) options |= QRegularExpression::CaseInsensitiveOption;
+            }
             into.append(QRegularExpression(*text, options));
+            if (!into.last().isValid()) return fail(name, kBadExpression);
         }
         return true;
     }
     bool has(const char *name) const { return value(name) && !value(name)->is_null(); }
     const QString &error() const { return m_error; }
 
-    bool fail(const char *name)
+private:
+    static constexpr json::Why kRelativePath =
+        QT_TRANSLATE_NOOP("ResultsFile", "the search parameter “%1” holds a path that is not absolute");
+    static constexpr json::Why kPathWithNul =
+        QT_TRANSLATE_NOOP("ResultsFile", "the search parameter “%1” holds a path with a NUL character");
+    static constexpr json::Why kBadExpression =
+        QT_TRANSLATE_NOOP("ResultsFile", "the search parameter “%1” holds an expression that is not valid");
+
+    // A value of the wrong kind reads as a missing one; one out of range says so.
+    bool fail(const char *name, json::Why why = nullptr)
     {
-        if (m_error.isEmpty())
+        if (!m_error.isEmpty()) return false;
+        if (why && qstrcmp(why, json::kNotValid) != 0) // by text: one literal may lie at two addresses
+            m_error = json::refusal(why, name);
+        else
             m_error = QCoreApplication::translate("ResultsFile", "the search parameter “%1” is missing or not valid")
                           .arg(QLatin1String(name));
         return false;
     }
-
-private:
+    bool check(const char *name, json::Why why) { return why ? fail(name, why) : true; }
     std::optional<json::Element> value(const char *name) const { return json::member(m_object, name); }
     template <typename Read, typename T> bool read(const char *name, Read reading, T &into)
     {
@@ -134,26 +173,28 @@ std::optional<SearchRequest> readRequest(json::Element object, QString *error)
 {
     SearchRequest request;
     RequestReader r(object);
+    constexpr qint64 kLargest = std::numeric_limits<qint64>::max();
     qint64 extensionsMode = 0, detectionMode = 0;
     QStringList extensions;
-    bool ok = r.texts("searchInFolderURLs", request.searchInFolderURLs) &&
+    bool ok = r.paths("searchInFolderURLs", request.searchInFolderURLs) &&
               r.flag("findAllDupesForSingleFiles", request.findAllDupesForSingleFiles) &&
               r.flag("skipHiddenFiles", request.skipHiddenFiles) && r.flag("ignoreMp4Header", request.ignoreMp4Header) &&
               r.flag("ignoreClones", request.ignoreClones) && r.integer("limitFolderDepth", request.limitFolderDepth) &&
               r.expressions("skipFilenameRegexes", request.skipFilenameRegexes) &&
-              r.integer("extensionsMode", extensionsMode) && r.texts("extensions", extensions) &&
-              r.flag("filterFileSize", request.filterFileSize) && r.flag("compareFolders", request.compareFolders) &&
-              r.integer("minFileSize", request.minFileSize) && r.integer("maxFileSize", request.maxFileSize) &&
+              r.wholeNumber("extensionsMode", 0, int(ExtensionsMode::AllBut), extensionsMode) &&
+              r.texts("extensions", extensions) && r.flag("filterFileSize", request.filterFileSize) &&
+              r.flag("compareFolders", request.compareFolders) &&
+              r.wholeNumber("minFileSize", 0, kLargest, request.minFileSize) &&
+              r.wholeNumber("maxFileSize", 0, kLargest, request.maxFileSize) &&
               r.flag("ignoreNonWritable", request.ignoreNonWritable) &&
-              r.flag("ignoreOtherOwner", request.ignoreOtherOwner) && r.integer("detectionMode", detectionMode) &&
-              r.number("durationTolerance", request.durationTolerance) &&
+              r.flag("ignoreOtherOwner", request.ignoreOtherOwner) &&
+              r.wholeNumber("detectionMode", 0, int(DetectionMode::Attribute), detectionMode) &&
+              r.tolerance("durationTolerance", request.durationTolerance) &&
               r.text("spotlightAttribute", request.spotlightAttribute) &&
-              r.number("spotlightTolerance", request.spotlightTolerance) &&
+              r.tolerance("spotlightTolerance", request.spotlightTolerance) &&
               r.flag("filenameIgnoreExtension", request.filenameIgnoreExtension);
     if (ok && r.has("filenameIgnoreCommonSuffixRegexes"))
         ok = r.expressions("filenameIgnoreCommonSuffixRegexes", request.filenameIgnoreCommonSuffixRegexes.emplace());
-    if (ok && (extensionsMode < 0 || extensionsMode > int(ExtensionsMode::AllBut))) ok = r.fail("extensionsMode");
-    if (ok && (detectionMode < 0 || detectionMode > int(DetectionMode::Attribute))) ok = r.fail("detectionMode");
     if (!ok) {
         *error = r.error();
         return std::nullopt;

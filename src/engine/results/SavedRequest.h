@@ -15,7 +15,8 @@ class JsonWriter;
 // A search request in saved results: every parameter under its own name, regular
 // expressions by their pattern and case sensitivity.
 void writeRequest(JsonWriter &json, const SearchRequest &request);
-// Nothing, with the reason in `error`, when a parameter is missing or of the wrong kind.
+// Nothing, with the reason naming the parameter in `error`, when one is missing, of the wrong
+// kind or out of its range.
 std::optional<SearchRequest> readRequest(simdjson::dom::element object, QString *error);
 
 } // namespace selfsame

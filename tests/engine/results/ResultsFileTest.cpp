@@ -12,6 +12,7 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QRegularExpression>
 #include <ctime>
 #include <gtest/gtest.h>
 
@@ -110,6 +111,10 @@ TEST(ResultsFile, EveryStoredKeyStateAndRequestParameterSurvives)
     items[4].setTrashedURL(QStringLiteral("/home/u/.local/share/Trash/files/f2a.dat"));
     items[5].set(Deleted);
     items[5].setStatusImage(QStringLiteral("hard linked"));
+    items[4].modifiedNsec = 999'999'999; // in the trash: not looked for, so any value reads back
+    items[4].changedNsec = 0;
+    items[1].modifiedNsec = -1; // unknown, as in results saved before nanoseconds were kept
+    items[1].changedNsec = -1;
 
     SearchRequest request = requestFor(tree);
     request.findAllDupesForSingleFiles = true;
@@ -140,6 +145,8 @@ TEST(ResultsFile, EveryStoredKeyStateAndRequestParameterSurvives)
                 << key << " of " << original.path.toStdString();
         EXPECT_EQ(back->device, original.device);
         EXPECT_EQ(back->inode, original.inode);
+        EXPECT_EQ(back->modifiedNsec, original.modifiedNsec);
+        EXPECT_EQ(back->changedNsec, original.changedNsec);
         // Recorded as a folder, while a file stands there: no longer what was found.
         EXPECT_EQ(back->has(Missing), &original == &items[3]) << original.path.toStdString();
     }
@@ -315,6 +322,147 @@ TEST(ResultsFile, TruncatedForeignDamagedAndNewerFilesAreRefusedWithTheirReason)
 
     // Missing file: the reason is the system's.
     EXPECT_FALSE(ResultsFile::load(tree.path(QStringLiteral("none.selfsame"))).error.isEmpty());
+}
+
+// The plain JSON of two groups of two files, saved from a window.
+QByteArray plainResults(const TempTree &tree)
+{
+    ResultModel model;
+    model.setResults(filesIn(tree, 2), requestFor(tree));
+    QByteArray plain;
+    ResultsFile::write(ResultsFile::contentOf(model), [&](const QByteArray &piece) { plain += piece; });
+    return plain;
+}
+
+// `member` put first into the object that `opening` begins: a key looked up once takes its first
+// value, and an item's keys are read in order, so the member is what the reader meets.
+QByteArray withMember(QByteArray plain, const char *opening, const QByteArray &member)
+{
+    const qsizetype at = plain.indexOf(opening);
+    EXPECT_GE(at, 0) << opening;
+    return plain.insert(at + qsizetype(qstrlen(opening)), member + ',');
+}
+
+// Why the reader refuses `bytes`: the text after "is damaged: ", or the whole message.
+std::string damageOf(const QByteArray &bytes)
+{
+    const ResultsFile::Loaded loaded = ResultsFile::fromBytes(bytes, QStringLiteral("x.selfsame"));
+    EXPECT_FALSE(loaded.model);
+    const QString prefix = QStringLiteral("“x.selfsame” is damaged: ");
+    if (!loaded.error.startsWith(prefix) || !loaded.error.endsWith(u'.')) return loaded.error.toStdString();
+    return loaded.error.sliced(prefix.size()).chopped(1).toStdString();
+}
+
+TEST(ResultsFile, ValuesOfTheWrongKindOrOutOfRangeAreRefusedNamingTheKey)
+{
+    TempTree tree;
+    const QByteArray plain = plainResults(tree);
+    const char *const item = "\"items\":[{", *const group = "\"groups\":[\n{";
+    const char *const request = "\"request\":{", *const topList = "\"topList\":{";
+    const QByteArray hex(128, 'a'), big = "1180591620717411303424"; // 2^70, beyond what the parser holds
+    const struct {
+        const char *opening;
+        QByteArray member;
+        std::string why;
+    } cases[] = {
+        // Values of the right kind but out of their range (the fuzz test tries every wrong kind).
+        {item, "\"size\":-1", "the value of “size” is negative"},
+        {item, "\"physicalSize\":-4096", "the value of “physicalSize” is negative"},
+        {item, "\"itemCount\":-1", "the value of “itemCount” is negative"},
+        {item, "\"size\":9223372036854775808", "the value of “size” is out of range"},
+        {item, "\"path\":\"\"", "the value of “path” is not an absolute path"},
+        {item, "\"path\":\"/tmp/a\\u0000b\"", "the value of “path” contains a NUL character"},
+        {item, "\"trashedURL\":\"Trash/files/a\"", "the value of “trashedURL” is not an absolute path"},
+        {item, "\"trashedURL\":\"/Trash/\\u0000\"", "the value of “trashedURL” contains a NUL character"},
+        {item, "\"device\":-1", "the value of “device” is out of range"},
+        {item, "\"latitude\":90.001", "the value of “latitude” is out of range"},
+        {item, "\"longitude\":-180.5", "the value of “longitude” is out of range"},
+        {item, "\"duration\":-0.5", "the value of “duration” is negative"},
+        {item, "\"bitrate\":-1", "the value of “bitrate” is negative"},
+        {item, "\"statusImage\":\"moved\"", "the value of “statusImage” is not a known status"},
+        {item, "\"digest\":\"" + hex.chopped(2) + "\"",
+         "the value of “digest” is not 128 hexadecimal digits"},
+        {item, "\"allocDigest\":\"" + hex.left(31) + "g\"",
+         "the value of “allocDigest” is not 32 hexadecimal digits"},
+        {item, "\"modifiedNanoseconds\":1000000000", "the value of “modifiedNanoseconds” is out of range"},
+        {item, "\"attributesNanoseconds\":-1", "the value of “attributesNanoseconds” is negative"},
+        {item, "\"tagList\":[\"Red\",1]", "the value of “tagList” is not valid"},
+        {item, "\"row\":-1", "the value of “row” is negative"},
+        {group, "\"group\":-1", "the value of “group” is negative"},
+        {group, "\"group\":2147483648", "the value of “group” is out of range"},
+        {group, "\"size\":-1", "the value of “size” is negative"},
+        {request, "\"detectionMode\":4", "the value of “detectionMode” is out of range"},
+        {request, "\"extensionsMode\":-1", "the value of “extensionsMode” is negative"},
+        {request, "\"minFileSize\":-1", "the value of “minFileSize” is negative"},
+        {request, "\"durationTolerance\":-0.1", "the value of “durationTolerance” is negative"},
+        {request, "\"spotlightTolerance\":1e300", "the value of “spotlightTolerance” is out of range"},
+        {request, "\"maxFileSize\":\"1 GB\"", "the search parameter “maxFileSize” is missing or not valid"},
+        {request, "\"searchInFolderURLs\":[\"/a\",\"b\"]",
+         "the search parameter “searchInFolderURLs” holds a path that is not absolute"},
+        {request, "\"searchInFolderURLs\":[\"/a\\u0000\"]",
+         "the search parameter “searchInFolderURLs” holds a path with a NUL character"},
+        {request, "\"skipFilenameRegexes\":[{\"pattern\":\"(\"}]",
+         "the search parameter “skipFilenameRegexes” holds an expression that is not valid"},
+        {topList, "\"sort\":{\"key\":1,\"ascending\":true}", "the value of “sort” is not valid"},
+        // Numbers the parser cannot hold fail the whole parse; the message still finds the key.
+        {item, "\"inode\":" + big, "the value of “inode” is out of range"},
+        {item, "\"size\":-9223372036854775809", "the value of “size” is out of range"},
+        {item, "\"tagList\":[\"a\",{\"b\":1},1e400]", "the value of “tagList” is out of range"},
+        {item, "\"size\":012", "the value of “size” is not a valid number"},
+        {group, "\"dupes\":" + big, "the value of “dupes” is out of range"},
+        {request, "\"limitFolderDepth\":-" + big, "the value of “limitFolderDepth” is out of range"},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(damageOf(withMember(plain, c.opening, c.member)), c.why) << c.member.toStdString();
+
+    QByteArray sameNumber = plain;
+    sameNumber.replace("{\"group\":1,", "{\"group\":0,");
+    EXPECT_EQ(damageOf(sameNumber), "two groups share the number 0");
+    QByteArray gap = plain;
+    gap.replace("\"row\":3", "\"row\":4");
+    EXPECT_EQ(damageOf(gap), "the top list has gaps");
+}
+
+// The same text with white space after every comma, colon and opening bracket, as JSON tools
+// write it.
+QByteArray spacedOut(const QByteArray &compact)
+{
+    QByteArray spaced = "\n  ";
+    bool inString = false, escaped = false;
+    for (const char c : compact) {
+        spaced += c;
+        if (inString) {
+            escaped = !escaped && c == '\\';
+            inString = escaped || c != '"';
+        } else if (c == '"') {
+            inString = true;
+        } else if (c == ',' || c == ':' || c == '{' || c == '[') {
+            spaced += c == ',' ? "\n\t" : " ";
+        }
+    }
+    return spaced;
+}
+
+TEST(ResultsFile, FilesRewrittenWithWhiteSpaceAreStillRecognised)
+{
+    TempTree tree;
+    const QByteArray plain = plainResults(tree);
+    const QByteArray spaced = spacedOut(plain);
+    ASSERT_FALSE(spaced.contains("{\"format\":")); // really spaced out
+    ResultsFile::Loaded loaded = ResultsFile::fromBytes(spaced, QStringLiteral("x.selfsame"));
+    ASSERT_TRUE(loaded.model) << loaded.error.toStdString();
+    EXPECT_EQ(loaded.model->allItems().size(), 4);
+    EXPECT_EQ(loaded.model->request().searchInFolderURLs, requestFor(tree).searchInFolderURLs);
+
+    // Recognised as ours, so a number too large is named rather than the file called foreign.
+    const QByteArray large = QString::fromUtf8(spaced)
+                                 .replace(QRegularExpression(QStringLiteral("\"inode\": [0-9]+")),
+                                          QStringLiteral("\"inode\": 1180591620717411303424"))
+                                 .toUtf8();
+    EXPECT_EQ(damageOf(large), "the value of “inode” is out of range");
+    EXPECT_NE(damageOf(spaced.chopped(3)).find("is incomplete"), std::string::npos);
+    EXPECT_NE(damageOf(" { \"format\" : \"other\", \"groups\": [] }").find("not a Selfsame results file"),
+              std::string::npos);
 }
 
 TEST(ResultsFile, CsvExportHasTheGivenColumnsInOrder)
