@@ -1,5 +1,6 @@
 #include "CliOptions.h"
 
+#include "CliPaths.h"
 #include "SelectOptions.h"
 
 #include "attributes/SpotlightAttributesManager.h"
@@ -7,8 +8,6 @@
 #include "search/NamePatterns.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
 #include <QRegularExpression>
 
 namespace selfsame::cli {
@@ -71,6 +70,9 @@ QString usageText()
               "  --list-attributes [EXT]    list the attributes (key, name, type, description), or those\n"
               "                             that files with this extension can carry, and exit\n"
               "  --format text|json|csv     output format (default text: a blank line between groups)\n"
+              "  -0, --print0               text output with each path as its exact bytes ended by a NUL\n"
+              "                             instead of a newline, and one more NUL ending each group\n"
+              "                             (text format only; for actions see below)\n"
               "  --summary                  counts to standard error\n"
               "  --anywhere                 the first path is a file: find its copies in the other paths,\n"
               "                             or without them anywhere on the file's drive\n"
@@ -82,6 +84,11 @@ QString usageText()
               "\n") +
            selectUsageText() +
            tr("\n"
+              "Without --print0 every path is shown on one line, escaped much as ls -b does: \\\\ for a\n"
+              "backslash; \\n, \\t, \\r, \\a, \\b, \\f, \\v for those control characters; \\xHH for the\n"
+              "bytes of any other control character and for each byte that is not UTF-8 (\\xFF); spaces\n"
+              "stay as they are. Messages and file-action lines show paths the same way.\n"
+              "\n"
               "Exit status: 0 duplicates found, 1 none found, 2 bad usage or input, 130 interrupted.\n");
 }
 
@@ -95,7 +102,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
     bool extensionGiven = false;
     std::optional<double> tolerance;
     std::optional<QString> suffixes;
-    bool ignoreSuffixes = false, attributeGiven = false, anywhere = false;
+    bool ignoreSuffixes = false, attributeGiven = false, anywhere = false, print0 = false;
     SelectRequest select;
     auto fail = [&](const QString &error) {
         result.error = error;
@@ -171,6 +178,8 @@ ParseResult parseCommandLine(const QStringList &arguments)
                 options.format = OutputFormat::Csv;
             else
                 return fail(tr("--format takes text, json or csv, not '%1'").arg(value));
+        } else if (argument == QLatin1String("-0") || argument == QLatin1String("--print0")) {
+            print0 = true;
         } else if (argument == QLatin1String("--summary")) {
             options.summary = true;
         } else if (argument == QLatin1String("--anywhere")) {
@@ -229,6 +238,11 @@ ParseResult parseCommandLine(const QStringList &arguments)
     if (options.help || options.version || options.listAttributes)
         return result;
 
+    if (print0 && options.format != OutputFormat::Text)
+        return fail(tr("--print0 goes with the text format only"));
+    if (print0)
+        options.format = OutputFormat::NulTerminated;
+
     const DetectionMode mode = request.detectionMode;
     if (tolerance && mode != DetectionMode::Duration && mode != DetectionMode::Attribute)
         return fail(tr("--tolerance applies to the duration and attribute modes only"));
@@ -272,14 +286,14 @@ ParseResult parseCommandLine(const QStringList &arguments)
     if (paths.isEmpty())
         return fail(tr("no folder or file to search"));
     if (anywhere) {
-        const QFileInfo file(paths.takeFirst());
-        if (!file.isFile() || file.isSymLink())
-            return fail(tr("--anywhere needs a file, not '%1'").arg(file.filePath()));
-        request.searchInFolderURLs.append(QDir::cleanPath(file.absoluteFilePath()));
+        const QString file = paths.takeFirst();
+        if (!isPlainFile(file))
+            return fail(tr("--anywhere needs a file, not '%1'").arg(escapedText(file)));
+        request.searchInFolderURLs.append(absolutePath(file));
         request.findAllDupesForSingleFiles = true;
         for (const QString &path : paths) {
-            if (QFileInfo::exists(path))
-                options.singleFileScope.append(QDir::cleanPath(QFileInfo(path).absoluteFilePath()));
+            if (pathExists(path))
+                options.singleFileScope.append(absolutePath(path));
             else
                 options.missingPaths.append(path);
         }
@@ -288,12 +302,11 @@ ParseResult parseCommandLine(const QStringList &arguments)
         return result;
     }
     for (const QString &path : paths) {
-        const QFileInfo info(path);
-        if (!info.exists()) {
+        if (!pathExists(path)) {
             options.missingPaths.append(path);
             continue;
         }
-        request.searchInFolderURLs.append(QDir::cleanPath(info.absoluteFilePath()));
+        request.searchInFolderURLs.append(absolutePath(path));
     }
     if (request.searchInFolderURLs.isEmpty())
         result.error = tr("none of the given paths exists");

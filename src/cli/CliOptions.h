@@ -10,7 +10,8 @@
 
 namespace selfsame::cli {
 
-enum class OutputFormat { Text, Json, Csv };
+// NulTerminated is the text format with each path as its exact bytes ended by a NUL (--print0).
+enum class OutputFormat { Text, Json, Csv, NulTerminated };
 
 struct CliOptions {
     SearchRequest request;

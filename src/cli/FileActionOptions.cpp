@@ -1,9 +1,9 @@
 #include "FileActionOptions.h"
 
+#include "CliPaths.h"
 #include "fileops/Replacement.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 namespace selfsame::cli
 {
@@ -61,7 +61,7 @@ QString takeFileActionOptions(QStringList &arguments, FileActionOptions *options
                     .arg(value);
             *given = true;
         } else if (argument == u"--plan") {
-            options->planPath = QFileInfo(value).absoluteFilePath();
+            options->planPath = absolutePath(value);
         } else if (argument == u"--yes") {
             yes = true;
         } else if (argument == u"--dry-run") {
@@ -90,6 +90,9 @@ QString fileActionUsageText()
               "                             a link mode deletes the copy and puts the link at its path\n"
               "  --plan FILE                write the cloning plan there (--replace-with clone alone)\n"
               "  --yes                      act; without it the actions are only shown (--dry-run)\n"
+              "With --print0 standard output lists only the path of each copy acted on (or that would be),\n"
+              "each as its exact bytes ended by a NUL; a clone dry run then shows no plan (see --plan).\n"
+              "Failures and counts go to standard error as usual.\n"
               "Exit status with an action: 0 all done (or would be), 1 anything failed or was refused.\n");
 }
 

@@ -1,5 +1,6 @@
 #include "FileActions.h"
 
+#include "CliPaths.h"
 #include "fileops/CloneAlerts.h"
 #include "fileops/CloneWorker.h"
 #include "fileops/DeleteActions.h"
@@ -46,7 +47,7 @@ QList<ActionGroup> safeGroups(const QList<ActionGroup> &groups, const Writer &er
         if (!g.reference || g.selected.size() >= g.members.size() || g.selected.contains(g.reference)) {
             ++*refused;
             err(tr("refused: %1: every copy of its group is selected\n")
-                    .arg(g.selected.first()->path)
+                    .arg(escapedText(g.selected.first()->path))
                     .toUtf8());
             continue;
         }
@@ -64,12 +65,15 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
     int changed = 0;
     for (const ActionGroup &g : groups) {
         const QString replacement =
-            mode ? tr(", replaced by %1 to %2").arg(modeName(mode), g.reference->path) : QString();
+            mode ? tr(", replaced by %1 to %2").arg(modeName(mode), escapedText(g.reference->path))
+                 : QString();
         if (!options.perform) {
             for (const ResultItem *item : g.selected) {
-                out((trash ? tr("would move to the trash: %1%2\n") : tr("would delete: %1%2\n"))
-                        .arg(item->path, replacement)
-                        .toUtf8());
+                out(options.print0
+                        ? nulTerminatedPath(item->path)
+                        : (trash ? tr("would move to the trash: %1%2\n") : tr("would delete: %1%2\n"))
+                              .arg(escapedText(item->path), replacement)
+                              .toUtf8());
                 ++done;
             }
             continue;
@@ -80,16 +84,18 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
         for (const DeleteOutcome &o : report.outcomes) {
             if (o.status.isEmpty()) {
                 ++failures;
-                err(tr("failed: %1: %2\n").arg(o.item->path, o.error).toUtf8());
+                err(tr("failed: %1: %2\n").arg(escapedText(o.item->path), escapedText(o.error)).toUtf8());
                 continue;
             }
             ++done;
-            const QString where =
-                o.item->trashedURL().isEmpty() ? QString() : tr(" (now %1)").arg(o.item->trashedURL());
-            out((trash ? tr("moved to the trash: %1%2%3\n") : tr("deleted: %1%2%3\n"))
-                    .arg(o.item->path, replacement, where)
-                    .toUtf8());
-            if (!o.error.isEmpty()) err(tr("warning: %1\n").arg(o.error).toUtf8());
+            const QString where = o.item->trashedURL().isEmpty()
+                                      ? QString()
+                                      : tr(" (now %1)").arg(escapedText(o.item->trashedURL()));
+            out(options.print0 ? nulTerminatedPath(o.item->path)
+                               : (trash ? tr("moved to the trash: %1%2%3\n") : tr("deleted: %1%2%3\n"))
+                                     .arg(escapedText(o.item->path), replacement, where)
+                                     .toUtf8());
+            if (!o.error.isEmpty()) err(tr("warning: %1\n").arg(escapedText(o.error)).toUtf8());
         }
     }
     const QString summary = options.perform
@@ -123,9 +129,10 @@ int runClones(const FileActionOptions &options, const QList<ActionGroup> &groups
     CloneCounts counts;
     worker.perform(false, true, true, &counts);
     if (!options.planPath.isEmpty())
-        err(tr("plan written to %1\n").arg(options.planPath).toUtf8());
-    else if (QFile plan(worker.logFilePath()); !options.perform && plan.open(QIODevice::ReadOnly))
-        out(plan.readAll());
+        err(tr("plan written to %1\n").arg(escapedText(options.planPath)).toUtf8());
+    else if (QFile plan(worker.logFilePath());
+             !options.perform && !options.print0 && plan.open(QIODevice::ReadOnly))
+        out(plan.readAll()); // free text, not NUL-ended paths: left out with --print0
     if (counts.replaceDuplicates == 0 || counts.byClones == 0) {
         err(tr("%1\n").arg(noClonableFileAlert().message).toUtf8());
         return 1;
@@ -137,9 +144,10 @@ int runClones(const FileActionOptions &options, const QList<ActionGroup> &groups
     }
     worker.perform(true, true, true);
     for (const ResultItem *item : worker.cloned())
-        out(tr("cloned: %1\n").arg(item->path).toUtf8());
+        out(options.print0 ? nulTerminatedPath(item->path)
+                           : tr("cloned: %1\n").arg(escapedText(item->path)).toUtf8());
     for (const CloneFailure &f : worker.failures())
-        err(tr("failed: %1: %2\n").arg(f.item->path, f.reason).toUtf8());
+        err(tr("failed: %1: %2\n").arg(escapedText(f.item->path), escapedText(f.reason)).toUtf8());
     failures += int(worker.failures().size());
     err(tr("%1 cloned, %2 failed\n").arg(worker.cloned().size()).arg(failures).toUtf8());
     return failures == 0 ? 0 : 1;

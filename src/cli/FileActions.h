@@ -19,6 +19,7 @@ struct FileActionOptions {
     int replaceWith = 0;  // ReplaceWithMode
     bool perform = false; // false: only say what would be done
     QString planPath;     // where the clone plan goes (replace by clones)
+    bool print0 = false;  // standard output lists only the paths acted on, exact and NUL-terminated
 };
 
 // One duplicate group: the copy the selection rule keeps, and the copies it selected.
@@ -36,7 +37,8 @@ using Writer = std::function<void(const QByteArray &)>;
 
 // Acts on the selected copies of each group: moves them to the trash or deletes them, with
 // the replacement of `replaceWith` pointing at the group's kept copy; with a clone mode and
-// no action, replaces them by clones of it in place. Prints one line per file and a summary.
+// no action, replaces them by clones of it in place. Prints one line per file (paths escaped,
+// or with print0 only each exact path and a NUL) and a summary.
 // Returns 0 when everything succeeded (or would), 1 when anything failed.
 int runFileActions(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
                    const Writer &err);

@@ -1,10 +1,10 @@
 #include "PutBackCommand.h"
 
+#include "CliPaths.h"
 #include "fileops/PutBack.h"
 #include "fileops/Trash.h"
 
 #include <QCoreApplication>
-#include <QFileInfo>
 
 namespace selfsame::cli
 {
@@ -30,20 +30,22 @@ int runPutBack(const QStringList &files, const std::function<void(const QByteArr
     }
     int failures = 0;
     for (const QString &file : files) {
-        const QString trashed = QFileInfo(file).absoluteFilePath();
+        const QString trashed = absolutePath(file);
         const QString destination = putBackPath(trashed);
         if (destination.isEmpty()) {
             ++failures;
-            err(tr("not put back: %1: no record of where it came from\n").arg(trashed).toUtf8());
+            err(tr("not put back: %1: no record of where it came from\n").arg(escapedText(trashed)).toUtf8());
             continue;
         }
         const PutBackResult result = putBackFile(trashed, destination);
         if (!result.ok()) {
             ++failures;
-            err(tr("not put back: %1 -> %2: %3\n").arg(trashed, destination, result.errorText).toUtf8());
+            err(tr("not put back: %1 -> %2: %3\n")
+                    .arg(escapedText(trashed), escapedText(destination), escapedText(result.errorText))
+                    .toUtf8());
             continue;
         }
-        out(tr("put back: %1 -> %2\n").arg(trashed, destination).toUtf8());
+        out(tr("put back: %1 -> %2\n").arg(escapedText(trashed), escapedText(destination)).toUtf8());
     }
     err(tr("%1 put back, %2 failed\n").arg(files.size() - failures).arg(failures).toUtf8());
     return failures == 0 ? 0 : 1;

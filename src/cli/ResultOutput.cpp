@@ -1,6 +1,8 @@
 #include "ResultOutput.h"
 
+#include "CliPaths.h"
 #include "format/IsoDate.h"
+#include "names/FileNames.h"
 #include "results/JsonWriter.h"
 #include "results/ResultsFile.h"
 
@@ -16,7 +18,7 @@ namespace {
 
 QByteArray csvField(const QString &text)
 {
-    QByteArray field = text.toUtf8();
+    QByteArray field = displayPath(text).toUtf8();
     if (field.contains(',') || field.contains('"') || field.contains('\n') || field.contains('\r'))
         field = '"' + field.replace("\"", "\"\"") + '"';
     return field;
@@ -106,22 +108,29 @@ void writeResults(const QList<ResultItem> &items, const SearchRequest &request, 
     };
     switch (format) {
     case OutputFormat::Text:
+    case OutputFormat::NulTerminated: {
+        // A blank line between groups, or a NUL ending each: an empty record either way.
+        const bool nul = format == OutputFormat::NulTerminated;
         for (qsizetype g = 0; g < groups.size(); ++g) {
-            if (g > 0)
+            if (g > 0 && !nul)
                 out += '\n';
             for (const ResultItem *item : groups[g]) {
                 if (selection) {
                     const char *mark = autoSelectMark(*selection, *item);
                     out += mark == nullptr ? "  " : selection->isSelected(item) ? "select " : "keep ";
                 }
-                out += item->path.toUtf8() + '\n';
+                out += nul ? nulTerminatedPath(item->path) : escapedText(item->path).toUtf8() + '\n';
             }
+            if (nul)
+                out += '\0';
             flushLarge();
         }
         break;
+    }
     case OutputFormat::Csv:
-        out += selection ? "group,dupes,size,physicalSize,modified,isFolder,autoSelect,path\n"
-                         : "group,dupes,size,physicalSize,modified,isFolder,path\n";
+        // pathBytes: the exact bytes, base64, of a path that is not UTF-8 (shown with \xFF escapes).
+        out += selection ? "group,dupes,size,physicalSize,modified,isFolder,autoSelect,path,pathBytes\n"
+                         : "group,dupes,size,physicalSize,modified,isFolder,path,pathBytes\n";
         for (const QList<const ResultItem *> &group : groups)
             for (const ResultItem *item : group) {
                 out += QByteArray::number(item->group) + ',' + QByteArray::number(item->dupes) + ',' +
@@ -129,7 +138,8 @@ void writeResults(const QList<ResultItem> &items, const SearchRequest &request, 
                        isoDate(item->modified) + ',' + (item->has(IsFolder) ? "1" : "0") + ',';
                 if (selection)
                     out += QByteArray(autoSelectMark(*selection, *item)) + ',';
-                out += csvField(item->path) + '\n';
+                out += csvField(item->path) + ',' +
+                       (hasInvalidBytes(item->path) ? pathBytes(item->path).toBase64() : QByteArray()) + '\n';
                 flushLarge();
             }
         break;

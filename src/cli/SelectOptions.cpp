@@ -1,8 +1,8 @@
 #include "SelectOptions.h"
 
+#include "CliPaths.h"
+
 #include <QCoreApplication>
-#include <QDir>
-#include <QFileInfo>
 
 namespace selfsame::cli
 {
@@ -89,10 +89,9 @@ QString selectSettings(const SelectRequest &request, AutoSelectSettings *setting
         return tr("unknown rule for --select: '%1' (same-folder-name, same-folder, folder or tag)")
             .arg(request.rule);
     if (s.choice == InsideFolder) {
-        const QFileInfo folder(request.operand);
-        if (request.operand.isEmpty() || !folder.isDir())
-            return tr("--select folder needs an existing folder, not '%1'").arg(request.operand);
-        s.folder = QDir::cleanPath(folder.absoluteFilePath());
+        if (!isFolder(request.operand))
+            return tr("--select folder needs an existing folder, not '%1'").arg(escapedText(request.operand));
+        s.folder = absolutePath(request.operand);
     }
     s.tagValue = request.operand;
     bool tagless = false;

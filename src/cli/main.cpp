@@ -2,6 +2,7 @@
 
 #include "AttributeListing.h"
 #include "CliOptions.h"
+#include "CliPaths.h"
 #include "FileActionOptions.h"
 #include "FileActions.h"
 #include "PutBackCommand.h"
@@ -46,24 +47,26 @@ void showProgress(const QString &status)
 {
     winsize size{};
     const int width = ioctl(STDERR_FILENO, TIOCGWINSZ, &size) == 0 && size.ws_col > 1 ? size.ws_col - 1 : 79;
-    writeAll(stderr, "\r\x1b[K" + status.left(width).toUtf8());
+    writeAll(stderr, "\r\x1b[K" + escapedText(status).left(width).toUtf8());
 }
 
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    // Paths are bytes: read them before Qt decodes them lossily (or takes out its own options).
+    const QStringList commandLine = argumentsFromBytes(argc, argv);
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("selfsame-cli"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
 
-    if (app.arguments().value(1) == u"put-back")
-        return runPutBack(app.arguments().mid(2), [](const QByteArray &b) { writeAll(stdout, b); },
+    if (commandLine.value(1) == u"put-back")
+        return runPutBack(commandLine.mid(2), [](const QByteArray &b) { writeAll(stdout, b); },
                           [](const QByteArray &b) { writeAll(stderr, b); });
 
-    if (app.arguments().value(1) == u"clear-cache" && app.arguments().size() == 2) {
-        const QString path = DigestCache::defaultPath();
-        if (!DigestCache::clear(path)) {
+    if (commandLine.value(1) == u"clear-cache" && commandLine.size() == 2) {
+        const QString path = escapedText(DigestCache::defaultPath());
+        if (!DigestCache::clear(DigestCache::defaultPath())) {
             writeAll(stderr, QStringLiteral("selfsame-cli: cannot remove the digest cache %1\n").arg(path).toUtf8());
             return 1;
         }
@@ -71,7 +74,7 @@ int main(int argc, char *argv[])
         return 0;
     }
 
-    QStringList arguments = app.arguments().mid(1);
+    QStringList arguments = commandLine.mid(1);
     FileActionOptions actionOptions;
     bool acting = false;
     if (const QString error = takeFileActionOptions(arguments, &actionOptions, &acting); !error.isEmpty()) {
@@ -84,6 +87,7 @@ int main(int argc, char *argv[])
         writeAll(stdout, (usageText() + u'\n' + fileActionUsageText()).toUtf8());
         return 0;
     }
+    actionOptions.print0 = options.format == OutputFormat::NulTerminated;
     if (acting && !options.select && parsed.error.isEmpty()) {
         writeAll(stderr, QCoreApplication::translate("selfsame-cli", "selfsame-cli: --trash, --delete and "
                                                                      "--replace-with act on the copies that "
@@ -112,7 +116,8 @@ int main(int argc, char *argv[])
         return 0;
     }
     for (const QString &missing : options.missingPaths)
-        writeAll(stderr, QStringLiteral("selfsame-cli: no such file or folder: %1\n").arg(missing).toUtf8());
+        writeAll(stderr,
+                 QStringLiteral("selfsame-cli: no such file or folder: %1\n").arg(escapedText(missing)).toUtf8());
     if (!parsed.error.isEmpty()) {
         writeAll(stderr, QStringLiteral("selfsame-cli: %1\n").arg(parsed.error).toUtf8());
         if (parsed.showUsage)

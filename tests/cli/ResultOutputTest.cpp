@@ -1,5 +1,6 @@
 #include "ResultOutput.h"
 
+#include "names/FileNames.h"
 #include "results/ResultsFile.h"
 
 #include <QJsonArray>
@@ -53,15 +54,21 @@ TEST(ResultOutput, SummaryFreesEachDistinctStorageOnce)
 TEST(ResultOutput, TextAndCsvListGroupsInOrder)
 {
     EXPECT_EQ(formatResults(kItems, {}, OutputFormat::Text, {}).toStdString(),
-              "/t/a.txt\n/t/b,\"q\"\\\t.txt\n/t/données 写真.txt\n\n"
+              "/t/a.txt\n/t/b,\"q\"\\\\\\t.txt\n/t/données 写真.txt\n\n"
               "/t/y.txt\n/t/z.txt\n/u/x.txt\n\n"
               "/v/clone1\n/v/clone2\n");
 
     const QList<QByteArray> rows = formatResults(kItems, {}, OutputFormat::Csv, {}).split('\n');
     ASSERT_EQ(rows.size(), 1 + 8 + 1); // header, items, nothing after the last newline
-    EXPECT_TRUE(rows[0].startsWith("group,") && rows[0].endsWith(",path")) << rows[0].toStdString();
-    EXPECT_EQ(rows[1].toStdString(), "1,3,100,4096,2021-01-01T00:00:00Z,0,/t/a.txt");
-    EXPECT_EQ(rows[2].toStdString(), "1,3,100,4096,2021-01-01T00:00:00Z,0,\"/t/b,\"\"q\"\"\\\t.txt\"");
+    EXPECT_TRUE(rows[0].startsWith("group,") && rows[0].endsWith(",path,pathBytes")) << rows[0].toStdString();
+    EXPECT_EQ(rows[1].toStdString(), "1,3,100,4096,2021-01-01T00:00:00Z,0,/t/a.txt,");
+    EXPECT_EQ(rows[2].toStdString(), "1,3,100,4096,2021-01-01T00:00:00Z,0,\"/t/b,\"\"q\"\"\\\t.txt\",");
+
+    // A name that is not UTF-8 shows escaped, and its exact bytes follow in base64.
+    const QByteArray latin1("/t/caf\xe9.txt");
+    const QByteArray csv = formatResults({item(pathFromBytes(latin1), 0, 5, 1, 1), item("/t/cafe.txt", 0, 5, 1, 2)}, {},
+                                         OutputFormat::Csv, {});
+    EXPECT_TRUE(csv.contains(",/t/caf\\xE9.txt," + latin1.toBase64() + '\n')) << csv.toStdString();
 }
 
 TEST(ResultOutput, JsonHoldsGroupsItemsAndSummary)

@@ -89,12 +89,15 @@ TEST(SelectOutput, EveryFormatSaysWhatTheRuleDecided)
     EXPECT_EQ(formatResults(items, {}, OutputFormat::Text, {}, &selection).toStdString(),
               "keep /t/a\nselect /t/b\n\n  /t/c\n  /t/d\n");
     EXPECT_EQ(formatResults(items, {}, OutputFormat::Text, {}).toStdString(), "/t/a\n/t/b\n\n/t/c\n/t/d\n");
+    const char nulTerminated[] = "keep /t/a\0select /t/b\0\0  /t/c\0  /t/d\0\0";
+    EXPECT_EQ(formatResults(items, {}, OutputFormat::NulTerminated, {}, &selection),
+              QByteArray(nulTerminated, sizeof nulTerminated - 1));
 
     const QList<QByteArray> rows = formatResults(items, {}, OutputFormat::Csv, {}, &selection).split('\n');
-    EXPECT_TRUE(rows[0].endsWith(",autoSelect,path"));
-    EXPECT_TRUE(rows[1].endsWith(",kept,/t/a"));
-    EXPECT_TRUE(rows[2].endsWith(",selected,/t/b"));
-    EXPECT_TRUE(rows[3].endsWith(",0,,/t/c"));
+    EXPECT_TRUE(rows[0].endsWith(",autoSelect,path,pathBytes"));
+    EXPECT_TRUE(rows[1].endsWith(",kept,/t/a,"));
+    EXPECT_TRUE(rows[2].endsWith(",selected,/t/b,"));
+    EXPECT_TRUE(rows[3].endsWith(",0,,/t/c,"));
 
     const QJsonObject json =
         QJsonDocument::fromJson(formatResults(items, {}, OutputFormat::Json, {}, &selection)).object();

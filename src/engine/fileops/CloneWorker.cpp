@@ -201,8 +201,11 @@ bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool ch
             m_planFolder = makePlanFolder();
             if (m_planFolder->isValid()) path = m_planFolder->filePath(QStringLiteral("Selfsame.log"));
         }
-        plan.setFileName(path);
-        if (!path.isEmpty() && plan.open(QIODevice::WriteOnly | QIODevice::Truncate)) m_logFilePath = path;
+        // Opened by its bytes: a plan may be asked for under any name.
+        const int fd = path.isEmpty() ? -1
+                                      : open(pathBytes(path).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+        if (fd >= 0 && plan.open(fd, QIODevice::WriteOnly, QFileDevice::AutoCloseHandle)) m_logFilePath = path;
+        else if (fd >= 0) close(fd);
     }
 
     QSet<ResultItem *> done;

@@ -233,7 +233,7 @@ TrashResult trashItem(const QString &path)
     }
     const QByteArray former = pathBytes(path);
     // Where user attributes are refused, the Path= line stays the record.
-    lsetxattr(target.toUtf8().constData(), kPutBackAttribute, former.constData(), std::size_t(former.size()),
+    lsetxattr(pathBytes(target).constData(), kPutBackAttribute, former.constData(), std::size_t(former.size()),
               0);
     result.trashedPath = target;
     return result;
