@@ -5,6 +5,7 @@
 #include "AttributeChooser.h"
 #include "Desktop.h"
 #include "Dupes.h"
+#include "LocalFiles.h"
 #include "LocationsModel.h"
 #include "LocationsView.h"
 #include "PutBackDialogue.h"
@@ -22,7 +23,6 @@
 #include <QCloseEvent>
 #include <QDesktopServices>
 #include <QFileDialog>
-#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMenu>
@@ -443,7 +443,7 @@ void AppDelegate::showInOpenWindowOrAddURLs(const QStringList &paths)
     };
     const bool resultsWindowActive = std::any_of(m_dupesList.begin(), m_dupesList.end(),
                                                  [](const Dupes *dupes) { return dupes->isActiveWindow(); });
-    if (resultsWindowActive && paths.size() == 1 && QFileInfo(paths.first()).isFile()) {
+    if (resultsWindowActive && paths.size() == 1 && isRegularFile(paths.first())) {
         showAlert(nullptr, QMessageBox::Question,
                   tr("No duplicate found for “%1” in the current results").arg(displayName(paths.first())),
                   tr("Do you want to add this file to the list of locations to search?"),

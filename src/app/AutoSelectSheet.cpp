@@ -1,8 +1,11 @@
 #include "AutoSelectSheet.h"
 
 #include "Alert.h"
+#include "LocalFiles.h"
 #include "SearchDefaults.h"
 #include "Settings.h"
+#include "fileops/DeleteChecks.h"
+#include "names/FileNames.h"
 #include "results/EnclosingFolders.h"
 
 #include <QAction>
@@ -10,11 +13,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileIconProvider>
-#include <QFileInfo>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -51,15 +52,14 @@ protected:
     void dragMoveEvent(QDragMoveEvent *event) override { event->acceptProposedAction(); }
     void dropEvent(QDropEvent *event) override
     {
-        for (const QUrl &url : event->mimeData()->urls()) {
-            if (!url.isLocalFile())
-                continue;
-            event->acceptProposedAction();
-            if (dropped)
-                dropped(url.toLocalFile());
+        const QStringList paths = localPaths(event->mimeData()->urls());
+        if (paths.isEmpty()) {
+            event->ignore(); // no file among what was dropped
             return;
         }
-        event->ignore(); // no file among what was dropped
+        event->acceptProposedAction();
+        if (dropped)
+            dropped(paths.first());
     }
 };
 
@@ -95,7 +95,7 @@ AutoSelectSheet::AutoSelectSheet(QWidget *window, ResultModel &model, Settings &
     m_folder = new FolderDropField;
     m_folder->setPlaceholderText(tr("Drop a folder here"));
     m_folder->dropped = [this](const QString &path) {
-        m_settings.setValue(kFolder, path);
+        m_settings.setValue(kFolder, Settings::pathValue(path));
         setFolder(path);
     };
     m_chooseFolder = new QPushButton(tr("Choose…"));
@@ -213,7 +213,7 @@ void AutoSelectSheet::load(const QString &folder)
     keys << kChoice << kFolder;
     for (const QString &key : keys)
         if (const QVariant value = m_settings.value(key); value.isValid())
-            stored.insert(key, value);
+            stored.insert(key, key == kFolder ? QVariant(Settings::pathFrom(value)) : value);
     const AutoSelectSettings s = autoSelectSettingsFrom(stored);
 
     QAbstractButton *rule = m_rules->button(folder.isEmpty() ? s.choice : int(InsideFolder));
@@ -229,7 +229,7 @@ void AutoSelectSheet::load(const QString &folder)
     m_hide->setChecked(s.hide);
 
     QString path = folder.isEmpty() ? s.folder : folder;
-    if (path.isEmpty() || !QFileInfo::exists(path))
+    if (!pathExists(path))
         path = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation);
     if (!path.isEmpty())
         setFolder(path);
@@ -264,7 +264,8 @@ QString AutoSelectSheet::tagLabelText() const
 
 void AutoSelectSheet::chooseFolder()
 {
-    const QString chosen = QFileDialog::getExistingDirectory(this, tr("Choose the Folder"), m_folder->text());
+    const QString chosen =
+        QFileDialog::getExistingDirectory(this, tr("Choose the Folder"), folderForFileDialog(m_folderPath));
     if (chosen.isEmpty())
         return;
     m_settings.setValue(kFolder, chosen);
@@ -273,8 +274,9 @@ void AutoSelectSheet::chooseFolder()
 
 void AutoSelectSheet::setFolder(const QString &folder)
 {
-    m_folder->setText(folder);
-    m_folder->setToolTip(folder);
+    m_folderPath = folder;
+    m_folder->setText(displayPath(folder));
+    m_folder->setToolTip(displayPath(folder));
 }
 
 AutoSelectSettings AutoSelectSheet::choices() const
@@ -289,7 +291,7 @@ AutoSelectSettings AutoSelectSheet::choices() const
     s.tagCondition = m_tagCondition->currentIndex();
     s.tagValue = m_tagField->text();
     s.hide = m_hide->isChecked();
-    s.folder = m_folder->text();
+    s.folder = m_folderPath;
     return s;
 }
 
@@ -316,11 +318,9 @@ void AutoSelectSheet::buildFolderSubmenu(QMenu *menu, const QList<ResultItem *> 
         return;
     QFileIconProvider icons;
     for (const QString &folder : enclosingFolders(targeted.first()->path)) {
-        const QFileInfo info(folder);
-        const QString title = folder == u'/' ? folder : info.fileName();
-        QAction *entry = menu->addAction(icons.icon(info).pixmap(16, 16), title);
+        QAction *entry = menu->addAction(pathIcon(icons, folder).pixmap(16, 16), displayName(folder));
         entry->setData(folder);
-        entry->setEnabled(info.isDir());
+        entry->setEnabled(isFolder(folder));
         connect(entry, &QAction::triggered, this, [this, folder] { automaticallySelectInFolder(folder); });
     }
 }

@@ -71,7 +71,8 @@ private:
     QButtonGroup *m_rules;
     QComboBox *m_oldest, *m_date;
     QComboBox *m_inside, *m_insideOldest, *m_insideDate;
-    FolderDropField *m_folder;
+    FolderDropField *m_folder; // shows m_folderPath, its bytes escaped where they are not UTF-8
+    QString m_folderPath;
     QPushButton *m_chooseFolder;
     QComboBox *m_tagCondition;
     QLineEdit *m_tagField;

@@ -1,21 +1,34 @@
 #include "Desktop.h"
 
+#include "fileops/FSMetadata.h"
+#include "names/FileNames.h"
+
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDesktopServices>
-#include <QFileInfo>
-#include <QUrl>
+#include <QSet>
 #include <QUrlQuery>
 
 namespace selfsame {
+
+QStringList fileManagerUris(const QStringList &paths)
+{
+    QStringList uris;
+    for (const QString &path : paths)
+        uris.append(QString::fromLatin1(fileUrl(path).toEncoded()));
+    return uris;
+}
+
+QUrl enclosingFolderUrl(const QString &path)
+{
+    return fileUrl(parentFolder(path));
+}
 
 void revealInFileManager(const QStringList &paths)
 {
     if (paths.isEmpty())
         return;
-    QStringList uris;
-    for (const QString &path : paths)
-        uris.append(QUrl::fromLocalFile(path).toString());
+    const QStringList uris = fileManagerUris(paths);
     QDBusMessage call = QDBusMessage::createMethodCall(
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("/org/freedesktop/FileManager1"),
         QStringLiteral("org.freedesktop.FileManager1"), QStringLiteral("ShowItems"));
@@ -23,8 +36,18 @@ void revealInFileManager(const QStringList &paths)
     const QDBusMessage reply = QDBusConnection::sessionBus().call(call, QDBus::Block, 2000);
     if (reply.type() == QDBusMessage::ReplyMessage)
         return;
-    for (const QString &path : paths)
-        QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(path).path()));
+    QSet<QUrl> opened; // one window for each folder, however many of its items were asked for
+    for (const QString &path : paths) {
+        const QUrl folder = enclosingFolderUrl(path);
+        if (!opened.contains(folder))
+            QDesktopServices::openUrl(folder);
+        opened.insert(folder);
+    }
+}
+
+void openWithDefaultApplication(const QString &path)
+{
+    QDesktopServices::openUrl(fileUrl(path));
 }
 
 void showLauncherCount(int count)

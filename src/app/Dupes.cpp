@@ -3,6 +3,7 @@
 #include "Alert.h"
 #include "Desktop.h"
 #include "FilterBar.h"
+#include "LocalFiles.h"
 #include "LocationsModel.h"
 #include "PreviewPane.h"
 #include "ResultCellDelegate.h"
@@ -12,6 +13,7 @@
 #include "Settings.h"
 #include "attributes/SpotlightAttributesManager.h"
 #include "format/Formatters.h"
+#include "names/FileNames.h"
 #include "ResultsFileDialogs.h"
 #include "results/CsvExport.h"
 #include "results/ListColumns.h"
@@ -23,7 +25,6 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
-#include <QDir>
 #include <QDragEnterEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
@@ -151,7 +152,7 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
     m_pathControl->setObjectName(QStringLiteral("pathControl"));
     m_pathControl->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
     connect(m_pathControl, &QLabel::linkActivated, this,
-            [](const QString &link) { revealInFileManager({QUrl(link).toLocalFile()}); });
+            [](const QString &link) { revealInFileManager({pathFromUrl(QUrl(link))}); });
     m_pathControl->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_pathControl->hide();
     auto *statusRow = new QHBoxLayout;
@@ -386,7 +387,7 @@ QString Dupes::exportTopList(const QString &path) const
     QSaveFile file(path);
     const QByteArray csv = exportCsv(rows, columns, attribute);
     if (!file.open(QIODevice::WriteOnly) || file.write(csv) != csv.size() || !file.commit())
-        return tr("“%1” could not be written: %2").arg(path, file.errorString());
+        return tr("“%1” could not be written: %2").arg(displayPath(path), file.errorString());
     return {};
 }
 
@@ -629,15 +630,15 @@ void Dupes::updateStatus()
     const StatusLine line = statusLine(m_model, activeList());
     m_statusLine->setText(line.text);
     m_pathControl->setVisible(!line.path.isEmpty());
-    m_pathControl->setToolTip(line.path);
+    m_pathControl->setToolTip(displayPath(line.path));
     // Each folder of the path is a link that shows it in the file manager.
     QStringList links;
     QString folder;
     for (const QString &component : line.path.split(QLatin1Char('/'), Qt::SkipEmptyParts)) {
         folder += QLatin1Char('/') + component;
         links.append(QStringLiteral("<a href=\"%1\" style=\"color: gray; text-decoration: none\">%2</a>")
-                         .arg(QUrl::fromLocalFile(folder).toString(QUrl::FullyEncoded).toHtmlEscaped(),
-                              component.toHtmlEscaped()));
+                         .arg(fileUrl(folder).toString(QUrl::FullyEncoded).toHtmlEscaped(),
+                              displayPath(component).toHtmlEscaped()));
     }
     m_pathControl->setText(links.join(QStringLiteral(" <span style=\"color: gray\">›</span> ")));
     if (m_previewPane->isVisible()) {
@@ -671,7 +672,7 @@ void Dupes::revealSelectedInFileManager()
 void Dupes::openSelected()
 {
     for (const ResultItem *item : targetItems())
-        QDesktopServices::openUrl(QUrl::fromLocalFile(item->path));
+        openWithDefaultApplication(item->path);
 }
 
 void Dupes::togglePreview()
@@ -710,11 +711,9 @@ bool Dupes::draggingEntered(const QMimeData *data, const QObject *source)
 bool Dupes::performDragOperation(const QMimeData *data)
 {
     removeDropIndicator();
-    QList<QUrl> files;
-    for (const QUrl &url : data->urls())
-        if (url.isLocalFile()) files.append(url);
+    const QStringList files = localPaths(data->urls());
     if (files.size() != 1) return false;
-    selectAndRevealInTopList(QDir::cleanPath(files.first().toLocalFile()));
+    selectAndRevealInTopList(files.first());
     return true;
 }
 

@@ -2,6 +2,7 @@
 
 #include "Alert.h"
 #include "CloneProgressWindow.h"
+#include "Desktop.h"
 #include "SearchDefaults.h"
 #include "Settings.h"
 #include "fileops/CloneFlow.h"
@@ -11,10 +12,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QDesktopServices>
 #include <QFileDialog>
 #include <QKeyEvent>
-#include <QUrl>
 
 namespace selfsame {
 
@@ -37,7 +36,7 @@ DupesActions::DupesActions(QWidget *window, ResultModel &model, Settings &settin
 {
     m_modes.replaceWith = int(settings.integerValue(kReplaceWith));
     m_modes.alternate = int(settings.integerValue(kAlternateReplaceWith));
-    planViewer = [](const QString &path) { QDesktopServices::openUrl(QUrl::fromLocalFile(path)); };
+    planViewer = [](const QString &path) { openWithDefaultApplication(path); };
 
     // The base titles hold %1 where the replacement's suffix goes.
     m_moveToTrash = new QAction(this);

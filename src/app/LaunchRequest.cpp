@@ -1,10 +1,14 @@
 #include "LaunchRequest.h"
 
+#include "LocalFiles.h"
+#include "names/FileNames.h"
 #include "results/ResultsFile.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QUrl>
+#include <cstdlib>
+#include <unistd.h>
 
 namespace selfsame {
 
@@ -27,8 +31,8 @@ LaunchRequest LaunchRequest::fromMessage(const QStringList &message)
 
 bool isResultsFile(const QString &path)
 {
-    const QFileInfo info(path);
-    return info.isFile() && info.suffix().compare(ResultsFile::kSuffix, Qt::CaseInsensitive) == 0;
+    return QFileInfo(path).suffix().compare(ResultsFile::kSuffix, Qt::CaseInsensitive) == 0 &&
+           isRegularFile(path);
 }
 
 QStringList absoluteLocalPaths(const QStringList &arguments, const QString &workingDirectory)
@@ -40,12 +44,30 @@ QStringList absoluteLocalPaths(const QStringList &arguments, const QString &work
         const QUrl url(argument);
         if (url.scheme().size() > 1) { // a single letter would be a drive, not a scheme
             if (url.isLocalFile())
-                paths.append(QDir::cleanPath(url.toLocalFile()));
+                paths.append(QDir::cleanPath(pathFromUrl(url)));
             continue;
         }
         paths.append(QDir::cleanPath(QDir(workingDirectory).absoluteFilePath(argument)));
     }
     return paths;
+}
+
+QStringList commandLineArguments(int argc, const char *const *argv)
+{
+    QStringList arguments;
+    for (int i = 0; i < argc && argv[i]; ++i)
+        arguments.append(pathFromBytes(QByteArray(argv[i])));
+    return arguments;
+}
+
+QString currentFolder()
+{
+    char *bytes = getcwd(nullptr, 0);
+    if (!bytes)
+        return QDir::currentPath();
+    const QString folder = pathFromBytes(QByteArray(bytes));
+    std::free(bytes);
+    return folder;
 }
 
 } // namespace selfsame

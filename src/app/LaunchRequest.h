@@ -22,4 +22,9 @@ bool isResultsFile(const QString &path);
 // managers pass them); other URLs are dropped.
 QStringList absoluteLocalPaths(const QStringList &arguments, const QString &workingDirectory);
 
+// The arguments of main() (what QApplication left of them) and the working folder, with
+// names that are not UTF-8 kept exactly, unlike QCoreApplication::arguments and QDir.
+QStringList commandLineArguments(int argc, const char *const *argv);
+QString currentFolder();
+
 } // namespace selfsame

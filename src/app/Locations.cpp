@@ -1,7 +1,9 @@
 #include "Locations.h"
 
+#include "LocalFiles.h"
 #include "SearchDefaults.h"
 #include "Settings.h"
+#include "names/FileNames.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -47,7 +49,7 @@ bool covers(const Location &outer, const Location &inner, const NestingRule &rul
 bool isRegularLocation(const QString &path)
 {
     struct stat status;
-    if (lstat(QFile::encodeName(path).constData(), &status) != 0)
+    if (lstat(pathBytes(path).constData(), &status) != 0)
         return true;
     return S_ISREG(status.st_mode);
 }
@@ -55,7 +57,7 @@ bool isRegularLocation(const QString &path)
 std::optional<quint64> deviceOf(const QString &path)
 {
     struct stat status;
-    if (stat(QFile::encodeName(path).constData(), &status) != 0)
+    if (stat(pathBytes(path).constData(), &status) != 0)
         return std::nullopt;
     return quint64(status.st_dev);
 }
@@ -119,7 +121,8 @@ void saveLocations(const QList<Location> &locations, Settings &settings)
 {
     QList<QVariantMap> records;
     for (const Location &l : locations)
-        records.append({{QStringLiteral("path"), l.path}, {QStringLiteral("enabled"), l.enabled}});
+        records.append(
+            {{QStringLiteral("path"), Settings::pathValue(l.path)}, {QStringLiteral("enabled"), l.enabled}});
     settings.setRecordList(key::searchLocations, records);
 }
 
@@ -127,8 +130,8 @@ QList<Location> loadLocations(const Settings &settings)
 {
     QList<Location> locations;
     for (const QVariantMap &record : settings.recordList(key::searchLocations)) {
-        const QString path = record.value(QStringLiteral("path")).toString();
-        if (path.isEmpty() || !QFileInfo::exists(path))
+        const QString path = Settings::pathFrom(record.value(QStringLiteral("path")));
+        if (!pathExists(path))
             continue;
         mergeLocations(locations, {path}, record.value(QStringLiteral("enabled")).toBool());
     }

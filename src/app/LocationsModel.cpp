@@ -1,6 +1,8 @@
 #include "LocationsModel.h"
 
-#include <QFileInfo>
+#include "LocalFiles.h"
+#include "names/FileNames.h"
+
 #include <algorithm>
 
 namespace selfsame {
@@ -89,7 +91,7 @@ QVariant LocationsModel::data(const QModelIndex &index, int role) const
         return {};
     const Location &location = m_locations[index.row()];
     if (role == Qt::ToolTipRole)
-        return location.path;
+        return displayPath(location.path);
     if (index.column() == CheckboxColumn)
         return role == Qt::CheckStateRole ? QVariant(location.enabled ? Qt::Checked : Qt::Unchecked)
                                           : QVariant();
@@ -124,7 +126,7 @@ QIcon LocationsModel::iconFor(const QString &path) const
 {
     auto it = m_icons.find(path);
     if (it == m_icons.end())
-        it = m_icons.insert(path, m_iconProvider.icon(QFileInfo(path)));
+        it = m_icons.insert(path, pathIcon(m_iconProvider, path));
     return *it;
 }
 

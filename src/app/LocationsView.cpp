@@ -1,5 +1,6 @@
 #include "LocationsView.h"
 
+#include "LocalFiles.h"
 #include "LocationsModel.h"
 
 #include <QContextMenuEvent>
@@ -9,16 +10,6 @@
 #include <algorithm>
 
 namespace selfsame {
-
-QStringList localPaths(const QList<QUrl> &urls)
-{
-    QStringList paths;
-    for (const QUrl &url : urls) {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
-    }
-    return paths;
-}
 
 LocationsView::LocationsView(QWidget *parent) : QTableView(parent)
 {

@@ -45,7 +45,4 @@ private:
     int m_clickedRow = -1;
 };
 
-// The local paths among dropped or pasted URLs.
-QStringList localPaths(const QList<QUrl> &urls);
-
 } // namespace selfsame

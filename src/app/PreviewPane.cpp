@@ -1,14 +1,15 @@
 #include "PreviewPane.h"
 
+#include "LocalFiles.h"
 #include "ThumbnailLoader.h"
 #include "format/ByteSize.h"
 #include "format/Formatters.h"
+#include "names/FileNames.h"
 #include "results/ListColumns.h"
 #include "results/ResultItem.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
-#include <QFile>
 #include <QLabel>
 #include <QLocale>
 #include <QMimeDatabase>
@@ -72,7 +73,8 @@ void PreviewPane::showItem(const ResultItem *item)
         m_info->setText(tr("Select one item to see it here."));
         return;
     }
-    QString rows = infoRow(tr("Name"), item->name()) + infoRow(tr("Folder"), item->folder()) +
+    QString rows = infoRow(tr("Name"), displayPath(item->name())) +
+                   infoRow(tr("Folder"), displayPath(item->folder())) +
                    infoRow(tr("Size"), formatByteCount(item->size)) +
                    infoRow(tr("On disk"), formatByteCount(item->physicalSize)) +
                    infoRow(tr("Modified"), dateText(item->modified)) + infoRow(tr("Created"), dateText(item->created)) +
@@ -100,13 +102,12 @@ void PreviewPane::showItem(const ResultItem *item)
         });
         return;
     }
-    const QMimeType type = QMimeDatabase().mimeTypeForFile(path);
-    if (!item->has(IsFolder) && type.inherits(QStringLiteral("text/plain"))) {
-        QFile file(path);
-        if (file.open(QIODevice::ReadOnly)) {
-            m_text->setPlainText(QString::fromUtf8(file.read(kTextBytes)));
-            m_text->show();
-        }
+    const std::unique_ptr<QFile> file = openForReading(path); // none for folders
+    if (!file) return;
+    const QMimeType type = QMimeDatabase().mimeTypeForFileNameAndData(item->name(), file.get());
+    if (type.inherits(QStringLiteral("text/plain")) && file->seek(0)) {
+        m_text->setPlainText(QString::fromUtf8(file->read(kTextBytes)));
+        m_text->show();
     }
 }
 

@@ -1,6 +1,8 @@
 #include "PutBackDialogue.h"
 
 #include "Alert.h"
+#include "LocalFiles.h"
+#include "fileops/DeleteChecks.h"
 #include "fileops/PutBack.h"
 #include "fileops/Trash.h"
 
@@ -80,8 +82,9 @@ void PutBackDialogue::grantAccess()
     // Linux has no access to grant: choosing the folder lets the user check it, or make
     // room in it, before the second and last try.
     const QString folder = QFileInfo(putBackPath(m_files[m_index])).path();
-    auto *dialog = new QFileDialog(
-        m_window, tr("Please select “%1” to grant the access").arg(QDir(folder).dirName()), folder);
+    auto *dialog =
+        new QFileDialog(m_window, tr("Please select “%1” to grant the access").arg(displayName(folder)),
+                        folderForFileDialog(folder));
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->setFileMode(QFileDialog::Directory);
     dialog->setLabelText(QFileDialog::Accept, tr("Grant Access"));

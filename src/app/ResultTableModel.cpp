@@ -2,6 +2,7 @@
 
 #include "ItemIcons.h"
 #include "ListColours.h"
+#include "names/FileNames.h"
 #include "results/ListColumns.h"
 
 #include <QMimeData>
@@ -62,7 +63,9 @@ QVariant ResultTableModel::data(const QModelIndex &index, int role) const
         // A status is relative to the item selected in the top list: in the top list itself it
         // would be left over from an earlier selection.
         if (m_list == ResultList::Top && column == QLatin1String("clone")) return {};
-        return cellText(*item, column, m_spotlightAttribute);
+        // Names and folders keep their bytes for sorting and filtering; shown, those that are
+        // not UTF-8 read \xFF.
+        return displayPath(cellText(*item, column, m_spotlightAttribute));
     case DateRole:
         if (const std::optional<qint64> date = cellDate(*item, column)) return *date;
         return {};
@@ -89,9 +92,9 @@ QVariant ResultTableModel::data(const QModelIndex &index, int role) const
         return {};
     case Qt::ToolTipRole:
         if (item->has(Missing))
-            return tr("%1\nChanged or gone since these results were saved").arg(item->path);
+            return tr("%1\nChanged or gone since these results were saved").arg(displayPath(item->path));
         if (index.column() == 0 || column == QLatin1String("path") || column == QLatin1String("folder"))
-            return item->path;
+            return displayPath(item->path);
         return {};
     case Qt::TextAlignmentRole:
         if (column == QLatin1String("size") || column == QLatin1String("duration") ||
@@ -175,7 +178,7 @@ QMimeData *ResultTableModel::mimeData(const QModelIndexList &indexes) const
     for (const QModelIndex &index : indexes)
         if (!rows.contains(index.row()) && item(index.row())) {
             rows.insert(index.row());
-            urls.append(QUrl::fromLocalFile(item(index.row())->path));
+            urls.append(fileUrl(item(index.row())->path));
         }
     auto *data = new QMimeData;
     data->setUrls(urls);

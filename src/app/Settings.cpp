@@ -1,5 +1,7 @@
 #include "Settings.h"
 
+#include "names/FileNames.h"
+
 namespace selfsame {
 
 Settings::Settings()
@@ -72,6 +74,16 @@ QVariantMap Settings::dictionary(const QString &key) const
         entries.insert(name, m_store->value(name));
     m_store->endGroup();
     return entries;
+}
+
+QVariant Settings::pathValue(const QString &path)
+{
+    return hasInvalidBytes(path) ? QVariant(pathBytes(path)) : QVariant(path);
+}
+
+QString Settings::pathFrom(const QVariant &value)
+{
+    return value.typeId() == QMetaType::QByteArray ? pathFromBytes(value.toByteArray()) : value.toString();
 }
 
 void Settings::setDictionaryValue(const QString &key, const QString &name, const QVariant &value)

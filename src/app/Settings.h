@@ -39,6 +39,11 @@ public:
 
     void sync() { m_store->sync(); }
 
+    // A path as a stored value, and back: the settings file keeps text as UTF-8, so a path
+    // that is not is stored as its bytes.
+    static QVariant pathValue(const QString &path);
+    static QString pathFrom(const QVariant &value);
+
 private:
     std::unique_ptr<QSettings> m_store;
     QVariantMap m_defaults;

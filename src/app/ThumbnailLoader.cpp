@@ -1,12 +1,12 @@
 #include "ThumbnailLoader.h"
 
+#include "LocalFiles.h"
+#include "names/FileNames.h"
+
 #include <QCryptographicHash>
-#include <QDir>
-#include <QFileInfo>
 #include <QImageReader>
 #include <QSet>
 #include <QStandardPaths>
-#include <QUrl>
 
 namespace selfsame {
 
@@ -18,26 +18,38 @@ constexpr std::size_t kMaxPending = 256;
 // modification time is the one recorded in the picture.
 QImage cachedThumbnail(const QString &path, int size)
 {
-    const QByteArray uri = QUrl::fromLocalFile(path).toEncoded();
-    const QString name = QString::fromLatin1(QCryptographicHash::hash(uri, QCryptographicHash::Md5).toHex()) +
-                         QStringLiteral(".png");
+    const QString name =
+        QString::fromLatin1(QCryptographicHash::hash(thumbnailUri(path), QCryptographicHash::Md5).toHex()) +
+        QStringLiteral(".png");
     const QString cache = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) +
                           QStringLiteral("/thumbnails/");
     const QString folder = size <= 128 ? QStringLiteral("normal/") : QStringLiteral("large/");
     QImage image(cache + folder + name);
     if (image.isNull()) return {};
-    const qint64 mtime = QFileInfo(path).lastModified().toSecsSinceEpoch();
-    if (image.text(QStringLiteral("Thumb::MTime")).toLongLong() != mtime) return {};
+    const std::optional<qint64> mtime = modificationTime(path);
+    if (!mtime || image.text(QStringLiteral("Thumb::MTime")).toLongLong() != *mtime) return {};
     return image.scaled(size, size, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 } // namespace
 
+QByteArray thumbnailUri(const QString &path)
+{
+    // Encoded as QUrl::fromLocalFile encodes a path, whose form names the pictures already
+    // cached, but from the exact bytes: a byte that is not UTF-8 becomes %FF, not U+FFFD.
+    return "file://" + pathBytes(path).toPercentEncoding("/!$&'()*+,;=:@[]");
+}
+
 QImage makeThumbnail(const QString &path, int size)
 {
     QImage image = cachedThumbnail(path, size);
     if (!image.isNull()) return image;
-    QImageReader reader(path);
+    const std::unique_ptr<QFile> file = openForReading(path);
+    if (!file) return {};
+    // The suffix hints at the format, as it does when the reader opens a file by its name.
+    const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
+    const QString suffix = dot > path.lastIndexOf(QLatin1Char('/')) ? path.mid(dot + 1).toLower() : QString();
+    QImageReader reader(file.get(), suffix.toLatin1());
     reader.setAutoTransform(true);
     const QSize full = reader.size();
     if (full.isValid()) reader.setScaledSize(full.scaled(size, size, Qt::KeepAspectRatio));

@@ -47,4 +47,7 @@ private:
 // The picture of one file at `size` pixels (its longer side); null when it has none.
 QImage makeThumbnail(const QString &path, int size);
 
+// The file's URI as the desktop's thumbnail cache names it (by its MD5): the exact bytes of the path.
+QByteArray thumbnailUri(const QString &path);
+
 } // namespace selfsame

@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QDir>
 #include <QIcon>
 #include <QTimer>
 
@@ -29,10 +28,11 @@ int main(int argc, char *argv[])
     parser.addPositionalArgument(QStringLiteral("paths"),
                                  QApplication::translate("main", "Files to look up, or folders to add."),
                                  QStringLiteral("[PATH…]"));
-    parser.process(app);
+    // Not app.arguments(): it decodes them as UTF-8 and loses the bytes of other names.
+    parser.process(selfsame::commandLineArguments(argc, argv));
     const selfsame::LaunchRequest launch{
         parser.isSet(searchOption),
-        selfsame::absoluteLocalPaths(parser.positionalArguments(), QDir::currentPath())};
+        selfsame::absoluteLocalPaths(parser.positionalArguments(), selfsame::currentFolder())};
 
     selfsame::SingleInstance instance;
     if (instance.handOver(launch.toMessage()))

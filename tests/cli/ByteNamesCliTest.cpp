@@ -4,6 +4,7 @@
 #include "CliOptions.h"
 #include "CliPaths.h"
 #include "names/FileNames.h"
+#include "support/ByteFiles.h"
 #include "support/TempTree.h"
 
 #include <QCoreApplication>
@@ -28,72 +29,21 @@ void PrintTo(const QByteArray &bytes, std::ostream *os)
 namespace
 {
 
-// A temporary folder whose entries are made, read and removed by their bytes: Qt decodes
-// names lossily, so it could neither make these nor remove them afterwards.
+// A temporary folder whose entries are made and read by their bytes.
 class ByteTree
 {
 public:
-    ByteTree() : m_root(m_tree.path().toUtf8()) {}
-    ~ByteTree() { removeContents(m_root); }
-    ByteTree(const ByteTree &) = delete;
-    ByteTree &operator=(const ByteTree &) = delete;
-
     QByteArray path(const QByteArray &rel) const { return m_root + '/' + rel; }
-
-    // Writes the file, making its folders.
     QByteArray file(const QByteArray &rel, const QByteArray &content) const
     {
-        const QByteArray full = path(rel);
-        for (qsizetype slash = m_root.size() + 1; (slash = full.indexOf('/', slash)) > 0; ++slash)
-            mkdir(full.left(slash).constData(), 0755);
-        const int fd = open(full.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-        const bool written =
-            fd >= 0 && write(fd, content.constData(), std::size_t(content.size())) == content.size();
-        EXPECT_TRUE(close(fd) == 0 && written) << full.toStdString();
-        return full;
+        EXPECT_TRUE(writeBytes(path(rel), content)) << path(rel).toStdString();
+        return path(rel);
     }
 
 private:
-    static void removeContents(const QByteArray &folder)
-    {
-        DIR *dir = opendir(folder.constData());
-        for (const dirent *entry; dir && (entry = readdir(dir));) {
-            const QByteArray name(entry->d_name);
-            if (name == "." || name == "..") continue;
-            const QByteArray path = folder + '/' + name;
-            struct stat st {
-            };
-            if (lstat(path.constData(), &st) == 0 && S_ISDIR(st.st_mode)) {
-                removeContents(path);
-                rmdir(path.constData());
-            } else {
-                unlink(path.constData());
-            }
-        }
-        if (dir) closedir(dir);
-    }
-
     TempTree m_tree;
-    QByteArray m_root;
+    QByteArray m_root = m_tree.path().toUtf8();
 };
-
-QByteArray bytesAt(const QByteArray &path)
-{
-    QByteArray bytes;
-    const int fd = open(path.constData(), O_RDONLY | O_CLOEXEC);
-    char buffer[65536];
-    for (ssize_t n; fd >= 0 && (n = read(fd, buffer, sizeof buffer)) > 0;)
-        bytes.append(buffer, n);
-    if (fd >= 0) close(fd);
-    return bytes;
-}
-
-bool existsAt(const QByteArray &path)
-{
-    struct stat st {
-    };
-    return lstat(path.constData(), &st) == 0;
-}
 
 std::set<QByteArray> namesIn(const QByteArray &folder)
 {
@@ -277,9 +227,9 @@ struct ActionTree {
     }
     void expectOthersUntouched() const
     {
-        EXPECT_EQ(bytesAt(lookAlike), other);
-        EXPECT_EQ(bytesAt(lookAlikeFolder), content);
-        EXPECT_EQ(bytesAt(kept), content);
+        EXPECT_EQ(readBytes(lookAlike), other);
+        EXPECT_EQ(readBytes(lookAlikeFolder), content);
+        EXPECT_EQ(readBytes(kept), content);
     }
 };
 
@@ -289,7 +239,7 @@ TEST(ByteNamesCli, DeleteRemovesOnlyTheFileOfTheExactName)
     const CliRun run = t.act("--delete");
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
     EXPECT_EQ(run.out, "deleted: " + t.files + "/dup\\xFE/bad\\xFF\n");
-    EXPECT_FALSE(existsAt(t.target));
+    EXPECT_FALSE(existsBytes(t.target));
     t.expectOthersUntouched();
 }
 
@@ -299,16 +249,16 @@ TEST(ByteNamesCli, TrashAndPutBackKeepTheExactName)
     const CliRun run = t.act("--trash", true);
     EXPECT_EQ(run.exitCode, 0) << run.err.toStdString();
     EXPECT_EQ(run.out, t.target + '\0');
-    EXPECT_FALSE(existsAt(t.target));
+    EXPECT_FALSE(existsBytes(t.target));
     t.expectOthersUntouched();
     const QByteArray trashFiles = t.home + "/data/Trash/files";
     ASSERT_EQ(namesIn(trashFiles), std::set<QByteArray>{"bad\xff"});
-    EXPECT_EQ(bytesAt(trashFiles + "/bad\xff"), t.content);
+    EXPECT_EQ(readBytes(trashFiles + "/bad\xff"), t.content);
 
     const CliRun back = runCli({"put-back", trashFiles + "/bad\xff"}, t.home);
     EXPECT_EQ(back.exitCode, 0) << back.err.toStdString();
     EXPECT_EQ(back.out, "put back: " + trashFiles + "/bad\\xFF -> " + t.files + "/dup\\xFE/bad\\xFF\n");
-    EXPECT_EQ(bytesAt(t.target), t.content);
+    EXPECT_EQ(readBytes(t.target), t.content);
     EXPECT_TRUE(namesIn(trashFiles).empty());
     t.expectOthersUntouched();
 }

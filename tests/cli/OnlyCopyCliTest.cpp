@@ -1,5 +1,6 @@
 // selfsame-cli never deletes the only copy of a content, however the file is reached or named.
 
+#include "support/ByteFiles.h"
 #include "support/TempTree.h"
 
 #include <QCoreApplication>
@@ -30,24 +31,6 @@ CliRun runCli(const QStringList &arguments)
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
 }
 
-// Files named by their exact bytes: a name that is not UTF-8 must not pass through a QString.
-QByteArray bytesAt(const QByteArray &path)
-{
-    QByteArray bytes;
-    const int fd = open(path.constData(), O_RDONLY | O_CLOEXEC);
-    char buffer[65536];
-    for (ssize_t n; fd >= 0 && (n = read(fd, buffer, sizeof buffer)) > 0;)
-        bytes.append(buffer, n);
-    if (fd >= 0) close(fd);
-    return bytes;
-}
-
-bool writeAt(const QByteArray &path, const QByteArray &bytes)
-{
-    const int fd = open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    const bool written = fd >= 0 && write(fd, bytes.constData(), std::size_t(bytes.size())) == bytes.size();
-    return close(fd) == 0 && written;
-}
 
 TEST(OnlyCopyCli, AFileReachedThroughALinkedFolderIsNeverDeletedAsItsOwnCopy)
 {
@@ -68,7 +51,7 @@ TEST(OnlyCopyCli, AFileReachedThroughALinkedFolderIsNeverDeletedAsItsOwnCopy)
         };
         ASSERT_EQ(lstat(file.toUtf8().constData(), &st), 0) << command.join(u' ').toStdString();
         EXPECT_TRUE(S_ISREG(st.st_mode));
-        EXPECT_EQ(bytesAt(file.toUtf8()), only);
+        EXPECT_EQ(readBytes(file.toUtf8()), only);
     }
 }
 
@@ -81,7 +64,7 @@ TEST(OnlyCopyCli, NamesThatLookAlikeAreNeverConfused)
     const QByteArray shared = patternBytes(5000, 22), unique = patternBytes(5000, 23);
     for (const auto &[path, bytes] : {std::pair{invalid, shared}, std::pair{replacement, unique},
                                       std::pair{folder + "/keep.bin", shared}})
-        ASSERT_TRUE(writeAt(path, bytes));
+        ASSERT_TRUE(writeBytes(path, bytes));
     const utimbuf old{1577836800, 1577836800}, newer{1683280800, 1683280800};
     ASSERT_EQ(utime((folder + "/keep.bin").constData(), &old), 0);
     ASSERT_EQ(utime(invalid.constData(), &newer), 0);
@@ -89,8 +72,8 @@ TEST(OnlyCopyCli, NamesThatLookAlikeAreNeverConfused)
 
     runCli({"--no-cache", "--select", "same-folder", "--keep", "oldest", "--delete", "--yes",
             QString::fromUtf8(folder)});
-    EXPECT_EQ(bytesAt(replacement), unique) << "the file with no copy is never reached";
-    EXPECT_EQ(bytesAt(folder + "/keep.bin"), shared);
+    EXPECT_EQ(readBytes(replacement), unique) << "the file with no copy is never reached";
+    EXPECT_EQ(readBytes(folder + "/keep.bin"), shared);
 }
 
 // The checks hold back only what changed: copies found by a search and left as they were go,

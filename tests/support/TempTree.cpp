@@ -1,5 +1,7 @@
 #include "support/TempTree.h"
 
+#include "support/ByteFiles.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -20,6 +22,11 @@ bool makeParent(const QString &path) { return QDir().mkpath(QFileInfo(path).path
 TempTree::TempTree() : m_root(QDir(m_dir.path()).canonicalPath())
 {
     checked(!m_root.isEmpty(), m_dir.path());
+}
+
+TempTree::~TempTree()
+{
+    if (!m_root.isEmpty()) removeContentsBytes(m_root.toUtf8());
 }
 
 QString TempTree::file(const QString &rel, const QByteArray &bytes)

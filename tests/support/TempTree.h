@@ -12,6 +12,9 @@
 class TempTree {
 public:
     TempTree();
+    ~TempTree(); // removes every entry by its bytes, whatever the names
+    TempTree(const TempTree &) = delete;
+    TempTree &operator=(const TempTree &) = delete;
     QString path(const QString &rel = {}) const { return rel.isEmpty() ? m_root : m_root + u'/' + rel; }
     std::string stdPath(const QString &rel = {}) const { return path(rel).toStdString(); }
 

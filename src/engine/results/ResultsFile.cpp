@@ -1,5 +1,6 @@
 #include "results/ResultsFile.h"
 
+#include "names/FileNames.h"
 #include "results/ChangedItems.h"
 #include "results/Gzip.h"
 #include "results/JsonRead.h"
@@ -18,7 +19,11 @@
 #include <charconv>
 #include <climits>
 #include <limits>
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
 #include <map>
+#include <unistd.h>
 #include <string_view>
 #include <vector>
 
@@ -308,10 +313,15 @@ QString save(const ResultModel &model, const QString &path)
 
 Loaded load(const QString &path)
 {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {std::nullopt, tr("“%1” could not be opened: %2").arg(path, file.errorString())};
-    return fromBytes(file.readAll(), QFileInfo(path).fileName());
+    // Opened by its bytes: results may be saved under a name that is not UTF-8.
+    const int fd = open(pathBytes(path).constData(), O_RDONLY | O_CLOEXEC);
+    QFile file;
+    if (fd < 0 || !file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        const QString why = QString::fromLocal8Bit(std::strerror(errno));
+        if (fd >= 0) close(fd);
+        return {std::nullopt, tr("“%1” could not be opened: %2").arg(displayPath(path), why)};
+    }
+    return fromBytes(file.readAll(), displayPath(QFileInfo(path).fileName()));
 }
 
 Loaded fromBytes(QByteArray bytes, const QString &name)

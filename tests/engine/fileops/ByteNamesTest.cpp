@@ -6,6 +6,7 @@
 #include "fileops/Replacement.h"
 #include "fileops/Trash.h"
 #include "names/FileNames.h"
+#include "support/ByteFiles.h"
 #include "support/SearchHarness.h"
 #include "support/TempTree.h"
 #include "support/TrashHome.h"
@@ -18,36 +19,6 @@
 
 using namespace selfsame;
 
-namespace
-{
-
-void writeBytes(const QByteArray &path, const QByteArray &content)
-{
-    const int fd = open(path.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    ASSERT_GE(fd, 0) << path.toStdString();
-    ASSERT_EQ(write(fd, content.constData(), std::size_t(content.size())), content.size());
-    close(fd);
-}
-
-QByteArray readBytes(const QByteArray &path)
-{
-    QByteArray content;
-    const int fd = open(path.constData(), O_RDONLY | O_CLOEXEC);
-    char buffer[65536];
-    for (ssize_t n; fd >= 0 && (n = read(fd, buffer, sizeof buffer)) > 0;)
-        content.append(buffer, n);
-    if (fd >= 0) close(fd);
-    return content;
-}
-
-bool exists(const QByteArray &path)
-{
-    struct stat st {
-    };
-    return lstat(path.constData(), &st) == 0;
-}
-
-} // namespace
 
 TEST(ByteNames, SearchTrashAndPutBackKeepEveryByte)
 {
@@ -57,10 +28,9 @@ TEST(ByteNames, SearchTrashAndPutBackKeepEveryByte)
     const QByteArray latin1 = root + "/bad\xff.txt", lookalike = root + "/bad\xef\xbf\xbd.txt",
                      newline = root + "/two\nlines.txt", keep = root + "/keep.txt";
     const QByteArray shared = patternBytes(4000, 31);
-    writeBytes(latin1, shared);
-    writeBytes(newline, shared);
-    writeBytes(keep, shared);
-    writeBytes(lookalike, patternBytes(4000, 32));
+    for (const auto &[path, content] : {std::pair{latin1, shared}, std::pair{newline, shared}, std::pair{keep, shared},
+                                        std::pair{lookalike, patternBytes(4000, 32)}})
+        ASSERT_TRUE(writeBytes(path, content));
 
     SearchHarness harness;
     QList<ResultItem> items = harness.run({}, pathFromBytes(root));
@@ -71,7 +41,7 @@ TEST(ByteNames, SearchTrashAndPutBackKeepEveryByte)
     ResultItem *keeper = nullptr;
     QList<ResultItem *> others;
     for (ResultItem &item : items) {
-        EXPECT_TRUE(exists(pathBytes(item.path))) << displayPath(item.path).toStdString();
+        EXPECT_TRUE(existsBytes(pathBytes(item.path))) << displayPath(item.path).toStdString();
         if (pathBytes(item.path) == keep)
             keeper = &item;
         else
@@ -81,8 +51,8 @@ TEST(ByteNames, SearchTrashAndPutBackKeepEveryByte)
 
     const DeleteReport report = performDeleteAction(DeleteKind::Trash, ReplaceWithNone, keeper, others);
     EXPECT_EQ(report.removalFailures, 0) << report.outcomes.value(0).error.toStdString();
-    EXPECT_FALSE(exists(latin1));
-    EXPECT_FALSE(exists(newline));
+    EXPECT_FALSE(existsBytes(latin1));
+    EXPECT_FALSE(existsBytes(newline));
     EXPECT_EQ(readBytes(lookalike), patternBytes(4000, 32)) << "the look-alike is never reached";
     const QByteArray trashed = pathBytes(home.trash()) + "/files/bad\xff.txt";
     EXPECT_EQ(readBytes(trashed), shared);
@@ -104,7 +74,7 @@ TEST(ByteNames, LinksAndTrashRecordsCarryTheExactBytes)
                                           "f\xe9"
                                           "rence",
                      copy = folder + "/copie\xff";
-    writeBytes(copy, "x");
+    ASSERT_TRUE(writeBytes(copy, "x"));
     ASSERT_EQ(makeReplacement(ReplaceWithRelativeSymbolicLink, pathFromBytes(reference),
                               pathFromBytes(folder + "/rel"), false),
               0);
