@@ -3,10 +3,12 @@
 #include "Alert.h"
 #include "CloneProgressWindow.h"
 #include "Desktop.h"
+#include "InterruptedActions.h"
 #include "SearchDefaults.h"
 #include "Settings.h"
 #include "fileops/CloneFlow.h"
 #include "fileops/DeleteFlow.h"
+#include "journal/Journal.h"
 #include "fileops/PutBack.h"
 
 #include <QAction>
@@ -166,7 +168,11 @@ void DupesActions::runDeleteAction(bool trash)
     const Targets chosen = targets();
     if (chosen.items.isEmpty())
         return;
+    Journal journal;
+    if (!recoverInterruptedActions(journal, m_window))
+        return;
     DeleteActionRequest request;
+    request.journal = &journal;
     request.kind = trash ? DeleteKind::Trash : DeleteKind::Delete;
     request.mode = m_modes.inForce(m_showingAlternate);
     request.reference = referenceFor(chosen);

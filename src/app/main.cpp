@@ -1,7 +1,9 @@
 #include "AppDelegate.h"
+#include "InterruptedActions.h"
 #include "LaunchRequest.h"
 #include "Settings.h"
 #include "SingleInstance.h"
+#include "journal/Journal.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -38,6 +40,9 @@ int main(int argc, char *argv[])
     if (instance.handOver(launch.toMessage()))
         return 0;
     instance.listen();
+    // The first instance finishes what an earlier one was stopped in the middle of.
+    selfsame::Journal journal;
+    selfsame::recoverInterruptedActions(journal, nullptr);
 
     selfsame::Settings settings;
     selfsame::AppDelegate window(settings);

@@ -6,10 +6,13 @@
 #include "fileops/DeleteActions.h"
 #include "fileops/Replacement.h"
 #include "format/ByteSize.h"
+#include "journal/Journal.h"
+#include "journal/Recovery.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QHash>
+#include <optional>
 
 namespace selfsame::cli
 {
@@ -56,9 +59,35 @@ QList<ActionGroup> safeGroups(const QList<ActionGroup> &groups, const Writer &er
     return kept;
 }
 
+// Says what recovery did, a line a file; returns how many steps it could not recover.
+int reportRecovery(const RecoveryReport &report, const Writer &err)
+{
+    for (const QString &path : report.rolledBack)
+        err(tr("recovered: %1: an interrupted action was rolled back, the file is as it was\n")
+                .arg(escapedText(path))
+                .toUtf8());
+    for (const QString &path : report.finished)
+        err(tr("recovered: %1: an interrupted action was finished\n").arg(escapedText(path)).toUtf8());
+    for (const QString &failure : report.failed)
+        err(tr("recovery failed: %1\n").arg(escapedText(failure)).toUtf8());
+    return int(report.failed.size());
+}
+
 int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
                const Writer &err, int failures)
 {
+    std::optional<Journal> journal;
+    if (options.perform) {
+        // Every step is journaled; an action that cannot be is not begun.
+        journal.emplace(Journal::defaultPath());
+        if (!journal->isOpen()) {
+            err(tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
+                    .arg(escapedText(Journal::defaultPath()), journal->error())
+                    .toUtf8());
+            return 1;
+        }
+        if (reportRecovery(recoverInterrupted(*journal), err) > 0) return 1;
+    }
     const bool trash = options.action == FileAction::Trash;
     const int mode = options.replaceWith;
     int done = 0;
@@ -79,7 +108,7 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
             continue;
         }
         const DeleteReport report = performDeleteAction(trash ? DeleteKind::Trash : DeleteKind::Delete, mode,
-                                                        g.reference, g.selected);
+                                                        g.reference, g.selected, {}, journal ? &*journal : nullptr);
         changed += int(report.refused.size());
         for (const DeleteOutcome &o : report.outcomes) {
             if (o.status.isEmpty()) {
@@ -175,6 +204,25 @@ QList<ActionGroup> actionGroupsFor(const ResultModel &model, const AutoSelection
         groups[*found].selected.append(item);
     }
     return groups;
+}
+
+int runRecover(const Writer &out, const Writer &err)
+{
+    Journal journal(Journal::defaultPath());
+    if (!journal.isOpen()) {
+        err(tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
+                .arg(escapedText(Journal::defaultPath()), journal.error())
+                .toUtf8());
+        return 1;
+    }
+    const RecoveryReport report = recoverInterrupted(journal);
+    const int failures = reportRecovery(report, err);
+    out(tr("%1 rolled back, %2 finished, %3 failed\n")
+            .arg(report.rolledBack.size())
+            .arg(report.finished.size())
+            .arg(failures)
+            .toUtf8());
+    return failures == 0 ? 0 : 1;
 }
 
 int runFileActions(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,

@@ -43,4 +43,9 @@ using Writer = std::function<void(const QByteArray &)>;
 int runFileActions(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
                    const Writer &err);
 
+// `selfsame-cli recover`: finishes or rolls back every action that was interrupted (killed,
+// power lost) and says what it did. Actions that change files run it first. Returns 0, or 1
+// when some step could not be recovered.
+int runRecover(const Writer &out, const Writer &err);
+
 } // namespace selfsame::cli

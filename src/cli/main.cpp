@@ -64,6 +64,10 @@ int main(int argc, char *argv[])
         return runPutBack(commandLine.mid(2), [](const QByteArray &b) { writeAll(stdout, b); },
                           [](const QByteArray &b) { writeAll(stderr, b); });
 
+    if (commandLine.value(1) == u"recover" && commandLine.size() == 2)
+        return runRecover([](const QByteArray &b) { writeAll(stdout, b); },
+                          [](const QByteArray &b) { writeAll(stderr, b); });
+
     if (commandLine.value(1) == u"clear-cache" && commandLine.size() == 2) {
         const QString path = escapedText(DigestCache::defaultPath());
         if (!DigestCache::clear(DigestCache::defaultPath())) {

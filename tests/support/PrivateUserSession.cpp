@@ -1,6 +1,6 @@
-// Every test program keeps its caches, digests included, in a temporary folder of its own,
-// set before any test runs, so that no test reads or writes the user's cache; programs the
-// tests start inherit it. Nor do they reach the user's session bus, where a desktop index
+// Every test program keeps its caches (digests included) and its operations journal in a
+// temporary folder of its own, set before any test runs, so that no test reads or writes the
+// user's; programs the tests start inherit it. Nor do they reach the user's session bus, where a desktop index
 // would answer look-ups in place of the folders a test made.
 #include <QTemporaryDir>
 #include <QtGlobal>
@@ -12,6 +12,7 @@ struct PrivateUserSession {
     PrivateUserSession()
     {
         qputenv("XDG_CACHE_HOME", folder.path().toLocal8Bit());
+        qputenv("XDG_STATE_HOME", folder.path().toLocal8Bit() + "/state"); // the operations journal
         qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=" + folder.path().toLocal8Bit() + "/no-bus");
     }
 };

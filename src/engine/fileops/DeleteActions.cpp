@@ -6,6 +6,7 @@
 #include "fileops/ItemSafety.h"
 #include "fileops/Replacement.h"
 #include "fileops/Trash.h"
+#include "journal/Journal.h"
 #include "names/FileNames.h"
 
 #include <QCoreApplication>
@@ -26,32 +27,51 @@ QString errorText(int error)
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
-// Removes the file with no replacement. Returns the error text, empty on success.
-QString removeOnly(DeleteKind kind, ResultItem &item, int mode, DeleteOutcome &outcome)
+// Records one file's steps in the journal, when there is one.
+struct JournaledStep {
+    Journal *journal = nullptr;
+    JournalStep step;
+    bool begin() { return !journal || journal->record(step); }
+    void reach(JournalStage stage)
+    {
+        if (journal) journal->advance(step, stage);
+    }
+};
+
+// Removes the file with no replacement. Returns the error text, empty on success. A deletion
+// first moves the file aside, so that one killed halfway through a folder can be finished.
+QString removeOnly(DeleteKind kind, ResultItem &item, int mode, DeleteOutcome &outcome, JournaledStep &journaled)
 {
     if (kind == DeleteKind::Trash) {
         const TrashResult trashed = trashItem(item.path);
         if (trashed.trashedPath.isEmpty()) return trashed.errorText;
+        journaled.reach(Done);
         outcome.status = statusImageName(true, mode);
         if (outcome.status == QStringLiteral("trashed")) item.setTrashedURL(trashed.trashedPath);
         return {};
     }
-    if (const int error = removeItem(item.path)) return errorText(error);
+    if (const int error = renameNoReplace(item.path, journaled.step.away)) return errorText(error);
+    faultPoint("delete.moved-aside");
+    journaled.reach(Replaced);
+    faultPoint("delete.recorded");
+    if (const int error = removeItem(journaled.step.away))
+        outcome.error = QCoreApplication::translate("DeleteActions", "“%1” could not be removed: %2")
+                            .arg(displayPath(journaled.step.away), errorText(error));
+    journaled.reach(Done);
     item.set(Deleted);
     outcome.status = statusImageName(false, mode);
     return {};
 }
 
-// Takes the original away from its path: into the trash, or aside to be removed once the
-// replacement stands. Returns where it went (empty on failure).
-QString takeAway(DeleteKind kind, const QString &path, QString *error)
+// Takes the original away from its path: into the trash, or to `aside`, to be removed once
+// the replacement stands. Returns where it went (empty on failure).
+QString takeAway(DeleteKind kind, const QString &path, const QString &aside, QString *error)
 {
     if (kind == DeleteKind::Trash) {
         const TrashResult trashed = trashItem(path);
         *error = trashed.errorText;
         return trashed.trashedPath;
     }
-    const QString aside = besidePath(path);
     if (const int e = renameNoReplace(path, aside)) {
         *error = errorText(e);
         return {};
@@ -65,6 +85,63 @@ void bringBack(DeleteKind kind, const QString &from, const QString &path)
         removePutBackAttribute(path);
         unlink(pathBytes(trashInfoPathFor(from)).constData());
     }
+}
+
+struct Failure {
+    QString why;          // empty on success
+    bool removal = false; // the original could not be taken away (else the replacement failed)
+};
+
+// Puts the replacement of `mode` for `reference` at the item's path, each step journaled: made
+// beside the file, the original taken away, the replacement moved in (the clone given the
+// original's metadata), then the original removed for good when deleting. Any failure before
+// the replacement stands brings the original back.
+Failure replaceOne(DeleteKind kind, int mode, ResultItem &item, const ResultItem &reference,
+                   JournaledStep &journaled, DeleteOutcome &outcome)
+{
+    auto text = [](const char *source) { return QCoreApplication::translate("DeleteActions", source); };
+    const FSMetadata snapshot = mode == ReplaceWithClone ? captureFSMetadata(item.path) : FSMetadata{};
+    const QString &staged = journaled.step.staged;
+    if (const int e = makeReplacement(mode, reference.path, staged, reference.has(IsFolder))) {
+        journaled.reach(Done);
+        return {text("The replacement could not be made: %1").arg(errorText(e))};
+    }
+    faultPoint("replace.staged");
+    journaled.reach(Staged);
+    QString error;
+    const QString away = takeAway(kind, item.path, journaled.step.away, &error);
+    if (away.isEmpty()) {
+        removeItem(staged);
+        journaled.reach(Done);
+        return {error, true};
+    }
+    faultPoint("replace.taken-away");
+    journaled.step.away = away;
+    journaled.reach(TakenAway);
+    faultPoint("replace.recorded-away");
+    if (const int e = renameNoReplace(staged, item.path)) {
+        bringBack(kind, away, item.path);
+        recordCurrentState(item); // the same file back, its change time moved by the moves
+        removeItem(staged);
+        journaled.reach(Done);
+        return {text("The replacement could not be put in place: %1").arg(errorText(e))};
+    }
+    faultPoint("replace.swapped");
+    if (mode == ReplaceWithClone) restoreFSMetadata(item.path, snapshot);
+    journaled.reach(Replaced);
+    faultPoint("replace.replaced");
+    if (kind == DeleteKind::Delete) {
+        if (const int e = removeItem(away))
+            outcome.error = text("“%1” could not be removed: %2").arg(displayPath(away), errorText(e));
+        item.set(Deleted);
+        // Removing the original moved its folder's times: they come back last.
+        if (mode == ReplaceWithClone) restoreParentFolder(item.path, snapshot);
+    }
+    journaled.reach(Done);
+    outcome.status = statusImageName(kind == DeleteKind::Trash, mode);
+    item.setStatusImage(outcome.status);
+    recordCurrentState(item); // the replacement now stands for the item
+    return {};
 }
 
 // Whether the kept copy must hold the same bytes: for a replacement deleted for good, and,
@@ -101,11 +178,15 @@ QString besidePath(const QString &path)
 }
 
 DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference,
-                                 const QList<ResultItem *> &targets, const DuplicatesFor &duplicatesFor)
+                                 const QList<ResultItem *> &targets, const DuplicatesFor &duplicatesFor,
+                                 Journal *journal)
 {
     DeleteReport report;
     const bool replacing = reference && mode >= ReplaceWithAlias && mode <= ReplaceWithClone;
     const QSet<const ResultItem *> acting(targets.cbegin(), targets.cend());
+    const qint64 batch = journal ? journal->beginBatch(kind == DeleteKind::Trash ? QStringLiteral("trash")
+                                                                                   : QStringLiteral("delete"))
+                                 : 0;
     SharedFiles shared;
     shared.watch(reference);
     for (ResultItem *item : targets)
@@ -140,43 +221,24 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
         // Our own steps move the change time of every link of the files they touch.
         QList<ResultItem *> touched = shared.unchangedSharing(*item);
         if (replacing && mode == ReplaceWithHardLink) touched += shared.unchangedSharing(*reference);
-        if (!replacing) {
-            if (const QString error = removeOnly(kind, *item, mode, outcome); !error.isEmpty())
+        // Every name a step may make is known, and recorded, before the step begins.
+        JournaledStep journaled{journal, JournalStep{}};
+        journaled.step = {0, batch, int(kind), replacing ? mode : ReplaceWithNone, item->path,
+                          reference ? reference->path : QString(), replacing ? besidePath(item->path) : QString(),
+                          kind == DeleteKind::Delete ? besidePath(item->path) : QString(), Intended};
+        if (!journaled.begin()) {
+            removalFailed(QCoreApplication::translate("DeleteActions",
+                                                      "The operations journal could not record the step: %1")
+                              .arg(journal->error()));
+        } else if (!replacing) {
+            if (const QString error = removeOnly(kind, *item, mode, outcome, journaled); !error.isEmpty()) {
                 removalFailed(error);
-        } else {
-            const FSMetadata snapshot =
-                mode == ReplaceWithClone ? captureFSMetadata(item->path) : FSMetadata{};
-            const QString staged = besidePath(item->path);
-            QString error;
-            QString away;
-            if (const int e = makeReplacement(mode, reference->path, staged, reference->has(IsFolder))) {
-                replacementFailed(
-                    QCoreApplication::translate("DeleteActions", "The replacement could not be made: %1")
-                        .arg(errorText(e)));
-            } else if (away = takeAway(kind, item->path, &error); away.isEmpty()) {
-                removeItem(staged);
-                removalFailed(error);
-            } else if (const int e = renameNoReplace(staged, item->path)) {
-                bringBack(kind, away, item->path);
-                recordCurrentState(*item); // the same file back, its change time moved by the moves
-                removeItem(staged);
-                replacementFailed(QCoreApplication::translate("DeleteActions",
-                                                              "The replacement could not be put in place: %1")
-                                      .arg(errorText(e)));
-            } else {
-                if (kind == DeleteKind::Delete) {
-                    if (const int e = removeItem(away))
-                        outcome.error =
-                            QCoreApplication::translate("DeleteActions", "“%1” could not be removed: %2")
-                                .arg(displayPath(away), errorText(e));
-                    item->set(Deleted);
-                }
-                // Last, so that the folder's modification time is the one from before.
-                if (mode == ReplaceWithClone) restoreFSMetadata(item->path, snapshot);
-                outcome.status = statusImageName(kind == DeleteKind::Trash, mode);
-                item->setStatusImage(outcome.status);
-                recordCurrentState(*item); // the replacement now stands for the item
+                journaled.reach(Done); // nothing was changed
             }
+        } else {
+            const Failure failure = replaceOne(kind, mode, *item, *reference, journaled, outcome);
+            if (failure.removal) removalFailed(failure.why);
+            else if (!failure.why.isEmpty()) replacementFailed(failure.why);
         }
         for (ResultItem *other : touched)
             if (other != item && !isGone(*other)) recordCurrentState(*other);

@@ -10,6 +10,8 @@
 namespace selfsame
 {
 
+class Journal;
+
 enum class DeleteKind { Trash, Delete };
 
 // The items of an item's duplicate group, the item itself included.
@@ -43,8 +45,11 @@ struct DeleteReport {
 // the same bytes. An item that fails is left alone and counts as refused. Without any other
 // copy left (the user chose to remove them all) only the item itself is checked.
 // Without a reference the items are removed and given the mode's status, as asked.
+// With a journal, every step is recorded before it begins (journal/Journal.h), so that an
+// action killed at any point is finished or rolled back by recovery.
 DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *reference,
-                                 const QList<ResultItem *> &targets, const DuplicatesFor &duplicatesFor = {});
+                                 const QList<ResultItem *> &targets, const DuplicatesFor &duplicatesFor = {},
+                                 Journal *journal = nullptr);
 
 // A path beside `path` that nothing uses: "path_UNIQUE".
 QString besidePath(const QString &path);

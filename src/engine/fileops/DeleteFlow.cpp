@@ -34,7 +34,7 @@ DeleteActionResult runDeleteAction(const DeleteActionRequest &request, const Del
         return result;
 
     const DeleteReport report = performDeleteAction(request.kind, request.mode, request.reference, request.targets,
-                                                    request.duplicatesFor);
+                                                    request.duplicatesFor, request.journal);
     result.performed = true;
     if (request.kind == DeleteKind::Trash) {
         if (const auto failed = trashFailureAlert(report, request.targets)) {

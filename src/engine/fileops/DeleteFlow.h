@@ -16,6 +16,7 @@ struct DeleteActionRequest {
     ResultItem *reference = nullptr; // the kept file, when acting on the bottom list
     QList<ResultItem *> targets;     // in row order
     DuplicatesFor duplicatesFor;
+    Journal *journal = nullptr;  // where every step is recorded before it begins
     bool showPutBackTip = false; // the one-time note about putting back has not been shown yet
 };
 

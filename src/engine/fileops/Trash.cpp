@@ -1,6 +1,7 @@
 #include "fileops/Trash.h"
 
 #include "fileops/CloneItem.h"
+#include "journal/Journal.h"
 #include "names/FileNames.h"
 
 #include <QCoreApplication>
@@ -225,12 +226,14 @@ TrashResult trashItem(const QString &path)
                                .arg(displayPath(path), errorText(error));
         return result;
     }
+    faultPoint("trash.recorded");
     if (const int error = renameNoReplace(path, target)) {
         unlink(pathBytes(infoPath).constData());
         result.error = error;
         result.errorText = errorText(error);
         return result;
     }
+    faultPoint("trash.moved");
     const QByteArray former = pathBytes(path);
     // Where user attributes are refused, the Path= line stays the record.
     lsetxattr(pathBytes(target).constData(), kPutBackAttribute, former.constData(), std::size_t(former.size()),
