@@ -42,6 +42,7 @@ QString usageText()
               "       selfsame-cli [OPTIONS] --anywhere FILE [PATH...]\n"
               "       selfsame-cli put-back FILE...   (files in the trash, back to where they came from)\n"
               "       selfsame-cli clear-cache        (forget the file digests kept between searches)\n"
+              "       selfsame-cli recover            (finish or roll back file actions that were interrupted)\n"
               "Finds files (and with --compare-folders, folders) of equal content, or of equal duration,\n"
               "name or metadata attribute.\n"
               "\n"
