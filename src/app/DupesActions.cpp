@@ -207,7 +207,11 @@ void DupesActions::putBack()
 
 void DupesActions::replaceByClones()
 {
+    Journal journal;
+    if (!recoverInterruptedActions(journal, m_window))
+        return;
     CloneActionRequest request;
+    request.journal = &journal;
     request.targets = targets().items;
     request.mainItems = m_model.mainItems();
     request.duplicatesFor = [this](const ResultItem &item) { return m_model.duplicatesFor(item); };

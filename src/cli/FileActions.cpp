@@ -73,21 +73,25 @@ int reportRecovery(const RecoveryReport &report, const Writer &err)
     return int(report.failed.size());
 }
 
+// Opens the operations journal and recovers what an earlier run left unfinished. Every step
+// is journaled: an action that cannot be is not begun.
+bool openJournal(std::optional<Journal> &journal, const Writer &err)
+{
+    journal.emplace(Journal::defaultPath());
+    if (!journal->isOpen()) {
+        err(tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
+                .arg(escapedText(Journal::defaultPath()), journal->error())
+                .toUtf8());
+        return false;
+    }
+    return reportRecovery(recoverInterrupted(*journal), err) == 0;
+}
+
 int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
                const Writer &err, int failures)
 {
     std::optional<Journal> journal;
-    if (options.perform) {
-        // Every step is journaled; an action that cannot be is not begun.
-        journal.emplace(Journal::defaultPath());
-        if (!journal->isOpen()) {
-            err(tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
-                    .arg(escapedText(Journal::defaultPath()), journal->error())
-                    .toUtf8());
-            return 1;
-        }
-        if (reportRecovery(recoverInterrupted(*journal), err) > 0) return 1;
-    }
+    if (options.perform && !openJournal(journal, err)) return 1;
     const bool trash = options.action == FileAction::Trash;
     const int mode = options.replaceWith;
     int done = 0;
@@ -171,6 +175,9 @@ int runClones(const FileActionOptions &options, const QList<ActionGroup> &groups
         err(tr("dry run: add --yes to clone\n").toUtf8());
         return failures == 0 ? 0 : 1;
     }
+    std::optional<Journal> journal;
+    if (!openJournal(journal, err)) return 1;
+    worker.journal = &*journal;
     worker.perform(true, true, true);
     for (const ResultItem *item : worker.cloned())
         out(options.print0 ? nulTerminatedPath(item->path)

@@ -58,7 +58,7 @@ void expectWholeTrash(const QString &trash)
 }
 
 struct Action {
-    QString action; // --trash or --delete
+    QString action; // --trash or --delete; none for replacing by clones in place
     QString mode;   // what --replace-with takes, or empty
     QStringList faultPoints;
 };
@@ -90,12 +90,14 @@ TEST_P(CrashRecovery, EveryInterruptedActionIsFinishedOrRolledBack)
     std::vector<Action> actions{{"--trash", {}, trashSteps},
                                 {"--delete", {}, {"delete.moved-aside", "delete.recorded"}}};
     QStringList modes{"symlink", "relative-symlink", "hardlink", "alias"};
-    if (QString::fromUtf8(GetParam()) == u"btrfs" || QString::fromUtf8(GetParam()) == u"xfs")
-        modes << "clone";
+    const bool clones = QString::fromUtf8(GetParam()) == u"btrfs" || QString::fromUtf8(GetParam()) == u"xfs";
+    if (clones) modes << "clone";
     for (const QString &mode : modes) {
         actions.push_back({"--trash", mode, trashSteps + replaceSteps});
         actions.push_back({"--delete", mode, replaceSteps});
     }
+    // Replacing by clones in place, the way that moves each copy aside (not the kernel's dedupe).
+    if (clones) actions.push_back({{}, "clone", {"clone.moved-aside", "clone.cloned", "clone.replaced"}});
     const QByteArray content = patternBytes(40000, 51);
     int run = 0;
     for (const Action &action : actions) {
@@ -111,8 +113,12 @@ TEST_P(CrashRecovery, EveryInterruptedActionIsFinishedOrRolledBack)
             environment.insert(QStringLiteral("HOME"), home);
             environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/data"));
             environment.insert(QStringLiteral("XDG_STATE_HOME"), home + QStringLiteral("/state"));
-            QStringList arguments{"--no-cache", "--select",    "folder", base + QStringLiteral("/old"),
-                                  "--inside",   action.action, "--yes",  base};
+            QStringList arguments{"--no-cache", "--select", "folder", base + QStringLiteral("/old"),
+                                  "--inside",   "--yes",    base};
+            if (!action.action.isEmpty())
+                arguments << action.action;
+            else
+                environment.insert(QStringLiteral("SELFSAME_TEST_NO_DEDUPE"), QStringLiteral("1"));
             if (!mode.isEmpty()) arguments << "--replace-with" << mode;
 
             environment.insert(QStringLiteral("SELFSAME_TEST_FAULT_POINT"), point);

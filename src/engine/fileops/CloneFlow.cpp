@@ -36,6 +36,7 @@ CloneActionResult runCloneAction(const CloneActionRequest &request, const CloneA
 
     CloneWorker worker(request.targets, request.mainItems, request.duplicatesFor);
     worker.planPath = request.planPath;
+    worker.journal = request.journal;
     worker.progress = ui.progress;
     CloneCounts counts;
     if (!runPass(worker, ui, false, true, true, &counts)) return result;

@@ -9,6 +9,8 @@
 namespace selfsame
 {
 
+class Journal;
+
 // Entries of the "do not show again" dictionary that replacing by clones reads and writes.
 inline constexpr char kReplaceClonesCompareFolders[] = "replace clones + compare folders";
 inline constexpr char kBypassWriteProtection[] = "bypass write-protection";
@@ -20,6 +22,7 @@ struct CloneActionRequest {
     bool compareFolders = false;   // the search compared whole folders
     QVariantMap doNotShowAgain;    // the remembered answers
     QString planPath;              // where to write the plan; a private temporary file when empty
+    Journal *journal = nullptr;    // where the cloning pass records its steps
 };
 
 // How a window presents the action: its questions, the plan, and the progress of each pass.

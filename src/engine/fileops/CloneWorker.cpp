@@ -5,6 +5,7 @@
 #include "fileops/DeleteActions.h"
 #include "fileops/ItemSafety.h"
 #include "format/ByteSize.h"
+#include "journal/Journal.h"
 #include "names/FileNames.h"
 
 #include <QCoreApplication>
@@ -59,7 +60,7 @@ void liftWriteProtection(const QString &path, const FSMetadata &snapshot)
 }
 
 QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, bool changeOwner,
-                           const CloneSteps &steps)
+                           const CloneSteps &steps, Journal *journal)
 {
     const QString &path = duplicate.path;
     if (!duplicate.has(IsFolder) && !sameContent(reference.path, path))
@@ -67,11 +68,21 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
     const FSMetadata snapshot = captureFSMetadata(path);
     if (duplicate.has(ReadOnly)) liftWriteProtection(path, snapshot);
     const QString aside = besidePath(path);
+    // Each step is recorded before it begins: an interrupted clone comes back as it was.
+    JournalStep step{0, 0, CloneInPlace, 0, path, reference.path, {}, aside, Intended};
+    auto reach = [&](JournalStage stage) {
+        if (journal) journal->advance(step, stage);
+    };
+    if (journal && !journal->record(step))
+        return tr("The operations journal could not record the step: %1").arg(journal->error());
     if (const int error = steps.moveAside(path, aside)) {
         restoreFSMetadata(path, snapshot);
         recordCurrentState(duplicate);
+        reach(Done);
         return tr("“%1” could not be moved aside: %2").arg(displayPath(path), errorText(error));
     }
+    faultPoint("clone.moved-aside");
+    reach(TakenAway);
     // The original is safe aside only if it is really there; never remove what holds its path otherwise.
     auto asideExists = [&] {
         struct stat st {
@@ -82,6 +93,7 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
         renameNoReplace(aside, path);
         restoreFSMetadata(path, snapshot);
         recordCurrentState(duplicate); // the same file, its change time moved by our own steps
+        reach(Done);
     };
     if (const int error = steps.clone(reference.path, path, reference.has(IsFolder))) {
         if (asideExists()) {
@@ -90,6 +102,7 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
         }
         return tr("“%1” could not be cloned from “%2”: %3").arg(displayPath(path), displayPath(reference.path), errorText(error));
     }
+    faultPoint("clone.cloned");
     struct stat st {
     };
     if (stat(pathBytes(path).constData(), &st) == 0)
@@ -103,7 +116,11 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
         return tr("The metadata of “%1” could not be carried over to its clone; it was left as it was")
             .arg(displayPath(path));
     }
-    if (const int error = removeItem(aside))
+    reach(Replaced);
+    faultPoint("clone.replaced");
+    const int error = removeItem(aside);
+    reach(Done);
+    if (error)
         return tr("“%1” was cloned, but its former copy “%2” could not be removed: %3")
             .arg(displayPath(path), displayPath(aside), errorText(error));
     restoreParentFolder(path, snapshot);
@@ -121,7 +138,11 @@ std::unique_ptr<QTemporaryDir> makePlanFolder()
 
 CloneSteps CloneSteps::real()
 {
-    return CloneSteps{dedupeFile, renameNoReplace, cloneItem, restoreFSMetadata};
+    CloneSteps steps{dedupeFile, renameNoReplace, cloneItem, restoreFSMetadata};
+    // The tests of interrupted clones need the move-aside way where the kernel would dedupe.
+    if (qEnvironmentVariableIsSet("SELFSAME_TEST_NO_DEDUPE"))
+        steps.dedupe = [](const QString &, const QString &) { return EOPNOTSUPP; };
+    return steps;
 }
 
 QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, const ResultItem &reference,
@@ -156,7 +177,7 @@ QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, cons
 }
 
 QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool changeOwner,
-                       const CloneSteps &steps)
+                       const CloneSteps &steps, Journal *journal)
 {
     if (QString changed = changedSinceSearch(duplicate); !changed.isEmpty()) return changed;
     if (QString problem = keptCopyProblem(duplicate, reference, false); !problem.isEmpty()) return problem;
@@ -166,7 +187,7 @@ QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool 
         if (shared == kContentDiffers)
             return tr("“%1” no longer has the content of “%2”").arg(displayPath(duplicate.path), displayPath(reference.path));
     }
-    return cloneByMovingAside(reference, duplicate, changeOwner, steps);
+    return cloneByMovingAside(reference, duplicate, changeOwner, steps, journal);
 }
 
 CloneWorker::CloneWorker(QList<ResultItem *> targets, QList<ResultItem *> mainItems,
@@ -230,7 +251,7 @@ bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool ch
                 c.writeProtected += writeProtected ? 1 : 0;
                 c.otherOwner += d->has(OtherOwner) ? 1 : 0;
             } else if (perform) {
-                if (QString why = cloneDuplicate(*r, *d, changeOwner, steps); !why.isEmpty()) {
+                if (QString why = cloneDuplicate(*r, *d, changeOwner, steps, journal); !why.isEmpty()) {
                     m_failures.append({d, why});
                     continue;
                 }

@@ -13,6 +13,8 @@
 namespace selfsame
 {
 
+class Journal;
+
 // What a pass of the worker planned or did.
 struct CloneCounts {
     bool onAllFoundFiles = false;
@@ -52,7 +54,7 @@ QList<ResultItem *> filterDuplicates(const QList<ResultItem *> &duplicates, cons
 // reached twice. After a rollback the duplicate is recorded anew: our own steps moved its
 // change time. Returns an empty string on success, else why nothing was changed.
 QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool changeOwner,
-                       const CloneSteps &steps);
+                       const CloneSteps &steps, Journal *journal = nullptr);
 
 // A private temporary folder for the cloning plan, under the user's runtime folder.
 std::unique_ptr<QTemporaryDir> makePlanFolder();
@@ -66,6 +68,8 @@ public:
     // Called before each reference with its index and the count; false aborts the pass.
     std::function<bool(int, int)> progress;
     CloneSteps steps = CloneSteps::real();
+    // Where the steps of the move-aside way are recorded before they begin; none when null.
+    Journal *journal = nullptr;
     // Where the planning pass writes the plan; "Selfsame.log" in a private temporary folder
     // when empty.
     QString planPath;

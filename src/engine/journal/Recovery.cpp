@@ -109,7 +109,7 @@ RecoveryReport recoverInterrupted(Journal &journal)
     for (JournalStep step : journal.unfinished()) {
         if (step.stage >= Replaced) {
             // Past the point of no return: the original set aside for deletion goes.
-            if (step.kind == int(DeleteKind::Delete) && exists(step.away)) removeItem(step.away);
+            if (step.kind != int(DeleteKind::Trash) && exists(step.away)) removeItem(step.away);
             report.finished.append(step.path);
         } else if (const QString why = rollBack(step); why.isEmpty()) {
             report.rolledBack.append(step.path);
