@@ -197,8 +197,11 @@ void DupesActions::runDeleteAction(bool trash)
 
 void DupesActions::putBack()
 {
+    Journal journal;
+    if (!recoverInterruptedActions(journal, m_window))
+        return;
     const QList<ResultItem *> items = targets().items;
-    const PutBackSummary summary = putBackItems(items);
+    const PutBackSummary summary = putBackItems(items, &journal);
     if (const auto failed = putBackFailureAlert(summary, items))
         askAlert(m_window, QMessageBox::Warning, *failed);
     Q_EMIT modelChanged();

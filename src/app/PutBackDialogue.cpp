@@ -5,6 +5,7 @@
 #include "fileops/DeleteChecks.h"
 #include "fileops/PutBack.h"
 #include "fileops/Trash.h"
+#include "journal/Journal.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -57,7 +58,9 @@ void PutBackDialogue::attempt(bool firstAttempt)
 {
     const QString file = m_files[m_index];
     const QString destination = putBackPath(file);
-    const PutBackResult result = putBackFile(file, destination);
+    // Each move back is journaled; the application recovered interrupted actions at its start.
+    Journal journal;
+    const PutBackResult result = putBackFile(file, destination, journal.isOpen() ? &journal : nullptr);
     if (result.ok()) {
         ++m_index;
         return next();

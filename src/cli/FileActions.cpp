@@ -73,20 +73,6 @@ int reportRecovery(const RecoveryReport &report, const Writer &err)
     return int(report.failed.size());
 }
 
-// Opens the operations journal and recovers what an earlier run left unfinished. Every step
-// is journaled: an action that cannot be is not begun.
-bool openJournal(std::optional<Journal> &journal, const Writer &err)
-{
-    journal.emplace(Journal::defaultPath());
-    if (!journal->isOpen()) {
-        err(tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
-                .arg(escapedText(Journal::defaultPath()), journal->error())
-                .toUtf8());
-        return false;
-    }
-    return reportRecovery(recoverInterrupted(*journal), err) == 0;
-}
-
 int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
                const Writer &err, int failures)
 {
@@ -211,6 +197,18 @@ QList<ActionGroup> actionGroupsFor(const ResultModel &model, const AutoSelection
         groups[*found].selected.append(item);
     }
     return groups;
+}
+
+bool openJournal(std::optional<Journal> &journal, const Writer &err)
+{
+    journal.emplace(Journal::defaultPath());
+    if (!journal->isOpen()) {
+        err(tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
+                .arg(escapedText(Journal::defaultPath()), journal->error())
+                .toUtf8());
+        return false;
+    }
+    return reportRecovery(recoverInterrupted(*journal), err) == 0;
 }
 
 int runRecover(const Writer &out, const Writer &err)

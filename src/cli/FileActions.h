@@ -2,12 +2,14 @@
 
 #include "autoselect/AutoSelectRules.h"
 #include "results/ResultItem.h"
+#include "journal/Journal.h"
 #include "results/ResultModel.h"
 
 #include <QByteArray>
 #include <QList>
 #include <QString>
 #include <functional>
+#include <optional>
 
 namespace selfsame::cli
 {
@@ -42,6 +44,11 @@ using Writer = std::function<void(const QByteArray &)>;
 // Returns 0 when everything succeeded (or would), 1 when anything failed.
 int runFileActions(const FileActionOptions &options, const QList<ActionGroup> &groups, const Writer &out,
                    const Writer &err);
+
+// Opens the operations journal and recovers what an earlier run left unfinished, saying what
+// it did on `err`. Every step of an action is journaled: one that cannot be is not begun, so
+// false means that no file may be acted on.
+bool openJournal(std::optional<Journal> &journal, const Writer &err);
 
 // `selfsame-cli recover`: finishes or rolls back every action that was interrupted (killed,
 // power lost) and says what it did. Actions that change files run it first. Returns 0, or 1

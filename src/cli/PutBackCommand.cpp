@@ -1,6 +1,7 @@
 #include "PutBackCommand.h"
 
 #include "CliPaths.h"
+#include "FileActions.h"
 #include "fileops/PutBack.h"
 #include "fileops/Trash.h"
 
@@ -28,6 +29,8 @@ int runPutBack(const QStringList &files, const std::function<void(const QByteArr
                 .toUtf8());
         return 2;
     }
+    std::optional<Journal> journal;
+    if (!openJournal(journal, err)) return 1;
     int failures = 0;
     for (const QString &file : files) {
         const QString trashed = absolutePath(file);
@@ -37,7 +40,7 @@ int runPutBack(const QStringList &files, const std::function<void(const QByteArr
             err(tr("not put back: %1: no record of where it came from\n").arg(escapedText(trashed)).toUtf8());
             continue;
         }
-        const PutBackResult result = putBackFile(trashed, destination);
+        const PutBackResult result = putBackFile(trashed, destination, &*journal);
         if (!result.ok()) {
             ++failures;
             err(tr("not put back: %1 -> %2: %3\n")

@@ -11,6 +11,7 @@
 #include <QProcessEnvironment>
 #include <QSet>
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 namespace
 {
@@ -157,6 +158,36 @@ TEST_P(CrashRecovery, EveryInterruptedActionIsFinishedOrRolledBack)
             expectWholeTrash(root + QStringLiteral("/.Trash-") + QString::number(geteuid()));
         }
     }
+}
+
+TEST_P(CrashRecovery, AnInterruptedPutBackLeavesNoRecordBehind)
+{
+    const QString home = tree.path(QStringLiteral("home"));
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), home);
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/data"));
+    environment.insert(QStringLiteral("XDG_STATE_HOME"), home + QStringLiteral("/state"));
+    const QByteArray content = patternBytes(30000, 52);
+    const QString base = root + QStringLiteral("/putback");
+    for (const char *name : {"keep/a.bin", "old/b.bin"})
+        ASSERT_TRUE(writeBytes((base + u'/' + QString::fromLatin1(name)).toUtf8(), content));
+    const Child trashed = runCli({"--no-cache", "--select", "folder", base + QStringLiteral("/old"),
+                                  "--inside", "--trash", "--yes", base},
+                                 environment);
+    ASSERT_EQ(trashed.exitCode, 0) << trashed.err.toStdString();
+    const QString inTrash = QString::fromUtf8(trashed.out).section(QStringLiteral("(now "), 1).chopped(2);
+    ASSERT_FALSE(inTrash.isEmpty()) << trashed.out.toStdString();
+
+    environment.insert(QStringLiteral("SELFSAME_TEST_FAULT_POINT"), QStringLiteral("putback.moved"));
+    EXPECT_TRUE(runCli({QStringLiteral("put-back"), inTrash}, environment).killed);
+    environment.remove(QStringLiteral("SELFSAME_TEST_FAULT_POINT"));
+    EXPECT_EQ(runCli({QStringLiteral("recover")}, environment).out, "0 rolled back, 1 finished, 0 failed\n");
+    EXPECT_EQ(readBytes((base + QStringLiteral("/old/b.bin")).toUtf8()), content);
+    const QString trash = inTrash.startsWith(home)
+                              ? home + QStringLiteral("/data/Trash")
+                              : root + QStringLiteral("/.Trash-") + QString::number(geteuid());
+    EXPECT_TRUE(entriesBelow(trash + QStringLiteral("/info")).isEmpty()) << "no record without its file";
+    expectWholeTrash(trash);
 }
 
 INSTANTIATE_TEST_SUITE_P(FileSystems, CrashRecovery, ::testing::Values("root", "tmpfs", "btrfs", "xfs"));

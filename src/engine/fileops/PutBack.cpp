@@ -6,6 +6,7 @@
 #include "fileops/Trash.h"
 #include "names/FileNames.h"
 #include "format/Formatters.h"
+#include "journal/Journal.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -34,37 +35,42 @@ PutBackResult moveBack(const QString &from, const QString &to)
 
 } // namespace
 
-PutBackResult putBackItem(ResultItem &item)
+PutBackResult putBackItem(ResultItem &item, Journal *journal)
 {
     if (item.trashedURL().isEmpty() || item.has(Deleted))
         return {ENOENT, tr("“%1” is not in the Bin.").arg(displayName(item.path))};
-    const QString trashed = item.trashedURL();
-    PutBackResult result = moveBack(trashed, item.path);
+    PutBackResult result = putBackFile(item.trashedURL(), item.path, journal);
     if (result.ok()) {
         removePutBackAttribute(item.path);
-        unlink(pathBytes(trashInfoPathFor(trashed)).constData());
         item.setTrashedURL({});
         item.setStatusImage({});
     }
     return result;
 }
 
-PutBackResult putBackFile(const QString &trashedPath, const QString &destination)
+PutBackResult putBackFile(const QString &trashedPath, const QString &destination, Journal *journal)
 {
+    // Recorded first: one interrupted after the move leaves a trash record to remove.
+    JournalStep step{0, 0, PutBackFromTrash, 0, destination, {}, {}, trashedPath, Intended};
+    if (journal && !journal->record(step))
+        return {EIO, tr("The operations journal could not record the step: %1").arg(journal->error())};
     PutBackResult result = moveBack(trashedPath, destination);
     if (result.ok()) {
+        faultPoint("putback.moved");
+        if (journal) journal->advance(step, Replaced);
         removePutBackAttribute(trashedPath); // fails unnoticed: the file is no longer there
         unlink(pathBytes(trashInfoPathFor(trashedPath)).constData());
     }
+    if (journal) journal->advance(step, Done);
     return result;
 }
 
-PutBackSummary putBackItems(const QList<ResultItem *> &targets)
+PutBackSummary putBackItems(const QList<ResultItem *> &targets, Journal *journal)
 {
     PutBackSummary summary;
     for (ResultItem *item : targets) {
         if (item->trashedURL().isEmpty() || item->has(Deleted)) continue;
-        if (const PutBackResult result = putBackItem(*item); result.ok()) {
+        if (const PutBackResult result = putBackItem(*item, journal); result.ok()) {
             summary.putBack.append(item);
         } else {
             ++summary.failures;

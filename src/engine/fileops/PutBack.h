@@ -10,6 +10,8 @@
 namespace selfsame
 {
 
+class Journal; // with one, each move back is recorded first (journal/Journal.h)
+
 struct PutBackResult {
     int error = 0; // errno value; 0 on success
     QString errorText;
@@ -20,12 +22,12 @@ struct PutBackResult {
 // on success removes the put-back attribute from the restored file and the .trashinfo
 // record, and clears trashedURL and the status image. Items without trashedURL or already
 // deleted are refused.
-PutBackResult putBackItem(ResultItem &item);
+PutBackResult putBackItem(ResultItem &item, Journal *journal = nullptr);
 
 // Moves a file handed over from the trash to `destination`, never over an existing file.
 // On success the .trashinfo record is removed; the put-back attribute is removed at the
 // file's former place in the trash, so the restored file keeps it, as intended.
-PutBackResult putBackFile(const QString &trashedPath, const QString &destination);
+PutBackResult putBackFile(const QString &trashedPath, const QString &destination, Journal *journal = nullptr);
 
 struct PutBackSummary {
     QList<ResultItem *> putBack; // their icon goes back to the file's own
@@ -33,7 +35,7 @@ struct PutBackSummary {
     QString lastErrorText;
 };
 // Puts back, in order, the targets that are in the trash and not deleted; passes over the rest.
-PutBackSummary putBackItems(const QList<ResultItem *> &targets);
+PutBackSummary putBackItems(const QList<ResultItem *> &targets, Journal *journal = nullptr);
 // The alert after putting back items from a window; nullopt when nothing failed.
 std::optional<Alert> putBackFailureAlert(const PutBackSummary &summary, const QList<ResultItem *> &targets);
 // The question before putting back a file handed over, and the error after it failed.

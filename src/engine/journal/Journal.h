@@ -20,12 +20,14 @@ enum JournalStage : int {
 
 // The kind of a step that replaces a duplicate by a clone: moved aside, cloned over, removed.
 inline constexpr int CloneInPlace = 2;
+// The kind of a step that moves a file back from the trash (`away`) to its path.
+inline constexpr int PutBackFromTrash = 3;
 
 // One file's part of an action, as recorded before each step touches the file system.
 struct JournalStep {
     qint64 id = 0;
     qint64 batch = 0;
-    int kind = 0;   // DeleteKind (0 to the trash, 1 deleted), or CloneInPlace
+    int kind = 0;   // DeleteKind (0 to the trash, 1 deleted), CloneInPlace or PutBackFromTrash
     int mode = 0;   // ReplaceWithMode
     QString path;   // the file acted on
     QString kept;   // the copy kept in its place; empty without one

@@ -107,7 +107,15 @@ RecoveryReport recoverInterrupted(Journal &journal)
 {
     RecoveryReport report;
     for (JournalStep step : journal.unfinished()) {
-        if (step.stage >= Replaced) {
+        if (step.kind == PutBackFromTrash) {
+            // Moved back already, or not at all: what may be left is the trash's record.
+            if (exists(step.path) && !exists(step.away)) {
+                unlink(pathBytes(trashInfoPathFor(step.away)).constData());
+                report.finished.append(step.path);
+            } else {
+                report.rolledBack.append(step.path);
+            }
+        } else if (step.stage >= Replaced) {
             // Past the point of no return: the original set aside for deletion goes.
             if (step.kind != int(DeleteKind::Trash) && exists(step.away)) removeItem(step.away);
             report.finished.append(step.path);
