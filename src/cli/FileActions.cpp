@@ -70,6 +70,10 @@ int reportRecovery(const RecoveryReport &report, const Writer &err)
         err(tr("recovered: %1: an interrupted action was finished\n").arg(escapedText(path)).toUtf8());
     for (const QString &failure : report.failed)
         err(tr("recovery failed: %1\n").arg(escapedText(failure)).toUtf8());
+    if (report.planFoldersRemoved > 0)
+        err(tr("recovered: removed %1 temporary folders of interrupted cloning plans\n")
+                .arg(report.planFoldersRemoved)
+                .toUtf8());
     return int(report.failed.size());
 }
 

@@ -190,4 +190,5 @@ TEST_P(CrashRecovery, AnInterruptedPutBackLeavesNoRecordBehind)
     expectWholeTrash(trash);
 }
 
-INSTANTIATE_TEST_SUITE_P(FileSystems, CrashRecovery, ::testing::Values("root", "tmpfs", "btrfs", "xfs"));
+INSTANTIATE_TEST_SUITE_P(FileSystems, CrashRecovery,
+                         ::testing::Values("root", "ext4", "tmpfs", "btrfs", "xfs"));

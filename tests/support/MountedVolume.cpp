@@ -23,8 +23,9 @@ QString MountedVolume::mount()
         m_mounted = shell(QStringLiteral("mount -t tmpfs -o size=64m tmpfs \"$0\""), {m_mountPoint});
     } else {
         const QString image = m_tree.file(QStringLiteral("volume.img"), {});
-        const QString format = m_type == u"xfs" ? QStringLiteral("mkfs.xfs -q -m reflink=1 \"$0\"")
-                                                : QStringLiteral("mkfs.btrfs -q \"$0\"");
+        const QString format = m_type == u"xfs"    ? QStringLiteral("mkfs.xfs -q -m reflink=1 \"$0\"")
+                               : m_type == u"ext4" ? QStringLiteral("mkfs.ext4 -q -F \"$0\"")
+                                                   : QStringLiteral("mkfs.btrfs -q \"$0\"");
         m_mounted = QFile::resize(image, qint64(320) << 20) &&
                     shell(format + QStringLiteral(" && mount -o loop \"$0\" \"$1\""), {image, m_mountPoint});
     }

@@ -6,7 +6,7 @@
 #include <QStringList>
 
 // A file system mounted for one test inside a temporary tree, and always unmounted:
-// "btrfs" and "xfs" on a loop-mounted image, "tmpfs" directly. mount() says why it could
+// "btrfs", "xfs" and "ext4" on a loop-mounted image, "tmpfs" directly. mount() says why it could
 // not mount, for GTEST_SKIP.
 class MountedVolume
 {

@@ -13,6 +13,9 @@
 #include <QFile>
 #include <QSet>
 #include <algorithm>
+#include <cerrno>
+#include <csignal>
+#include <limits>
 #include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
@@ -129,11 +132,36 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
 
 } // namespace
 
-std::unique_ptr<QTemporaryDir> makePlanFolder()
+namespace
+{
+
+QString planFolderBase()
 {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
-    const QString base = runtime.isEmpty() || !QDir(runtime).exists() ? QDir::tempPath() : runtime;
-    return std::make_unique<QTemporaryDir>(base + QStringLiteral("/Selfsame-XXXXXX"));
+    return runtime.isEmpty() || !QDir(runtime).exists() ? QDir::tempPath() : runtime;
+}
+
+} // namespace
+
+std::unique_ptr<QTemporaryDir> makePlanFolder()
+{
+    // The process's id in the name tells, once it is gone, that nobody uses the folder any more.
+    return std::make_unique<QTemporaryDir>(planFolderBase() + QStringLiteral("/Selfsame-%1-XXXXXX").arg(getpid()));
+}
+
+int removeStalePlanFolders()
+{
+    int removed = 0;
+    const QDir base(planFolderBase());
+    for (const QString &name : base.entryList({QStringLiteral("Selfsame-*-*")}, QDir::Dirs | QDir::NoDotAndDotDot)) {
+        bool number = false;
+        const qint64 pid = name.section(u'-', 1, 1).toLongLong(&number);
+        if (!number || pid <= 0 || pid > std::numeric_limits<pid_t>::max() ||
+            !(kill(pid_t(pid), 0) != 0 && errno == ESRCH))
+            continue;
+        if (removeItem(base.filePath(name)) == 0) ++removed;
+    }
+    return removed;
 }
 
 CloneSteps CloneSteps::real()

@@ -58,6 +58,9 @@ QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool 
 
 // A private temporary folder for the cloning plan, under the user's runtime folder.
 std::unique_ptr<QTemporaryDir> makePlanFolder();
+// Removes the plan folders of processes that are gone (killed before they could); returns
+// how many.
+int removeStalePlanFolders();
 
 // Replaces duplicates by clones in two passes: planning (counts and a plan file) and cloning.
 class CloneWorker

@@ -1,6 +1,7 @@
 #include "journal/Recovery.h"
 
 #include "fileops/CloneItem.h"
+#include "fileops/CloneWorker.h"
 #include "fileops/DeleteActions.h"
 #include "fileops/FSMetadata.h"
 #include "fileops/Trash.h"
@@ -127,6 +128,7 @@ RecoveryReport recoverInterrupted(Journal &journal)
         }
         journal.advance(step, Done);
     }
+    report.planFoldersRemoved = removeStalePlanFolders();
     return report;
 }
 

@@ -11,6 +11,7 @@ struct RecoveryReport {
     QStringList rolledBack; // paths given back their original
     QStringList finished;   // paths whose step was past its point of no return, now completed
     QStringList failed;     // "path: why"
+    int planFoldersRemoved = 0; // cloning plans' folders left by processes that were killed
     bool isEmpty() const { return rolledBack.isEmpty() && finished.isEmpty() && failed.isEmpty(); }
 };
 
@@ -19,7 +20,8 @@ struct RecoveryReport {
 // it or from the trash, never over another file), and whatever the step had made beside it,
 // or recorded in the trash without its file, is removed. After it, the step is finished: the
 // original set aside for deletion is removed. Afterwards no file is missing from its path and
-// nothing of ours is left beside it.
+// nothing of ours is left beside it. The temporary folders of cloning plans whose process is
+// gone are removed too.
 RecoveryReport recoverInterrupted(Journal &journal);
 
 } // namespace selfsame
