@@ -24,23 +24,6 @@ std::optional<struct stat> statusOf(const QString &path)
 
 } // namespace
 
-bool pathExists(const QString &path)
-{
-    return statusOf(path).has_value();
-}
-
-bool isFolder(const QString &path)
-{
-    const auto status = statusOf(path);
-    return status && S_ISDIR(status->st_mode);
-}
-
-bool isRegularFile(const QString &path)
-{
-    const auto status = statusOf(path);
-    return status && S_ISREG(status->st_mode);
-}
-
 std::optional<qint64> modificationTime(const QString &path)
 {
     const auto status = statusOf(path);

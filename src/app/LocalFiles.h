@@ -1,5 +1,7 @@
 #pragma once
 
+#include "names/FileNames.h"
+
 #include <QFile>
 #include <QIcon>
 #include <QList>
@@ -17,10 +19,7 @@ namespace selfsame {
 // file classes encode every name as UTF-8 and so reach another file, or none, for those; the
 // application reaches files through these instead, which use the exact bytes.
 
-// Symbolic links are followed, as QFileInfo does: a dangling one does not exist.
-bool pathExists(const QString &path);
-bool isFolder(const QString &path);
-bool isRegularFile(const QString &path);
+// pathExists, isFolder and isRegularFile are those of names/FileNames.h.
 std::optional<qint64> modificationTime(const QString &path); // seconds since 1970
 
 // The file open for reading, for QImageReader, QMimeDatabase and the like; null, with errno

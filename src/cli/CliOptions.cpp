@@ -288,7 +288,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
         return fail(tr("no folder or file to search"));
     if (anywhere) {
         const QString file = paths.takeFirst();
-        if (!isPlainFile(file))
+        if (!isRegularFile(file, Links::AsThemselves))
             return fail(tr("--anywhere needs a file, not '%1'").arg(escapedText(file)));
         request.searchInFolderURLs.append(absolutePath(file));
         request.findAllDupesForSingleFiles = true;

@@ -15,13 +15,6 @@ namespace selfsame::cli
 namespace
 {
 
-bool statOf(const QString &path, bool followLinks, struct stat *st)
-{
-    const QByteArray bytes = pathBytes(path);
-    return !bytes.isEmpty() &&
-           (followLinks ? stat(bytes.constData(), st) : lstat(bytes.constData(), st)) == 0;
-}
-
 // The working folder by its bytes, which need not be UTF-8 either.
 QString workingFolder()
 {
@@ -59,27 +52,6 @@ QString absolutePath(const QString &path)
 {
     if (path.isEmpty()) return path;
     return QDir::cleanPath(path.startsWith(u'/') ? path : workingFolder() + u'/' + path);
-}
-
-bool pathExists(const QString &path)
-{
-    struct stat st {
-    };
-    return statOf(path, true, &st);
-}
-
-bool isFolder(const QString &path)
-{
-    struct stat st {
-    };
-    return statOf(path, true, &st) && S_ISDIR(st.st_mode);
-}
-
-bool isPlainFile(const QString &path)
-{
-    struct stat st {
-    };
-    return statOf(path, false, &st) && S_ISREG(st.st_mode);
 }
 
 QString escapedText(QStringView text)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "names/FileNames.h" // pathExists, isFolder, isRegularFile
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -16,12 +18,6 @@ QStringList argumentsFromBytes(int argc, const char *const *argv);
 // The path made absolute against the working folder, without "." and ".." steps. Plain text
 // work: QFileInfo would encode the path as UTF-8 and lose the bytes that are not.
 QString absolutePath(const QString &path);
-
-// Checks on a path given on the command line, by its exact bytes. exists and isFolder follow
-// symbolic links; isPlainFile is true only for a regular file not reached through one.
-bool pathExists(const QString &path);
-bool isFolder(const QString &path);
-bool isPlainFile(const QString &path);
 
 // The text as one line a terminal shows safely, in the manner of `ls -b`: a backslash as
 // "\\", tab, newline and the other C escapes as "\t", "\n", "\r", "\a", "\b", "\f", "\v",

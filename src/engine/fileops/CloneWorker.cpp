@@ -72,20 +72,17 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
     if (duplicate.has(ReadOnly)) liftWriteProtection(path, snapshot);
     const QString aside = besidePath(path);
     // Each step is recorded before it begins: an interrupted clone comes back as it was.
-    JournalStep step{0, 0, CloneInPlace, 0, path, reference.path, {}, aside, Intended};
-    auto reach = [&](JournalStage stage) {
-        if (journal) journal->advance(step, stage);
-    };
-    if (journal && !journal->record(step))
+    JournaledStep journaled{journal, {0, 0, CloneInPlace, 0, path, reference.path, {}, aside, Intended}};
+    if (!journaled.begin())
         return tr("The operations journal could not record the step: %1").arg(journal->error());
     if (const int error = steps.moveAside(path, aside)) {
         restoreFSMetadata(path, snapshot);
         recordCurrentState(duplicate);
-        reach(Done);
+        journaled.reach(Done);
         return tr("“%1” could not be moved aside: %2").arg(displayPath(path), errorText(error));
     }
     faultPoint("clone.moved-aside");
-    reach(TakenAway);
+    journaled.reach(TakenAway);
     // The original is safe aside only if it is really there; never remove what holds its path otherwise.
     auto asideExists = [&] {
         struct stat st {
@@ -96,7 +93,7 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
         renameNoReplace(aside, path);
         restoreFSMetadata(path, snapshot);
         recordCurrentState(duplicate); // the same file, its change time moved by our own steps
-        reach(Done);
+        journaled.reach(Done);
     };
     if (const int error = steps.clone(reference.path, path, reference.has(IsFolder))) {
         if (asideExists()) {
@@ -119,10 +116,10 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
         return tr("The metadata of “%1” could not be carried over to its clone; it was left as it was")
             .arg(displayPath(path));
     }
-    reach(Replaced);
+    journaled.reach(Replaced);
     faultPoint("clone.replaced");
     const int error = removeItem(aside);
-    reach(Done);
+    journaled.reach(Done);
     if (error)
         return tr("“%1” was cloned, but its former copy “%2” could not be removed: %3")
             .arg(displayPath(path), displayPath(aside), errorText(error));

@@ -27,17 +27,6 @@ QString errorText(int error)
     return QString::fromLocal8Bit(std::strerror(error));
 }
 
-// Records one file's steps in the journal, when there is one.
-struct JournaledStep {
-    Journal *journal = nullptr;
-    JournalStep step;
-    bool begin() { return !journal || journal->record(step); }
-    void reach(JournalStage stage)
-    {
-        if (journal) journal->advance(step, stage);
-    }
-};
-
 // Removes the file with no replacement. Returns the error text, empty on success. A deletion
 // first moves the file aside, so that one killed halfway through a folder can be finished.
 QString removeOnly(DeleteKind kind, ResultItem &item, int mode, DeleteOutcome &outcome, JournaledStep &journaled)

@@ -51,17 +51,17 @@ PutBackResult putBackItem(ResultItem &item, Journal *journal)
 PutBackResult putBackFile(const QString &trashedPath, const QString &destination, Journal *journal)
 {
     // Recorded first: one interrupted after the move leaves a trash record to remove.
-    JournalStep step{0, 0, PutBackFromTrash, 0, destination, {}, {}, trashedPath, Intended};
-    if (journal && !journal->record(step))
+    JournaledStep journaled{journal, {0, 0, PutBackFromTrash, 0, destination, {}, {}, trashedPath, Intended}};
+    if (!journaled.begin())
         return {EIO, tr("The operations journal could not record the step: %1").arg(journal->error())};
     PutBackResult result = moveBack(trashedPath, destination);
     if (result.ok()) {
         faultPoint("putback.moved");
-        if (journal) journal->advance(step, Replaced);
+        journaled.reach(Replaced);
         removePutBackAttribute(trashedPath); // fails unnoticed: the file is no longer there
         unlink(pathBytes(trashInfoPathFor(trashedPath)).constData());
     }
-    if (journal) journal->advance(step, Done);
+    journaled.reach(Done);
     return result;
 }
 

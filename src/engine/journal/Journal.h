@@ -67,6 +67,20 @@ private:
     QString m_error;
 };
 
+// One step as it goes, recorded in the journal when there is one (actions run without one
+// in tests of other things).
+struct JournaledStep {
+    Journal *journal = nullptr;
+    JournalStep step;
+    // Records the step; false, with the journal's error, when it could not be: then the step
+    // must not begin.
+    bool begin() { return !journal || journal->record(step); }
+    void reach(JournalStage stage)
+    {
+        if (journal) journal->advance(step, stage);
+    }
+};
+
 // Kills the process at the named point when the test-only switch SELFSAME_TEST_FAULT_POINT
 // names it: how the tests interrupt an action between two of its steps.
 void faultPoint(const char *name);

@@ -20,11 +20,10 @@ namespace selfsame
 namespace
 {
 
+// An entry stands at the path, whatever it is.
 bool exists(const QString &path)
 {
-    struct stat st {
-    };
-    return !path.isEmpty() && lstat(pathBytes(path).constData(), &st) == 0;
+    return pathExists(path, Links::AsThemselves);
 }
 
 QStringList entriesOf(const QString &folder)

@@ -1,6 +1,7 @@
 #include "names/FileNames.h"
 
 #include <algorithm>
+#include <sys/stat.h>
 
 namespace selfsame
 {
@@ -143,6 +144,39 @@ QString pathFromUrl(const QUrl &url)
 {
     if (!url.isLocalFile()) return {};
     return pathFromBytes(QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1()));
+}
+
+namespace
+{
+
+bool statusOf(const QString &path, Links links, struct stat *status)
+{
+    const QByteArray bytes = pathBytes(path);
+    return !bytes.isEmpty() &&
+           (links == Links::Follow ? stat(bytes.constData(), status) : lstat(bytes.constData(), status)) == 0;
+}
+
+} // namespace
+
+bool pathExists(const QString &path, Links links)
+{
+    struct stat status {
+    };
+    return statusOf(path, links, &status);
+}
+
+bool isFolder(const QString &path)
+{
+    struct stat status {
+    };
+    return statusOf(path, Links::Follow, &status) && S_ISDIR(status.st_mode);
+}
+
+bool isRegularFile(const QString &path, Links links)
+{
+    struct stat status {
+    };
+    return statusOf(path, links, &status) && S_ISREG(status.st_mode);
 }
 
 } // namespace selfsame

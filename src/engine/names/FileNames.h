@@ -34,6 +34,14 @@ QString pathFromUrl(const QUrl &url);
 // The bytes percent-encoded for a URL or a trash record: letters, digits and "/-._~" stay.
 QByteArray percentEncodedPath(const QString &path);
 
+// Checks on a path by its exact bytes (QFileInfo would encode it as UTF-8 and lose what is
+// not). With Links::Follow a symbolic link counts as what it leads to, a dangling one as
+// nothing; otherwise as the entry it is.
+enum class Links { Follow, AsThemselves };
+bool pathExists(const QString &path, Links links = Links::Follow);
+bool isFolder(const QString &path);
+bool isRegularFile(const QString &path, Links links = Links::Follow);
+
 // The path as a person sees it: every byte that is not UTF-8 as \xFF, the rest as it is.
 QString displayPath(QStringView path);
 
