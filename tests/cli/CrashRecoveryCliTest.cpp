@@ -1,13 +1,12 @@
 // selfsame-cli killed between any two steps of an action, then `selfsame-cli recover`: nothing
 // is lost and nothing of ours is left lying about, on every file system the tests may mount.
 
+#include "cli/CliProcess.h"
 #include "support/ByteFiles.h"
 #include "support/MountedVolume.h"
 #include "support/TempTree.h"
 
-#include <QCoreApplication>
 #include <QDirIterator>
-#include <QProcess>
 #include <QProcessEnvironment>
 #include <QSet>
 #include <gtest/gtest.h>
@@ -15,25 +14,6 @@
 
 namespace
 {
-
-struct Child {
-    bool killed = false;
-    int exitCode = -1;
-    QByteArray out, err;
-};
-
-Child runCli(const QStringList &arguments, const QProcessEnvironment &environment)
-{
-    static int argc = 1;
-    static char name[] = "cli-tests", *argv[] = {name, nullptr};
-    if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.start(QStringLiteral(SELFSAME_CLI_PATH), arguments);
-    EXPECT_TRUE(process.waitForFinished(60000));
-    return {process.exitStatus() == QProcess::CrashExit, process.exitCode(), process.readAllStandardOutput(),
-            process.readAllStandardError()};
-}
 
 // Every entry below `folder`, relative to it, trash folders left out.
 QSet<QString> entriesBelow(const QString &folder)
@@ -123,11 +103,11 @@ TEST_P(CrashRecovery, EveryInterruptedActionIsFinishedOrRolledBack)
             if (!mode.isEmpty()) arguments << "--replace-with" << mode;
 
             environment.insert(QStringLiteral("SELFSAME_TEST_FAULT_POINT"), point);
-            const Child killed = runCli(arguments, environment);
+            const CliRun killed = runCli(arguments, environment);
             EXPECT_TRUE(killed.killed)
                 << "the action reached " << point.toStdString() << ": " << killed.err.toStdString();
             environment.remove(QStringLiteral("SELFSAME_TEST_FAULT_POINT"));
-            const Child recovered = runCli({QStringLiteral("recover")}, environment);
+            const CliRun recovered = runCli({QStringLiteral("recover")}, environment);
             EXPECT_EQ(recovered.exitCode, 0) << recovered.err.toStdString();
             EXPECT_TRUE(recovered.out.startsWith("1 rolled back") ||
                         recovered.out.startsWith("0 rolled back, 1 finished"))
@@ -171,9 +151,9 @@ TEST_P(CrashRecovery, AnInterruptedPutBackLeavesNoRecordBehind)
     const QString base = root + QStringLiteral("/putback");
     for (const char *name : {"keep/a.bin", "old/b.bin"})
         ASSERT_TRUE(writeBytes((base + u'/' + QString::fromLatin1(name)).toUtf8(), content));
-    const Child trashed = runCli({"--no-cache", "--select", "folder", base + QStringLiteral("/old"),
-                                  "--inside", "--trash", "--yes", base},
-                                 environment);
+    const CliRun trashed = runCli({"--no-cache", "--select", "folder", base + QStringLiteral("/old"),
+                                   "--inside", "--trash", "--yes", base},
+                                  environment);
     ASSERT_EQ(trashed.exitCode, 0) << trashed.err.toStdString();
     const QString inTrash = QString::fromUtf8(trashed.out).section(QStringLiteral("(now "), 1).chopped(2);
     ASSERT_FALSE(inTrash.isEmpty()) << trashed.out.toStdString();

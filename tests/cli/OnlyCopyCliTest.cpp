@@ -1,11 +1,10 @@
 // selfsame-cli never deletes the only copy of a content, however the file is reached or named.
 
+#include "cli/CliProcess.h"
 #include "support/ByteFiles.h"
 #include "support/TempTree.h"
 
-#include <QCoreApplication>
 #include <QFile>
-#include <QProcess>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
@@ -14,23 +13,6 @@
 
 namespace
 {
-
-struct CliRun {
-    int exitCode = -1;
-    QByteArray out, err;
-};
-
-CliRun runCli(const QStringList &arguments)
-{
-    static int argc = 1;
-    static char name[] = "cli-tests", *argv[] = {name, nullptr};
-    if (!QCoreApplication::instance()) new QCoreApplication(argc, argv);
-    QProcess process;
-    process.start(QStringLiteral(SELFSAME_CLI_PATH), arguments);
-    EXPECT_TRUE(process.waitForFinished(60000));
-    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
-}
-
 
 TEST(OnlyCopyCli, AFileReachedThroughALinkedFolderIsNeverDeletedAsItsOwnCopy)
 {
