@@ -43,6 +43,8 @@ QString usageText()
               "       selfsame-cli put-back FILE...   (files in the trash, back to where they came from)\n"
               "       selfsame-cli clear-cache        (forget the file digests kept between searches)\n"
               "       selfsame-cli recover            (finish or roll back file actions that were interrupted)\n"
+              "       selfsame-cli journal            (the file actions done, newest first, numbered)\n"
+              "       selfsame-cli undo [ACTION]      (undo the last action, or the one of that number)\n"
               "Finds files (and with --compare-folders, folders) of equal content, or of equal duration,\n"
               "name or metadata attribute.\n"
               "\n"

@@ -83,6 +83,8 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
     std::optional<Journal> journal;
     if (options.perform && !openJournal(journal, err)) return 1;
     const bool trash = options.action == FileAction::Trash;
+    // One run is one action in the journal, undone as a whole.
+    const BatchScope batch(journal ? &*journal : nullptr, trash ? QStringLiteral("trash") : QStringLiteral("delete"));
     const int mode = options.replaceWith;
     int done = 0;
     int changed = 0;
@@ -125,6 +127,11 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
                                 ? tr("%1 done, %2 failed\n")
                                 : tr("%1 would be done, %2 refused (dry run: add --yes to act)\n");
     err(summary.arg(done).arg(failures).toUtf8());
+    const bool forGood = !trash && mode == ReplaceWithNone;
+    if (!options.perform && forGood && done > 0)
+        err(tr("deleting cannot be undone: files deleted with nothing in their place are gone for good\n").toUtf8());
+    else if (options.perform && !forGood && done > 0)
+        err(tr("`selfsame-cli undo` undoes this action\n").toUtf8());
     if (changed > 0)
         err(tr("left alone because they or their kept copy changed since the search, or because they were "
                "one file reached through two paths: %1\n")

@@ -31,6 +31,7 @@ int runPutBack(const QStringList &files, const std::function<void(const QByteArr
     }
     std::optional<Journal> journal;
     if (!openJournal(journal, err)) return 1;
+    const BatchScope batch(&*journal, QStringLiteral("put back"));
     int failures = 0;
     for (const QString &file : files) {
         const QString trashed = absolutePath(file);

@@ -5,6 +5,7 @@
 #include "CliPaths.h"
 #include "FileActionOptions.h"
 #include "FileActions.h"
+#include "JournalCommands.h"
 #include "PutBackCommand.h"
 #include "ResultOutput.h"
 #include "attributes/SpotlightAttributesManager.h"
@@ -63,6 +64,14 @@ int main(int argc, char *argv[])
     if (commandLine.value(1) == u"put-back")
         return runPutBack(commandLine.mid(2), [](const QByteArray &b) { writeAll(stdout, b); },
                           [](const QByteArray &b) { writeAll(stderr, b); });
+
+    if (commandLine.value(1) == u"journal" && commandLine.size() == 2)
+        return runJournalListing([](const QByteArray &b) { writeAll(stdout, b); },
+                                 [](const QByteArray &b) { writeAll(stderr, b); });
+
+    if (commandLine.value(1) == u"undo")
+        return runUndo(commandLine.mid(2), [](const QByteArray &b) { writeAll(stdout, b); },
+                       [](const QByteArray &b) { writeAll(stderr, b); });
 
     if (commandLine.value(1) == u"recover" && commandLine.size() == 2)
         return runRecover([](const QByteArray &b) { writeAll(stdout, b); },

@@ -76,7 +76,7 @@ TEST(FileActions, DryRunChangesNothingAndActingReportsEveryFile)
     Captured done;
     EXPECT_EQ(runFileActions(options, groups.mid(0, 2), done.outWriter(), done.errWriter()), 0);
     EXPECT_EQ(done.out.count("moved to the trash: "), 4);
-    EXPECT_TRUE(done.err.endsWith("4 done, 0 failed\n"));
+    EXPECT_TRUE(done.err.endsWith("4 done, 0 failed\n`selfsame-cli undo` undoes this action\n")) << done.err.toStdString();
     EXPECT_EQ(readLinkText(groups[1].selected[1]->path), groups[1].reference->path);
     for (const ResultItem *member : everything.members)
         EXPECT_TRUE(QFile::exists(member->path));

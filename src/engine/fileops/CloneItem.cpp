@@ -146,6 +146,43 @@ int cloneItem(const QString &source, const QString &destination, bool isFolder)
                     : cloneFileAt(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), false);
 }
 
+int copyWithoutSharing(const QString &source, const QString &destination, mode_t mode)
+{
+    const QByteArray to = pathBytes(destination);
+    const int in = open(pathBytes(source).constData(), O_RDONLY | O_CLOEXEC);
+    if (in < 0) return errno;
+    const int out = open(to.constData(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, mode & 07777);
+    if (out < 0) {
+        const int error = errno;
+        close(in);
+        return error;
+    }
+    posix_fadvise(in, 0, 0, POSIX_FADV_SEQUENTIAL);
+    std::vector<char> buffer(std::size_t(1) << 20);
+    int error = 0;
+    for (;;) {
+        const ssize_t n = read(in, buffer.data(), buffer.size());
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) {
+            error = n < 0 ? errno : 0;
+            break;
+        }
+        for (ssize_t written = 0; written < n && !error;) {
+            const ssize_t w = write(out, buffer.data() + written, std::size_t(n - written));
+            if (w < 0 && errno != EINTR) error = errno;
+            written += w > 0 ? w : 0;
+        }
+        if (error) break;
+    }
+    // On the disk before anything relies on it: the copy is about to take an only copy's place.
+    if (!error && fsync(out) != 0) error = errno;
+    if (!error && fchmod(out, mode & 07777) != 0) error = errno; // the umask may have cut the bits
+    close(in);
+    if (close(out) != 0 && !error) error = errno;
+    if (error) unlink(to.constData());
+    return error;
+}
+
 int renameNoReplace(const QString &from, const QString &to)
 {
     const QByteArray f = pathBytes(from);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <sys/types.h>
 
 namespace selfsame
 {
@@ -11,6 +12,12 @@ namespace selfsame
 // when it is a symbolic link. Only the data and the mode bits are carried: the caller
 // restores the rest from a snapshot. Returns 0, or an errno value with nothing left behind.
 int cloneItem(const QString &source, const QString &destination, bool isFolder);
+
+// Copies a regular file's bytes into a new file at `destination` by reading and writing, so
+// that the copy shares no storage with its source (as a clone or a kernel-side copy may), and
+// syncs it to the disk. The copy gets `mode`'s permission bits. Returns 0, or an errno value
+// with nothing left behind.
+int copyWithoutSharing(const QString &source, const QString &destination, mode_t mode);
 
 // rename() that never replaces an existing entry. Returns 0 or an errno value.
 int renameNoReplace(const QString &from, const QString &to);

@@ -72,7 +72,11 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
     if (duplicate.has(ReadOnly)) liftWriteProtection(path, snapshot);
     const QString aside = besidePath(path);
     // Each step is recorded before it begins: an interrupted clone comes back as it was.
-    JournaledStep journaled{journal, {0, 0, CloneInPlace, 0, path, reference.path, {}, aside, Intended}};
+    JournaledStep journaled{journal, {}};
+    journaled.step.kind = CloneInPlace;
+    journaled.step.path = path;
+    journaled.step.kept = reference.path;
+    journaled.step.away = aside;
     if (!journaled.begin())
         return tr("The operations journal could not record the step: %1").arg(journal->error());
     if (const int error = steps.moveAside(path, aside)) {
@@ -119,7 +123,7 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
     journaled.reach(Replaced);
     faultPoint("clone.replaced");
     const int error = removeItem(aside);
-    journaled.reach(Done);
+    journaled.finish();
     if (error)
         return tr("“%1” was cloned, but its former copy “%2” could not be removed: %3")
             .arg(displayPath(path), displayPath(aside), errorText(error));
@@ -208,7 +212,15 @@ QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool 
     if (QString problem = keptCopyProblem(duplicate, reference, false); !problem.isEmpty()) return problem;
     if (!duplicate.has(IsFolder)) {
         const int shared = steps.dedupe(reference.path, duplicate.path);
-        if (shared == 0) return {};
+        if (shared == 0) {
+            // Sharing storage is one call that changes no name: recorded once done, for an undo.
+            JournaledStep journaled{journal, {}};
+            journaled.step.kind = CloneInPlace;
+            journaled.step.path = duplicate.path;
+            journaled.step.kept = reference.path;
+            if (journaled.begin()) journaled.finish();
+            return {};
+        }
         if (shared == kContentDiffers)
             return tr("“%1” no longer has the content of “%2”").arg(displayPath(duplicate.path), displayPath(reference.path));
     }
@@ -254,6 +266,7 @@ bool CloneWorker::perform(bool perform, bool overideReadOnlyIfSameOwner, bool ch
         else if (fd >= 0) close(fd);
     }
 
+    const BatchScope batch(perform ? journal : nullptr, QStringLiteral("clone"));
     QSet<ResultItem *> done;
     QList<ResultItem *> alreadyClones;
     for (qsizetype i = 0; i < items.size(); ++i) {

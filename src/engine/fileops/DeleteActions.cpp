@@ -34,7 +34,8 @@ QString removeOnly(DeleteKind kind, ResultItem &item, int mode, DeleteOutcome &o
     if (kind == DeleteKind::Trash) {
         const TrashResult trashed = trashItem(item.path);
         if (trashed.trashedPath.isEmpty()) return trashed.errorText;
-        journaled.reach(Done);
+        journaled.step.away = trashed.trashedPath; // where an undo finds it
+        journaled.finish();
         outcome.status = statusImageName(true, mode);
         if (outcome.status == QStringLiteral("trashed")) item.setTrashedURL(trashed.trashedPath);
         return {};
@@ -46,7 +47,7 @@ QString removeOnly(DeleteKind kind, ResultItem &item, int mode, DeleteOutcome &o
     if (const int error = removeItem(journaled.step.away))
         outcome.error = QCoreApplication::translate("DeleteActions", "“%1” could not be removed: %2")
                             .arg(displayPath(journaled.step.away), errorText(error));
-    journaled.reach(Done);
+    journaled.finish();
     item.set(Deleted);
     outcome.status = statusImageName(false, mode);
     return {};
@@ -86,10 +87,9 @@ struct Failure {
 // original's metadata), then the original removed for good when deleting. Any failure before
 // the replacement stands brings the original back.
 Failure replaceOne(DeleteKind kind, int mode, ResultItem &item, const ResultItem &reference,
-                   JournaledStep &journaled, DeleteOutcome &outcome)
+                   const FSMetadata &snapshot, JournaledStep &journaled, DeleteOutcome &outcome)
 {
     auto text = [](const char *source) { return QCoreApplication::translate("DeleteActions", source); };
-    const FSMetadata snapshot = mode == ReplaceWithClone ? captureFSMetadata(item.path) : FSMetadata{};
     const QString &staged = journaled.step.staged;
     if (const int e = makeReplacement(mode, reference.path, staged, reference.has(IsFolder))) {
         journaled.reach(Done);
@@ -126,7 +126,7 @@ Failure replaceOne(DeleteKind kind, int mode, ResultItem &item, const ResultItem
         // Removing the original moved its folder's times: they come back last.
         if (mode == ReplaceWithClone) restoreParentFolder(item.path, snapshot);
     }
-    journaled.reach(Done);
+    journaled.finish();
     outcome.status = statusImageName(kind == DeleteKind::Trash, mode);
     item.setStatusImage(outcome.status);
     recordCurrentState(item); // the replacement now stands for the item
@@ -173,9 +173,7 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
     DeleteReport report;
     const bool replacing = reference && mode >= ReplaceWithAlias && mode <= ReplaceWithClone;
     const QSet<const ResultItem *> acting(targets.cbegin(), targets.cend());
-    const qint64 batch = journal ? journal->beginBatch(kind == DeleteKind::Trash ? QStringLiteral("trash")
-                                                                                   : QStringLiteral("delete"))
-                                 : 0;
+    const BatchScope batch(journal, kind == DeleteKind::Trash ? QStringLiteral("trash") : QStringLiteral("delete"));
     SharedFiles shared;
     shared.watch(reference);
     for (ResultItem *item : targets)
@@ -212,9 +210,16 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
         if (replacing && mode == ReplaceWithHardLink) touched += shared.unchangedSharing(*reference);
         // Every name a step may make is known, and recorded, before the step begins.
         JournaledStep journaled{journal, JournalStep{}};
-        journaled.step = {0, batch, int(kind), replacing ? mode : ReplaceWithNone, item->path,
-                          reference ? reference->path : QString(), replacing ? besidePath(item->path) : QString(),
-                          kind == DeleteKind::Delete ? besidePath(item->path) : QString(), Intended};
+        journaled.step.kind = int(kind);
+        journaled.step.mode = replacing ? mode : ReplaceWithNone;
+        journaled.step.path = item->path;
+        if (reference) journaled.step.kept = reference->path;
+        if (replacing) journaled.step.staged = besidePath(item->path);
+        if (kind == DeleteKind::Delete) journaled.step.away = besidePath(item->path);
+        // The metadata an undo gives back to a file deleted for good, or carries to a clone.
+        const bool keepsMetadata = replacing && (kind == DeleteKind::Delete || mode == ReplaceWithClone);
+        const FSMetadata snapshot = keepsMetadata ? captureFSMetadata(item->path) : FSMetadata{};
+        if (keepsMetadata && kind == DeleteKind::Delete) journaled.step.metadata = encodeFSMetadata(snapshot);
         if (!journaled.begin()) {
             removalFailed(QCoreApplication::translate("DeleteActions",
                                                       "The operations journal could not record the step: %1")
@@ -225,7 +230,7 @@ DeleteReport performDeleteAction(DeleteKind kind, int mode, ResultItem *referenc
                 journaled.reach(Done); // nothing was changed
             }
         } else {
-            const Failure failure = replaceOne(kind, mode, *item, *reference, journaled, outcome);
+            const Failure failure = replaceOne(kind, mode, *item, *reference, snapshot, journaled, outcome);
             if (failure.removal) removalFailed(failure.why);
             else if (!failure.why.isEmpty()) replacementFailed(failure.why);
         }

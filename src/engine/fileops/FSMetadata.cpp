@@ -2,6 +2,8 @@
 
 #include "names/FileNames.h"
 
+#include <QDataStream>
+#include <QIODevice>
 #include <acl/libacl.h>
 #include <cstring>
 #include <fcntl.h>
@@ -171,6 +173,91 @@ unsigned restoreParentFolder(const QString &path, const FSMetadata &m)
         chmod(parent.constData(), *m.parentPermissions & 07777) != 0)
         failed |= RestoreParent;
     return failed;
+}
+
+namespace
+{
+
+// Each part is written as a presence flag and, when present, its value.
+template <typename T, typename Write>
+void put(QDataStream &out, const std::optional<T> &value, Write write)
+{
+    out << bool(value);
+    if (value) write(*value);
+}
+
+template <typename T, typename Read>
+void take(QDataStream &in, std::optional<T> &value, Read read)
+{
+    bool present = false;
+    in >> present;
+    if (present) value = read();
+}
+
+constexpr quint8 kSnapshotVersion = 1;
+
+} // namespace
+
+QByteArray encodeFSMetadata(const FSMetadata &m)
+{
+    QByteArray bytes;
+    QDataStream out(&bytes, QIODevice::WriteOnly);
+    auto time = [&](const timespec &t) { out << qint64(t.tv_sec) << qint64(t.tv_nsec); };
+    auto number = [&](auto v) { out << qint64(v); };
+    out << kSnapshotVersion;
+    put(out, m.xattr, [&](const auto &list) { out << list; });
+    put(out, m.accessTime, time);
+    put(out, m.modificationTime, time);
+    put(out, m.inodeFlags, number);
+    put(out, m.permissions, number);
+    put(out, m.uid, number);
+    put(out, m.gid, number);
+    put(out, m.acl, [&](const QByteArray &text) { out << text; });
+    put(out, m.defaultAcl, [&](const QByteArray &text) { out << text; });
+    put(out, m.parentModificationTime, time);
+    put(out, m.parentPermissions, number);
+    return bytes;
+}
+
+std::optional<FSMetadata> decodeFSMetadata(const QByteArray &bytes)
+{
+    QDataStream in(bytes);
+    quint8 version = 0;
+    in >> version;
+    if (version != kSnapshotVersion) return std::nullopt;
+    FSMetadata m;
+    auto time = [&] {
+        qint64 sec = 0, nsec = 0;
+        in >> sec >> nsec;
+        return timespec{time_t(sec), long(nsec)};
+    };
+    auto number = [&] {
+        qint64 v = 0;
+        in >> v;
+        return v;
+    };
+    auto text = [&] {
+        QByteArray t;
+        in >> t;
+        return t;
+    };
+    take(in, m.xattr, [&] {
+        QList<QPair<QByteArray, QByteArray>> list;
+        in >> list;
+        return list;
+    });
+    take(in, m.accessTime, time);
+    take(in, m.modificationTime, time);
+    take(in, m.inodeFlags, [&] { return int(number()); });
+    take(in, m.permissions, [&] { return mode_t(number()); });
+    take(in, m.uid, [&] { return uid_t(number()); });
+    take(in, m.gid, [&] { return gid_t(number()); });
+    take(in, m.acl, text);
+    take(in, m.defaultAcl, text);
+    take(in, m.parentModificationTime, time);
+    take(in, m.parentPermissions, [&] { return mode_t(number()); });
+    if (in.status() != QDataStream::Ok) return std::nullopt;
+    return m;
 }
 
 } // namespace selfsame

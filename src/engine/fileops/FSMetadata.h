@@ -53,6 +53,10 @@ unsigned restoreFSMetadata(const QString &path, const FSMetadata &metadata);
 // the folder changed again after the restore.
 unsigned restoreParentFolder(const QString &path, const FSMetadata &metadata);
 
+// The snapshot as bytes, to be kept while the file is gone (the operations journal), and back.
+QByteArray encodeFSMetadata(const FSMetadata &metadata);
+std::optional<FSMetadata> decodeFSMetadata(const QByteArray &bytes);
+
 // The parent folder of an absolute path ("/" for a top-level entry).
 QString parentFolder(const QString &path);
 

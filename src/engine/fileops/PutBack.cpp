@@ -48,10 +48,14 @@ PutBackResult putBackItem(ResultItem &item, Journal *journal)
     return result;
 }
 
-PutBackResult putBackFile(const QString &trashedPath, const QString &destination, Journal *journal)
+PutBackResult putBackFile(const QString &trashedPath, const QString &destination, Journal *journal, qint64 undoes)
 {
     // Recorded first: one interrupted after the move leaves a trash record to remove.
-    JournaledStep journaled{journal, {0, 0, PutBackFromTrash, 0, destination, {}, {}, trashedPath, Intended}};
+    JournaledStep journaled{journal, {}};
+    journaled.step.kind = PutBackFromTrash;
+    journaled.step.path = destination;
+    journaled.step.away = trashedPath;
+    journaled.step.undoes = undoes;
     if (!journaled.begin())
         return {EIO, tr("The operations journal could not record the step: %1").arg(journal->error())};
     PutBackResult result = moveBack(trashedPath, destination);
@@ -60,13 +64,16 @@ PutBackResult putBackFile(const QString &trashedPath, const QString &destination
         journaled.reach(Replaced);
         removePutBackAttribute(trashedPath); // fails unnoticed: the file is no longer there
         unlink(pathBytes(trashInfoPathFor(trashedPath)).constData());
+        journaled.finish();
+    } else {
+        journaled.reach(Done);
     }
-    journaled.reach(Done);
     return result;
 }
 
 PutBackSummary putBackItems(const QList<ResultItem *> &targets, Journal *journal)
 {
+    const BatchScope batch(journal, QStringLiteral("put back"));
     PutBackSummary summary;
     for (ResultItem *item : targets) {
         if (item->trashedURL().isEmpty() || item->has(Deleted)) continue;

@@ -27,7 +27,9 @@ PutBackResult putBackItem(ResultItem &item, Journal *journal = nullptr);
 // Moves a file handed over from the trash to `destination`, never over an existing file.
 // On success the .trashinfo record is removed; the put-back attribute is removed at the
 // file's former place in the trash, so the restored file keeps it, as intended.
-PutBackResult putBackFile(const QString &trashedPath, const QString &destination, Journal *journal = nullptr);
+// `undoes` names the journal step that moved the file to the trash, when an undo puts it back.
+PutBackResult putBackFile(const QString &trashedPath, const QString &destination, Journal *journal = nullptr,
+                          qint64 undoes = 0);
 
 struct PutBackSummary {
     QList<ResultItem *> putBack; // their icon goes back to the file's own

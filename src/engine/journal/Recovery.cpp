@@ -101,17 +101,53 @@ QString rollBack(const JournalStep &step)
     return {};
 }
 
+// An undo's step: before the new content took the path, the entry set aside comes back and a
+// copy made for it goes; after, the entry set aside goes (and the trash's record of an
+// original moved back). A path holding the new content while the staged name is gone and the
+// old entry still aside was swapped just before the kill. Returns whether it was finished.
+bool recoverUndoStep(const JournalStep &step)
+{
+    const bool fromTrash = step.kind == UndoFromTrash;
+    const bool swapped = step.stage >= Replaced || (exists(step.path) && !exists(step.staged) && exists(step.away));
+    if (swapped) {
+        // Killed between the swap and the metadata: the copy still gets it.
+        if (!fromTrash && step.stage < Replaced)
+            if (const std::optional<FSMetadata> metadata = decodeFSMetadata(step.metadata))
+                restoreFSMetadata(step.path, *metadata);
+        if (exists(step.away)) removeItem(step.away);
+        if (fromTrash) {
+            removePutBackAttribute(step.path);
+            unlink(pathBytes(trashInfoPathFor(step.staged)).constData());
+        }
+        return true;
+    }
+    if (!exists(step.path) && exists(step.away)) renameNoReplace(step.away, step.path);
+    if (!fromTrash && exists(step.staged)) removeItem(step.staged);
+    return false;
+}
+
 } // namespace
 
 RecoveryReport recoverInterrupted(Journal &journal)
 {
     RecoveryReport report;
-    for (JournalStep step : journal.unfinished()) {
+    for (const JournalStep &unfinished : journal.unfinished()) {
+        // Steps finished here count as done by their action, for an undo of it.
+        JournaledStep journaled{&journal, unfinished};
+        const JournalStep &step = journaled.step;
         if (step.kind == PutBackFromTrash) {
             // Moved back already, or not at all: what may be left is the trash's record.
             if (exists(step.path) && !exists(step.away)) {
                 unlink(pathBytes(trashInfoPathFor(step.away)).constData());
                 report.finished.append(step.path);
+                journaled.finish();
+            } else {
+                report.rolledBack.append(step.path);
+            }
+        } else if (step.kind == UndoToCopy || step.kind == UndoFromTrash) {
+            if (recoverUndoStep(step)) {
+                report.finished.append(step.path);
+                journaled.finish();
             } else {
                 report.rolledBack.append(step.path);
             }
@@ -119,14 +155,16 @@ RecoveryReport recoverInterrupted(Journal &journal)
             // Past the point of no return: the original set aside for deletion goes.
             if (step.kind != int(DeleteKind::Trash) && exists(step.away)) removeItem(step.away);
             report.finished.append(step.path);
+            journaled.finish();
         } else if (const QString why = rollBack(step); why.isEmpty()) {
             report.rolledBack.append(step.path);
         } else {
             report.failed.append(displayPath(step.path) + QStringLiteral(": ") + why);
             continue; // kept in the journal, to be tried again
         }
-        journal.advance(step, Done);
+        journaled.reach(Done);
     }
+    journal.prune(kJournalDays);
     report.planFoldersRemoved = removeStalePlanFolders();
     return report;
 }

@@ -22,6 +22,8 @@ struct RecoveryReport {
 // original set aside for deletion is removed. Afterwards no file is missing from its path and
 // nothing of ours is left beside it. The temporary folders of cloning plans whose process is
 // gone are removed too.
+// Finished batches are forgotten after this many days; until then they can be undone.
+inline constexpr int kJournalDays = 90;
 RecoveryReport recoverInterrupted(Journal &journal);
 
 } // namespace selfsame
