@@ -10,6 +10,8 @@
 #include "names/FileNames.h"
 
 #include <QCoreApplication>
+#include <QDateTime>
+#include <QLocale>
 #include <QHash>
 #include <algorithm>
 #include <cstring>
@@ -274,6 +276,52 @@ QString batchState(const JournalBatch &batch)
     if (batch.deletedForGood == batch.files) return tr("cannot be undone");
     if (batch.undone == 0) return tr("can be undone");
     return batch.undone + batch.deletedForGood == batch.files ? tr("undone") : tr("partly undone");
+}
+
+namespace
+{
+
+QString fileCount(int n)
+{
+    return n == 1 ? tr("1 file") : tr("%1 files").arg(n);
+}
+
+} // namespace
+
+QString historyEntry(const JournalBatch &batch)
+{
+    const QString when = QLocale().toString(QDateTime::fromSecsSinceEpoch(batch.started), QLocale::ShortFormat);
+    return QStringLiteral("%1 · %2 · %3").arg(describeBatch(batch), fileCount(batch.files), when);
+}
+
+UndoSummary summarizeUndo(const JournalBatch &batch, const UndoReport &report)
+{
+    UndoSummary summary;
+    const QString what = describeBatch(batch);
+    if (!report.error.isEmpty()) {
+        summary.title = tr("“%1” could not be undone").arg(what);
+        summary.message = report.error;
+        return summary;
+    }
+    summary.complete = report.refused.isEmpty();
+    const int given = int(report.undone.size());
+    summary.title = summary.complete ? tr("“%1” was undone").arg(what) : tr("“%1” was undone in part").arg(what);
+    QStringList parts;
+    parts << (given == 1 ? tr("1 file was given back.") : tr("%1 files were given back.").arg(given));
+    if (!report.refused.isEmpty())
+        parts << (report.refused.size() == 1 ? tr("1 file was left as it is, because it changed since.")
+                                             : tr("%1 files were left as they are, because they changed since.")
+                                                   .arg(report.refused.size()));
+    if (!report.deletedForGood.isEmpty())
+        parts << (report.deletedForGood.size() == 1
+                      ? tr("1 file was deleted for good and cannot be given back.")
+                      : tr("%1 files were deleted for good and cannot be given back.").arg(report.deletedForGood.size()));
+    summary.message = parts.join(u' ');
+    QStringList details = report.refused;
+    for (const QString &path : report.deletedForGood)
+        details << tr("%1: deleted for good").arg(displayPath(path));
+    summary.details = details.join(u'\n');
+    return summary;
 }
 
 std::optional<JournalBatch> lastUndoableBatch(Journal &journal)

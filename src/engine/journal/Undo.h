@@ -27,6 +27,16 @@ struct UndoReport {
     bool succeeded() const { return error.isEmpty() && refused.isEmpty(); }
 };
 
+// One line of the undo history: "Moved to the trash · 3 files · 24 Nov 2026 22:01".
+QString historyEntry(const JournalBatch &batch);
+// What an undo did, as a title and a message: "“Moved to the trash” was undone" and the
+// files given back, refused (with why) and gone for good.
+struct UndoSummary {
+    QString title, message, details;
+    bool complete = false; // every file that could be given back was
+};
+UndoSummary summarizeUndo(const JournalBatch &batch, const UndoReport &report);
+
 // The free bytes of the file system holding `path`, for the space check before copies.
 using FreeSpace = std::function<qint64(const QString &path)>;
 qint64 freeSpaceOf(const QString &path);

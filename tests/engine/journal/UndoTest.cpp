@@ -49,12 +49,15 @@ TEST(Undo, CopiesAreMadeOnlyWhenTheDriveHoldsThemAll)
     EXPECT_TRUE(refused.error.contains(QStringLiteral("Nothing was changed"))) << refused.error.toStdString();
     EXPECT_EQ(statOf(pair.copy).st_ino, statOf(pair.kept).st_ino) << "the link was left as it was";
     EXPECT_TRUE(isUndoable(*journal.batch(batch)));
+    EXPECT_EQ(summarizeUndo(*journal.batch(batch), refused).title,
+              QStringLiteral("“Deleted and replaced with hard links” could not be undone"));
 
     const UndoReport undone = undoBatch(journal, batch, [](const QString &) { return qint64(100000); });
     EXPECT_TRUE(undone.succeeded()) << undone.error.toStdString() << undone.refused.join(u'\n').toStdString();
     EXPECT_NE(statOf(pair.copy).st_ino, statOf(pair.kept).st_ino);
     EXPECT_EQ(readFile(pair.copy), pair.content);
     EXPECT_EQ(batchState(*journal.batch(batch)), QStringLiteral("undone"));
+    EXPECT_EQ(summarizeUndo(*journal.batch(batch), undone).message, QStringLiteral("1 file was given back."));
     EXPECT_FALSE(undoBatch(journal, batch).error.isEmpty()) << "undone twice";
 }
 
