@@ -4,6 +4,7 @@
 #include "fileops/CloneAlerts.h"
 #include "fileops/CloneWorker.h"
 #include "fileops/DeleteActions.h"
+#include "fileops/CachedDigestsCarrier.h"
 #include "fileops/Replacement.h"
 #include "format/ByteSize.h"
 #include "journal/Journal.h"
@@ -246,12 +247,24 @@ int runFileActions(const FileActionOptions &options, const QList<ActionGroup> &g
 {
     int refused = 0;
     const QList<ActionGroup> safe = safeGroups(groups, err, &refused);
-    if (options.action == FileAction::None && options.replaceWith == ReplaceWithClone)
-        return runClones(options, safe, out, err, refused);
-    FileActionOptions deleting = options;
-    if (deleting.action == FileAction::None)
-        deleting.action = FileAction::Delete; // a link replacement alone deletes the file it replaces
-    return runDeletes(deleting, safe, out, err, refused);
+    QList<ResultItem *> members;
+    for (const ActionGroup &group : groups)
+        members += group.members;
+    const CachedDigestsCarrier carrier(members);
+    int exitCode = 0;
+    if (options.action == FileAction::None && options.replaceWith == ReplaceWithClone) {
+        exitCode = runClones(options, safe, out, err, refused);
+    } else {
+        FileActionOptions deleting = options;
+        if (deleting.action == FileAction::None)
+            deleting.action = FileAction::Delete; // a link replacement alone deletes the file it replaces
+        exitCode = runDeletes(deleting, safe, out, err, refused);
+    }
+    if (options.perform && !options.digestCachePath.isEmpty()) {
+        DigestCache cache(options.digestCachePath);
+        if (cache.isOpen()) carrier.carryOver(cache);
+    }
+    return exitCode;
 }
 
 } // namespace selfsame::cli

@@ -22,6 +22,7 @@ struct FileActionOptions {
     bool perform = false; // false: only say what would be done
     QString planPath;     // where the clone plan goes (replace by clones)
     bool print0 = false;  // standard output lists only the paths acted on, exact and NUL-terminated
+    QString digestCachePath; // the digest cache to keep current across the action; empty for none
 };
 
 // One duplicate group: the copy the selection rule keeps, and the copies it selected.

@@ -139,6 +139,7 @@ int main(int argc, char *argv[])
     }
 
     DuplicateSearch::setDigestCachePath(options.useCache ? DigestCache::defaultPath() : QString());
+    actionOptions.digestCachePath = options.useCache ? DigestCache::defaultPath() : QString();
     DuplicateSearch search;
     search.setSingleFileScope(options.singleFileScope);
     const bool terminal = isatty(STDERR_FILENO);

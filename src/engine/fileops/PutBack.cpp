@@ -3,6 +3,7 @@
 #include "fileops/CloneItem.h"
 #include "fileops/DeleteChecks.h"
 #include "fileops/FSMetadata.h"
+#include "fileops/ItemSafety.h"
 #include "fileops/Trash.h"
 #include "names/FileNames.h"
 #include "format/Formatters.h"
@@ -44,6 +45,8 @@ PutBackResult putBackItem(ResultItem &item, Journal *journal)
         removePutBackAttribute(item.path);
         item.setTrashedURL({});
         item.setStatusImage({});
+        recordCurrentState(item); // the same file, its change time moved by the moves
+
     }
     return result;
 }

@@ -1,0 +1,85 @@
+// The digest cache stays current across Selfsame's own actions: files whose content an action
+// kept, but whose change time or inode it moved, are not read again by the next search.
+
+#include "cli/CliProcess.h"
+#include "support/ByteFiles.h"
+#include "support/MountedVolume.h"
+#include "support/TempTree.h"
+
+#include <QThread>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+namespace
+{
+
+class CacheAcrossActions : public ::testing::TestWithParam<const char *>
+{
+protected:
+    void SetUp() override
+    {
+        if (QString::fromUtf8(GetParam()) == u"root") {
+            root = tree.path(QStringLiteral("files"));
+        } else {
+            if (const QString why = volume.mount(); !why.isEmpty()) GTEST_SKIP() << why.toStdString();
+            root = volume.path();
+        }
+        const QString home = tree.path(QStringLiteral("home"));
+        environment.insert(QStringLiteral("XDG_CACHE_HOME"), home + QStringLiteral("/cache"));
+        environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/data"));
+        environment.insert(QStringLiteral("XDG_STATE_HOME"), home + QStringLiteral("/state"));
+    }
+
+    // The value of one line of --summary, as "bytes read: N".
+    static QByteArray summaryLine(const QByteArray &err, const QByteArray &name)
+    {
+        for (const QByteArray &line : err.split('\n'))
+            if (line.startsWith(name + ": ")) return line.mid(name.size() + 2);
+        return {};
+    }
+
+    TempTree tree;
+    MountedVolume volume{QString::fromUtf8(GetParam())};
+    QString root;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+};
+
+} // namespace
+
+TEST_P(CacheAcrossActions, FilesKeptByAnActionAreNotReadAgain)
+{
+    const bool clones = QString::fromUtf8(GetParam()) == u"btrfs";
+    std::vector<QStringList> actions{{"--delete", "--replace-with", "hardlink"}};
+    if (clones) {
+        actions.push_back({"--replace-with", "clone"});         // the kernel's dedupe: same inodes
+        actions.push_back({"--delete", "--replace-with", "clone"}); // new inodes
+    }
+    int run = 0;
+    for (const QStringList &action : actions) {
+        SCOPED_TRACE(action.join(u' ').toStdString());
+        const QString base = root + QStringLiteral("/run%1").arg(run++);
+        for (int i = 0; i < 3; ++i) {
+            const QByteArray content = patternBytes(60000 + i, 70 + i);
+            ASSERT_TRUE(writeBytes((base + QStringLiteral("/keep/f%1").arg(i)).toUtf8(), content));
+            ASSERT_TRUE(writeBytes((base + QStringLiteral("/old/f%1").arg(i)).toUtf8(), content));
+        }
+        // The cache takes no file changed within the last two seconds, as a second change
+        // within the clock's step could go unseen.
+        QThread::msleep(2100);
+        const CliRun acted = runCli(QStringList{"--select", "folder", base + QStringLiteral("/old"), "--inside",
+                                                "--yes", "--summary", base} + action,
+                                    environment);
+        ASSERT_EQ(acted.exitCode, 0) << acted.err.toStdString();
+        ASSERT_NE(summaryLine(acted.err, "bytes read"), "0") << "the first search reads";
+        struct stat st {
+        };
+        ASSERT_EQ(stat((base + QStringLiteral("/keep/f0")).toUtf8().constData(), &st), 0);
+        QThread::msleep(2100);
+
+        const CliRun again = runCli({"--summary", base}, environment);
+        EXPECT_EQ(summaryLine(again.err, "bytes read"), "0") << again.err.toStdString();
+        EXPECT_EQ(summaryLine(again.err, "groups"), "3");
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(FileSystems, CacheAcrossActions, ::testing::Values("root", "btrfs"));
