@@ -83,3 +83,36 @@ TEST_P(CacheAcrossActions, FilesKeptByAnActionAreNotReadAgain)
 }
 
 INSTANTIATE_TEST_SUITE_P(FileSystems, CacheAcrossActions, ::testing::Values("root", "btrfs"));
+
+namespace
+{
+
+class CacheAcrossMounts : public CacheAcrossActions
+{
+};
+
+} // namespace
+
+TEST_P(CacheAcrossMounts, ADriveMountedAgainUnderAnotherDeviceNumberKeepsItsDigests)
+{
+    for (int i = 0; i < 4; ++i) {
+        const QByteArray content = patternBytes(50000 + i % 2, 80 + i % 2);
+        ASSERT_TRUE(writeBytes((root + QStringLiteral("/f%1").arg(i)).toUtf8(), content));
+    }
+    QThread::msleep(2100); // files this fresh are not cached
+    const CliRun first = runCli({"--summary", root}, environment);
+    ASSERT_EQ(summaryLine(first.err, "files known from the digest cache"), "0") << first.err.toStdString();
+    struct stat before {
+    }, after{};
+    ASSERT_EQ(stat(root.toUtf8().constData(), &before), 0);
+    ASSERT_EQ(volume.mountAgainOnAnotherDevice(), QString());
+    ASSERT_EQ(stat(root.toUtf8().constData(), &after), 0);
+    if (after.st_dev == before.st_dev) GTEST_SKIP() << "the volume came back under the same device number";
+
+    const CliRun again = runCli({"--summary", root}, environment);
+    EXPECT_EQ(summaryLine(again.err, "bytes read"), "0") << again.err.toStdString();
+    EXPECT_EQ(summaryLine(again.err, "files known from the digest cache"), "4");
+    EXPECT_EQ(summaryLine(again.err, "groups"), "2");
+}
+
+INSTANTIATE_TEST_SUITE_P(FileSystems, CacheAcrossMounts, ::testing::Values("ext4", "btrfs", "xfs"));

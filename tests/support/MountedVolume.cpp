@@ -34,6 +34,19 @@ QString MountedVolume::mount()
                : QStringLiteral("could not make and mount a %1 volume (no mkfs or loop device?)").arg(m_type);
 }
 
+QString MountedVolume::mountAgainOnAnotherDevice()
+{
+    if (!m_mounted || m_type == u"tmpfs") return QStringLiteral("no image to mount again");
+    // The loop device and the anonymous device number just freed would be taken again: another
+    // image and a tmpfs hold them meanwhile.
+    m_mounted = shell(QStringLiteral("umount \"$1\" && truncate -s 1M \"$2\" && held=$(losetup -f --show \"$2\") &&"
+                                     " mkdir -p \"$3\" && mount -t tmpfs tmpfs \"$3\" && mount -o loop \"$0\" \"$1\";"
+                                     " status=$?; umount \"$3\"; [ -n \"$held\" ] && losetup -d \"$held\"; exit $status"),
+                      {m_tree.path(QStringLiteral("volume.img")), m_mountPoint, m_tree.path(QStringLiteral("holder.img")),
+                       m_tree.path(QStringLiteral("holder"))});
+    return m_mounted ? QString() : QStringLiteral("could not mount the %1 image again").arg(m_type);
+}
+
 MountedVolume::~MountedVolume()
 {
     if (m_mounted) shell(QStringLiteral("umount \"$0\" || umount -l \"$0\""), {m_mountPoint});

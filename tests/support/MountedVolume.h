@@ -18,6 +18,9 @@ public:
 
     // Empty on success, else why not.
     QString mount();
+    // Unmounts an image and mounts it again on another loop device, so that its files show
+    // another device number. Empty on success, else why not.
+    QString mountAgainOnAnotherDevice();
     QString path(const QString &rel = {}) const
     {
         return rel.isEmpty() ? m_mountPoint : m_mountPoint + u'/' + rel;

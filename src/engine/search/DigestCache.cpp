@@ -7,6 +7,8 @@
 #include <QStandardPaths>
 #include <QtDebug>
 
+#include "search/VolumeIds.h"
+
 #include <sqlite3.h>
 #include <xxhash.h>
 
@@ -37,7 +39,7 @@ QByteArray tagsText(const CachedDigest &value)
     return value.attributes ? value.attributes->tags.join(kTagSeparator).toUtf8() : QByteArray();
 }
 
-quint64 checkValue(const DigestKey &key, const CachedDigest &value)
+quint64 checkValue(const DigestKey &key, quint64 volume, const CachedDigest &value)
 {
     const Fingerprint fingerprint = value.fingerprint.value_or(Fingerprint{});
     const bool placed = value.attributes && value.attributes->allocDigest;
@@ -45,7 +47,7 @@ quint64 checkValue(const DigestKey &key, const CachedDigest &value)
         qint64 fields[14];
         Digest digest;
         Digest allocDigest;
-    } bytes{{qint64(key.device), qint64(key.inode), key.size, key.modifiedNs, key.changedNs, key.headerSkipped,
+    } bytes{{qint64(volume), qint64(key.inode), key.size, key.modifiedNs, key.changedNs, key.headerSkipped,
              value.sample.has_value(), qint64(value.sample.value_or(0)), value.digest.has_value(),
              value.fingerprint.has_value(), qint64(fingerprint.low), qint64(fingerprint.high),
              value.attributes.has_value(), placed},
@@ -261,7 +263,7 @@ void DigestCache::lookup(const std::vector<DigestKey> &keys, const std::function
     const qint64 now = today();
     std::vector<DigestKey> touched;
     // A row answers a key when it describes the same state of the file and is intact.
-    auto take = [&](sqlite3_stmt *row, std::size_t k) {
+    auto take = [&](sqlite3_stmt *row, std::size_t k, quint64 volume) {
         const DigestKey &key = keys[k];
         if (sqlite3_column_int64(row, 3) != key.size || sqlite3_column_int64(row, 4) != key.modifiedNs ||
             sqlite3_column_int64(row, 5) != key.changedNs)
@@ -298,7 +300,7 @@ void DigestCache::lookup(const std::vector<DigestKey> &keys, const std::function
                         .split(kTagSeparator);
             value.attributes = std::move(attributes);
         }
-        if (quint64(sqlite3_column_int64(row, 9)) != checkValue(key, value))
+        if (quint64(sqlite3_column_int64(row, 9)) != checkValue(key, volume, value))
             return;
         if (sqlite3_column_int64(row, 8) < now)
             touched.push_back(key);
@@ -318,7 +320,8 @@ void DigestCache::lookup(const std::vector<DigestKey> &keys, const std::function
         std::size_t end = begin + 1;
         while (end < order.size() && keys[order[end]].device == keys[order[begin]].device)
             ++end;
-        const qint64 device = ordered(keys[order[begin]].device);
+        const quint64 volume = volumeOf(keys[order[begin]].device);
+        const qint64 device = ordered(volume);
         int code = SQLITE_DONE;
         if (end - begin < kRangeWalkFrom) {
             for (std::size_t i = begin; i < end && !failed(code, "look-up"); ++i) {
@@ -329,7 +332,7 @@ void DigestCache::lookup(const std::vector<DigestKey> &keys, const std::function
                 sqlite3_bind_int(point.handle, 3, key.headerSkipped);
                 code = sqlite3_step(point.handle);
                 if (code == SQLITE_ROW)
-                    take(point.handle, order[i]);
+                    take(point.handle, order[i], volume);
             }
         } else {
             sqlite3_reset(range.handle);
@@ -350,7 +353,7 @@ void DigestCache::lookup(const std::vector<DigestKey> &keys, const std::function
                 for (std::size_t k = i; k < end && ordered(keys[order[k]].inode) == inode &&
                                         int(keys[order[k]].headerSkipped) == skipped;
                      ++k)
-                    take(range.handle, order[k]);
+                    take(range.handle, order[k], volume);
             }
         }
         // Answers already given stay good: each was checked on its own.
@@ -438,7 +441,8 @@ void DigestCache::write(const Pending &batch)
             break;
         sqlite3_stmt *s = insert.handle;
         sqlite3_reset(s);
-        sqlite3_bind_int64(s, 1, ordered(key.device));
+        const quint64 volume = volumeOf(key.device);
+        sqlite3_bind_int64(s, 1, ordered(volume));
         sqlite3_bind_int64(s, 2, ordered(key.inode));
         sqlite3_bind_int(s, 3, key.headerSkipped);
         sqlite3_bind_int64(s, 4, key.size);
@@ -453,7 +457,7 @@ void DigestCache::write(const Pending &batch)
         else
             sqlite3_bind_null(s, 8);
         sqlite3_bind_int64(s, 9, now);
-        sqlite3_bind_int64(s, 10, qint64(checkValue(key, value)));
+        sqlite3_bind_int64(s, 10, qint64(checkValue(key, volume, value)));
         if (value.fingerprint)
             sqlite3_bind_blob(s, 11, &*value.fingerprint, int(sizeof(Fingerprint)), SQLITE_STATIC);
         else
@@ -473,7 +477,7 @@ void DigestCache::write(const Pending &batch)
         sqlite3_stmt *s = touch.handle;
         sqlite3_reset(s);
         sqlite3_bind_int64(s, 1, now);
-        sqlite3_bind_int64(s, 2, ordered(key.device));
+        sqlite3_bind_int64(s, 2, ordered(volumeOf(key.device)));
         sqlite3_bind_int64(s, 3, ordered(key.inode));
         sqlite3_bind_int(s, 4, key.headerSkipped);
         code = sqlite3_step(s);
@@ -481,6 +485,15 @@ void DigestCache::write(const Pending &batch)
     const bool ok = code == SQLITE_OK || code == SQLITE_DONE;
     if (failed(ok ? sqlite3_exec(m_db, "COMMIT", nullptr, nullptr, nullptr) : code, "writing"))
         sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+}
+
+quint64 DigestCache::volumeOf(quint64 device)
+{
+    std::lock_guard lock(m_volumesMutex);
+    const auto [at, isNew] = m_volumes.try_emplace(device, 0);
+    if (isNew)
+        at->second = volumeIdOf(device);
+    return at->second;
 }
 
 void DigestCache::evictIfOverLimit()

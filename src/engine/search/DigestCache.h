@@ -10,6 +10,7 @@
 #include <mutex>
 #include <optional>
 #include <thread>
+#include <unordered_map>
 #include <vector>
 
 struct sqlite3;
@@ -99,6 +100,12 @@ private:
     QString m_path;
     Options m_options;
     sqlite3 *m_db = nullptr;
+    // Records are kept by the volume a device holds, so that a drive mounted again under
+    // another device number still finds them (search/VolumeIds.h).
+    quint64 volumeOf(quint64 device);
+    std::mutex m_volumesMutex;
+    std::unordered_map<quint64, quint64> m_volumes;
+
     std::mutex m_dbMutex; // one connection, used by the caller and by the writing thread
     bool m_broken = false; // an error showed the database damaged: moved aside at close
     bool m_complained = false;
