@@ -22,6 +22,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QDesktopServices>
+#include <QAbstractItemView>
+#include <QDir>
 #include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -344,7 +346,7 @@ void AppDelegate::addURLs(const QStringList &paths, bool enabled, bool select, b
 
 void AppDelegate::addFolderWithButton(const QString &prompt, bool enable, bool search)
 {
-    chooseLocations(QFileDialog::Directory, tr("Choose a Folder to Search"), prompt, enable, search);
+    chooseLocations(QFileDialog::Directory, tr("Choose Folders to Search"), prompt, enable, search);
 }
 
 void AppDelegate::chooseLocations(QFileDialog::FileMode fileMode, const QString &title, const QString &prompt,
@@ -358,8 +360,8 @@ void AppDelegate::chooseLocations(QFileDialog::FileMode fileMode, const QString 
     dialog->setFileMode(fileMode);
     dialog->setLabelText(QFileDialog::Accept, prompt);
     const QString previous = m_settings.stringValue(key::previousDirectory);
-    if (!previous.isEmpty())
-        dialog->setDirectory(previous);
+    dialog->setDirectory(previous.isEmpty() ? QDir::homePath() : previous);
+    if (fileMode == QFileDialog::Directory) allowSeveralFolders(dialog);
     dialog->setWindowModality(Qt::WindowModal);
     connect(dialog, &QFileDialog::accepted, this, [this, dialog, enable, search] {
         m_settings.setValue(key::previousDirectory, dialog->directory().absolutePath());
@@ -368,6 +370,15 @@ void AppDelegate::chooseLocations(QFileDialog::FileMode fileMode, const QString 
             searchDuplicates();
     });
     dialog->open();
+}
+
+void AppDelegate::allowSeveralFolders(QFileDialog *dialog)
+{
+    // The desktop's own dialogs choose one folder at a time; Qt's own lists take several.
+    dialog->setOption(QFileDialog::DontUseNativeDialog);
+    for (const char *name : {"listView", "treeView"})
+        if (auto *view = dialog->findChild<QAbstractItemView *>(QLatin1String(name)))
+            view->setSelectionMode(QAbstractItemView::ExtendedSelection);
 }
 
 void AppDelegate::handleLaunch(const LaunchRequest &launch)
@@ -388,8 +399,13 @@ void AppDelegate::handleLaunch(const LaunchRequest &launch)
         raise();
         activateWindow();
     } else if (request.search) {
-        addURLs(request.paths, true, true, true);
-        searchInFolderURLs(request.paths);
+        // A one-off: the saved locations stay as the user left them for the next search.
+        // The results come to the front; the welcome panel would only stand in their way.
+        if (m_welcomePanel && m_welcomePanel->isVisible()) m_welcomePanel->hide();
+        if (Dupes *dupes = searchInFolderURLs(request.paths)) {
+            dupes->raise();
+            dupes->activateWindow();
+        }
     } else if (const QStringList trashed = PutBackDialogue::trashedFiles(request.paths); !trashed.isEmpty()) {
         // Files from the trash are put back; the others opened with them are left alone.
         (new PutBackDialogue(this, trashed, int(request.paths.size())))->start();

@@ -65,6 +65,7 @@ private:
     void clearDigestCache();
     void placeWindow();
     // Opens a chooser modal to the window; the chosen items are added.
+    static void allowSeveralFolders(QFileDialog *dialog);
     void chooseLocations(QFileDialog::FileMode fileMode, const QString &title, const QString &prompt,
                          bool enable, bool search);
     void compareFoldersWarning();

@@ -1,14 +1,20 @@
 #include "Dupes.h"
 
+#include "DupesSettingsKeys.h"
+
 #include "Alert.h"
+#include "ColumnDefaults.h"
 #include "Desktop.h"
 #include "FilterBar.h"
+#include "FocusRing.h"
 #include "LocalFiles.h"
 #include "LocationsModel.h"
 #include "PreviewPane.h"
 #include "ResultCellDelegate.h"
 #include "ResultListView.h"
 #include "ResultTableModel.h"
+#include "ResultsStatus.h"
+#include "WindowTitles.h"
 #include "SearchDefaults.h"
 #include "Settings.h"
 #include "attributes/SpotlightAttributesManager.h"
@@ -19,7 +25,6 @@
 #include "results/ListColumns.h"
 #include "results/ResultFilter.h"
 #include "results/ResultsFile.h"
-#include "results/StatusLine.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -32,6 +37,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QMessageBox>
 #include <QMimeData>
 #include <QProgressBar>
 #include <QPushButton>
@@ -47,36 +53,12 @@
 
 namespace selfsame {
 
-namespace {
-
-const QString kHiddenColumns = QStringLiteral("hidden columns");
-const QString kResultListSize = QStringLiteral("result list size");
-const QString kListFontSize = QStringLiteral("list font size");
-const QString kMainListLayout = key::mainListColumns;
-const QString kCloneListLayout = key::cloneListColumns;
-
-const std::pair<const char *, int> kListSizes[] = {
-    {QT_TRANSLATE_NOOP("Dupes", "Small"), 16},
-    {QT_TRANSLATE_NOOP("Dupes", "Medium"), 32},
-    {QT_TRANSLATE_NOOP("Dupes", "Large"), 64},
-    {QT_TRANSLATE_NOOP("Dupes", "Extra Large"), 128},
-};
-const int kFontSizes[] = {8, 9, 10, 11, 12, 13, 14, 16, 18};
-
-// The name offered for saved results and exports: the searched location's, when there is one.
-QString suggestedName(const SearchRequest &request)
-{
-    return request.searchInFolderURLs.size() == 1 ? displayName(request.searchInFolderURLs.first())
-                                                  : QCoreApplication::translate("Dupes", "Duplicates");
-}
-
-} // namespace
 
 Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_settings(settings)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setAcceptDrops(true);
-    m_settings.registerDefaults({{kResultListSize, 16}, {kListFontSize, QApplication::font().pointSize()}});
+    m_settings.registerDefaults({{dupeskey::resultListSize, 16}, {dupeskey::listFontSize, QApplication::font().pointSize()}});
 
     m_statusFld = new QLabel;
     m_statusFld->setTextInteractionFlags(Qt::TextSelectableByMouse);
@@ -133,8 +115,16 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
     connect(&m_icons, &ItemIcons::iconsChanged, m_cloneModel, &ResultTableModel::iconsChanged);
 
     auto *lists = new QSplitter(Qt::Vertical);
-    lists->addWidget(m_mainList);
-    lists->addWidget(m_cloneList);
+    lists->addWidget(new FocusRing(m_mainList));
+    m_groupCaption = new QLabel;
+    m_groupCaption->setObjectName(QStringLiteral("groupCaption"));
+    auto *bottom = new QWidget;
+    auto *bottomLayout = new QVBoxLayout(bottom);
+    bottomLayout->setContentsMargins(0, 0, 0, 0);
+    bottomLayout->setSpacing(2);
+    bottomLayout->addWidget(m_groupCaption);
+    bottomLayout->addWidget(new FocusRing(m_cloneList), 1);
+    lists->addWidget(bottom);
     lists->setStretchFactor(0, 3);
     lists->setStretchFactor(1, 1);
     lists->setChildrenCollapsible(false);
@@ -148,6 +138,13 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
 
     m_statusLine = new QLabel;
     m_statusLine->setObjectName(QStringLiteral("statusLine"));
+    m_statusLine->setTextFormat(Qt::RichText);
+    m_statusLine->setTextInteractionFlags(Qt::LinksAccessibleByMouse | Qt::LinksAccessibleByKeyboard);
+    connect(m_statusLine, &QLabel::linkActivated, this, &Dupes::showUnreadableItems);
+    m_summaryLine = new QLabel;
+    m_summaryLine->setObjectName(QStringLiteral("summaryLine"));
+    m_summaryLine->setTextFormat(Qt::PlainText);
+    m_summaryLine->hide();
     m_pathControl = new QLabel;
     m_pathControl->setObjectName(QStringLiteral("pathControl"));
     m_pathControl->setTextInteractionFlags(Qt::LinksAccessibleByMouse);
@@ -164,6 +161,7 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
     layout->addWidget(m_searchingRow);
     layout->addWidget(m_filterBar);
     layout->addWidget(previewSplitter, 1);
+    layout->addWidget(m_summaryLine);
     layout->addLayout(statusRow);
     setCentralWidget(central);
 
@@ -173,10 +171,11 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
     m_actionsToolBar->hide(); // shown once an action is added
     buildMenus();
     installActions();
+    setUpKeyboardCycle();
 
     restoreColumnLayouts();
-    m_icons.setSize(int(m_settings.integerValue(kResultListSize)));
-    changeListFontSize(int(m_settings.integerValue(kListFontSize)));
+    m_icons.setSize(int(m_settings.integerValue(dupeskey::resultListSize)));
+    changeListFontSize(int(m_settings.integerValue(dupeskey::listFontSize)));
 
     connect(&m_search, &DuplicateSearch::progress, this, &Dupes::showProgress);
     connect(&m_search, &DuplicateSearch::searchDone, this, &Dupes::searchDone);
@@ -184,133 +183,6 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
 }
 
 Dupes::~Dupes() = default;
-
-void Dupes::buildMenus()
-{
-    QMenu *file = menuBar()->addMenu(tr("&File"));
-    file->addAction(QIcon::fromTheme(QStringLiteral("document-open")), tr("Open &Results…"), this,
-                    &Dupes::openResultsRequested);
-    QAction *save = file->addAction(QIcon::fromTheme(QStringLiteral("document-save")), tr("&Save Results…"),
-                                    QKeySequence::Save, this, [this] {
-                                        chooseResultsFileToSave(this, suggestedName(m_model.request()), [this](const QString &path) {
-                                            if (const QString error = saveResults(path); !error.isEmpty())
-                                                showAlert(this, QMessageBox::Warning,
-                                                          tr("The results could not be saved."), error, {tr("OK")});
-                                        });
-                                    });
-    QAction *exportList = file->addAction(tr("&Export…"), this, [this] {
-        chooseCsvFileToExport(this, suggestedName(m_model.request()), [this](const QString &path) {
-            if (const QString error = exportTopList(path); !error.isEmpty())
-                showAlert(this, QMessageBox::Warning, tr("The list could not be exported."), error, {tr("OK")});
-        });
-    });
-    connect(file, &QMenu::aboutToShow, this, [this, save, exportList] {
-        save->setEnabled(m_finished);
-        exportList->setEnabled(m_finished && !m_model.mainItems().isEmpty());
-    });
-    file->addSeparator();
-    file->addAction(tr("&Close Window"), QKeySequence::Close, this, &QWidget::close);
-
-    QMenu *edit = menuBar()->addMenu(tr("&Edit"));
-    edit->addAction(tr("&Filter…"), QKeySequence::Find, this, [this] { m_filterBar->textField()->setFocus(); });
-
-    QMenu *view = menuBar()->addMenu(tr("&View"));
-    m_previewAction = view->addAction(tr("&Preview"), this, &Dupes::togglePreview);
-    m_previewAction->setCheckable(true);
-    view->addSeparator();
-    view->addMenu(columnsMenu(view))->setText(tr("&Columns"));
-    QMenu *sizes = view->addMenu(tr("List &Size"));
-    auto *sizeGroup = new QActionGroup(sizes);
-    for (const auto &[title, size] : kListSizes) {
-        QAction *action = sizes->addAction(tr(title), this, [this, size = size] { changeListSize(size); });
-        action->setCheckable(true);
-        action->setChecked(size == m_settings.integerValue(kResultListSize));
-        sizeGroup->addAction(action);
-    }
-    QMenu *fonts = view->addMenu(tr("List &Font Size"));
-    auto *fontGroup = new QActionGroup(fonts);
-    for (int size : kFontSizes) {
-        QAction *action = fonts->addAction(QString::number(size), this, [this, size] { changeListFontSize(size); });
-        action->setCheckable(true);
-        action->setChecked(size == m_settings.integerValue(kListFontSize));
-        fontGroup->addAction(action);
-    }
-
-    m_actionsMenu = menuBar()->addMenu(tr("&Actions"));
-    m_actionsMenu->setObjectName(QStringLiteral("actionsMenu"));
-
-    QMenu *item = menuBar()->addMenu(tr("&Item"));
-    m_openAction = item->addAction(tr("&Open"), this, &Dupes::openSelected);
-    m_revealAction = item->addAction(tr("Show in File &Manager"), this, &Dupes::revealSelectedInFileManager);
-    m_revealAction->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_R));
-    item->addAction(m_previewAction);
-    item->addSeparator();
-    const char *services[] = {QT_TR_NOOP("Show Location in Apple &Maps"), QT_TR_NOOP("Show Location in &Google Maps"),
-                              QT_TR_NOOP("Show Location in &OpenStreetMap")};
-    for (int service = 0; service < 3; ++service)
-        m_mapActions.append(item->addAction(tr(services[service]), this, [this, service] { showGPSLocation(service); }));
-    connect(this, &Dupes::selectionDidChange, this, &Dupes::validateItemActions);
-    validateItemActions();
-}
-
-void Dupes::installActions()
-{
-    m_resultActions = installResultActions(
-        {this, &m_model, &m_settings, m_actionsMenu, m_actionsToolBar,
-         [this] { return DupesActions::Targets{activeList(), targetItems()}; }, [this] {
-             // The items carry what the commands made of them; the icons show it.
-             for (const ResultItem &item : std::as_const(m_model.allItems()))
-                 if (item.statusImage() != m_icons.statusImage(&item))
-                     setStatusImage(&item, item.statusImage());
-             modelDidChange();
-         }});
-    connect(this, &Dupes::contextMenuAboutToShow, this, [this](QMenu *menu, ResultList) {
-        menu->addSeparator();
-        addResultActionsToContextMenu(menu, m_resultActions, targetItems());
-    });
-    connect(this, &Dupes::selectionDidChange, this, [this] { updateResultActions(m_resultActions); });
-}
-
-void Dupes::validateItemActions()
-{
-    const QList<ResultItem *> targets = targetItems();
-    m_openAction->setEnabled(!targets.isEmpty());
-    m_revealAction->setEnabled(!targets.isEmpty());
-    const bool located = std::any_of(targets.begin(), targets.end(), [](const ResultItem *item) {
-        return !std::isnan(item->latitude()) && !std::isnan(item->longitude());
-    });
-    for (QAction *action : m_mapActions)
-        action->setEnabled(located);
-}
-
-void Dupes::fillContextMenu(QMenu *menu, ResultList list)
-{
-    m_active = list;
-    validateItemActions();
-    menu->addActions({m_openAction, m_revealAction, m_previewAction});
-    menu->addSeparator();
-    menu->addActions(m_mapActions);
-    Q_EMIT contextMenuAboutToShow(menu, list);
-}
-
-QMenu *Dupes::columnsMenu(QWidget *parent)
-{
-    auto *menu = new QMenu(parent);
-    connect(menu, &QMenu::aboutToShow, this, [this, menu] {
-        menu->clear();
-        for (const QString &column : listColumnIdentifiers()) {
-            QAction *action = menu->addAction(m_mainModel->headerData(m_mainModel->columnOf(column), Qt::Horizontal,
-                                                                      Qt::DisplayRole).toString());
-            action->setObjectName(column);
-            action->setCheckable(true);
-            action->setEnabled(canShowColumn(column) && column != QLatin1String("name"));
-            action->setChecked(!isColumnHidden(column));
-            connect(action, &QAction::toggled, this, [this, column](bool on) { changeListColumn(column, on); });
-        }
-    });
-    if (parent == this) connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
-    return menu;
-}
 
 void Dupes::prepareWindow(const SearchRequest &request)
 {
@@ -323,9 +195,12 @@ void Dupes::prepareWindow(const SearchRequest &request)
         model->setSpotlightAttribute(attribute, attributeName.isEmpty() ? attribute : attributeName);
     m_mainModel->setClusterTitle(cluster);
     m_modeHiddenColumns = modeHiddenColumns(request.detectionMode, request.spotlightAttribute);
-    m_userHiddenColumns = m_settings.stringListValue(kHiddenColumns);
+    m_userHiddenColumns = m_settings.stringListValue(dupeskey::hiddenColumns);
     updateListsLayout();
-    updateWindowTitle(request.searchInFolderURLs);
+    m_titleLocations = request.searchInFolderURLs;
+    m_titleMode = request.detectionMode;
+    m_attributeName = attributeName.isEmpty() ? attribute : attributeName;
+    updateWindowTitle();
 }
 
 void Dupes::searchInFolderURLs(const SearchRequest &request)
@@ -359,6 +234,7 @@ void Dupes::showSavedResults(ResultModel model, const QString &file)
     for (const ResultItem &item : std::as_const(m_model.allItems()))
         if (!item.statusImage().isEmpty()) setStatusImage(&item, item.statusImage());
     setWindowFilePath(file);
+    updateWindowTitle();
     showResults();
 }
 
@@ -367,7 +243,10 @@ QString Dupes::saveResults(const QString &path)
     QApplication::setOverrideCursor(Qt::WaitCursor);
     const QString error = ResultsFile::save(m_model, path);
     QApplication::restoreOverrideCursor();
-    if (error.isEmpty()) setWindowFilePath(path);
+    if (error.isEmpty()) {
+        setWindowFilePath(path);
+        updateWindowTitle();
+    }
     return error;
 }
 
@@ -405,6 +284,8 @@ void Dupes::showProgress(const QString &status, double progress)
 void Dupes::searchDone()
 {
     m_model.setResults(m_search.takeMainItems(), m_search.request());
+    m_unreadable = m_search.statistics().unreadableFolderPaths;
+    m_unreadableFiles = m_search.statistics().unreadableFiles;
     showResults();
     if (m_model.mainItems().isEmpty() && m_model.mainItemsHidden().isEmpty()) {
         if (m_search.aborted()) {
@@ -423,6 +304,8 @@ void Dupes::searchDone()
 void Dupes::showResults()
 {
     m_finished = true;
+    m_emptyColumns = columnsLeftEmpty(m_model.mainItems() + m_model.mainItemsHidden());
+    updateListsLayout();
     m_searchingRow->hide();
     m_filterBar->setEnabled(true);
     // The headers show the engine's sorts (the top list's default, the bottom list's last one)
@@ -445,82 +328,9 @@ void Dupes::showResults()
     Q_EMIT selectionDidChange();
 }
 
-void Dupes::updateWindowTitle(const QStringList &locations)
+void Dupes::updateWindowTitle()
 {
-    const QString subtitle = locations.size() == 1 ? displayName(locations.first())
-                                                   : tr("%1 locations").arg(formatCount(locations.size()));
-    setWindowTitle(tr("%1 — %2").arg(subtitle, QApplication::applicationName()));
-}
-
-bool Dupes::isColumnHidden(const QString &identifier) const
-{
-    return m_modeHiddenColumns.contains(identifier) || m_userHiddenColumns.contains(identifier);
-}
-
-void Dupes::changeListColumn(const QString &identifier, bool shown)
-{
-    if (shown)
-        m_userHiddenColumns.removeAll(identifier);
-    else if (!m_userHiddenColumns.contains(identifier))
-        m_userHiddenColumns.append(identifier);
-    m_settings.setValue(kHiddenColumns, m_userHiddenColumns);
-    updateListsLayout();
-}
-
-void Dupes::updateListsLayout()
-{
-    for (ResultListView *view : {m_mainList, m_cloneList})
-        for (const QString &column : listColumnIdentifiers())
-            view->setColumnHidden(view->resultModel()->columnOf(column), isColumnHidden(column));
-}
-
-void Dupes::saveColumnLayouts()
-{
-    if (!m_finished) return; // the layout of an empty window while it searches says nothing
-    m_settings.setValue(kMainListLayout, m_mainList->horizontalHeader()->saveState());
-    m_settings.setValue(kCloneListLayout, m_cloneList->horizontalHeader()->saveState());
-}
-
-void Dupes::restoreColumnLayouts()
-{
-    const std::pair<ResultListView *, QString> layouts[] = {{m_mainList, kMainListLayout},
-                                                            {m_cloneList, kCloneListLayout}};
-    for (const auto &[view, key] : layouts) {
-        QHeaderView *header = view->horizontalHeader();
-        header->setDefaultSectionSize(110);
-        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("name")), 240);
-        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("path")), 220);
-        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("size")), 80);
-        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("extension")), 60);
-        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("dupes")), 80);
-        header->resizeSection(view->resultModel()->columnOf(QStringLiteral("modified")), 150);
-        const QByteArray state = m_settings.value(key).toByteArray();
-        if (!state.isEmpty()) header->restoreState(state);
-    }
-}
-
-void Dupes::changeListSize(int thumbnailSize)
-{
-    m_icons.setSize(thumbnailSize);
-    const int rowHeight = listRowHeight(QFontInfo(m_mainList->font()).pixelSize(), thumbnailSize);
-    m_mainList->setRowHeight(rowHeight);
-    m_cloneList->setRowHeight(rowHeight);
-    m_mainList->setIconSize(QSize(thumbnailSize, thumbnailSize));
-    m_cloneList->setIconSize(QSize(thumbnailSize, thumbnailSize));
-    m_settings.setValue(kResultListSize, thumbnailSize);
-    m_mainList->viewport()->update();
-    m_cloneList->viewport()->update();
-}
-
-void Dupes::changeListFontSize(int pointSize)
-{
-    for (ResultListView *view : {m_mainList, m_cloneList}) {
-        QFont font = view->font();
-        font.setPointSize(pointSize);
-        view->setFont(font);
-    }
-    m_settings.setValue(kListFontSize, pointSize);
-    changeListSize(m_icons.size());
+    setWindowTitle(resultsWindowTitle(m_titleLocations, m_titleMode, m_attributeName, windowFilePath()));
 }
 
 void Dupes::reloadList(ResultListView *view)
@@ -579,6 +389,7 @@ void Dupes::modelDidChange()
     reloadList(m_mainList);
     reloadList(m_cloneList);
     updateStatus();
+    updateOverview();
     Q_EMIT selectionDidChange();
 }
 
@@ -616,7 +427,23 @@ void Dupes::setStatusImage(const ResultItem *item, const QString &name)
 
 QString Dupes::statusText() const
 {
-    return m_statusLine->text();
+    return m_status.text;
+}
+
+QString Dupes::groupCaptionText() const
+{
+    return m_groupCaption->text();
+}
+
+QString Dupes::summaryText() const
+{
+    return m_summaryLine->isVisibleTo(this) ? m_summaryLine->text() : QString();
+}
+
+void Dupes::showActionSummary(const QString &summary)
+{
+    m_summaryLine->setText(summary);
+    m_summaryLine->setVisible(!summary.isEmpty());
 }
 
 QString Dupes::pathBarText() const
@@ -627,8 +454,16 @@ QString Dupes::pathBarText() const
 void Dupes::updateStatus()
 {
     if (m_ignoreSelectionChange || !m_finished) return;
-    const StatusLine line = statusLine(m_model, activeList());
-    m_statusLine->setText(line.text);
+    m_status = resultsStatus(m_model, activeList(), m_unreadable.size() + m_unreadableFiles);
+    const QString caption = groupCaption(m_model.cloneItems());
+    m_groupCaption->setText(caption.isEmpty() ? tr("Select one item above to see its group here.") : caption);
+    const ResultsStatus &line = m_status;
+    // The count of unreadable items is a link that lists them.
+    QString html = line.text.toHtmlEscaped();
+    if (!line.unreadable.isEmpty())
+        html.replace(line.unreadable.toHtmlEscaped(),
+                     QStringLiteral("<a href=\"unreadable\">%1</a>").arg(line.unreadable.toHtmlEscaped()));
+    m_statusLine->setText(html);
     m_pathControl->setVisible(!line.path.isEmpty());
     m_pathControl->setToolTip(displayPath(line.path));
     // Each folder of the path is a link that shows it in the file manager.
@@ -647,6 +482,34 @@ void Dupes::updateStatus()
     }
 }
 
+void Dupes::showUnreadableItems()
+{
+    const qint64 count = m_unreadable.size() + m_unreadableFiles;
+    if (count == 0) return;
+    auto *box = new QMessageBox(QMessageBox::Information, windowTitle(),
+                                tr("%Ln item(s) could not be read", nullptr, int(count)), QMessageBox::Ok, this);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::WindowModal);
+    QStringList lines;
+    if (!m_unreadable.isEmpty())
+        lines.append(tr("These folders could not be listed, so nothing in them was searched:"));
+    constexpr qsizetype kShown = 12;
+    for (qsizetype i = 0; i < std::min(kShown, m_unreadable.size()); ++i)
+        lines.append(displayPath(m_unreadable[i]));
+    if (m_unreadable.size() > kShown)
+        lines.append(tr("and %Ln more (all of them under Show Details)", nullptr, int(m_unreadable.size() - kShown)));
+    if (m_unreadableFiles > 0)
+        lines.append(tr("%Ln file(s) could not be read to compare their content.", nullptr, int(m_unreadableFiles)));
+    box->setInformativeText(lines.join(QLatin1Char('\n')));
+    if (m_unreadable.size() > kShown) {
+        QStringList all;
+        for (const QString &path : std::as_const(m_unreadable))
+            all.append(displayPath(path));
+        box->setDetailedText(all.join(QLatin1Char('\n')));
+    }
+    box->open();
+}
+
 bool Dupes::selectAndRevealInTopList(const QString &path)
 {
     if (!m_model.selectAndRevealInTopList(path)) return false;
@@ -661,94 +524,9 @@ bool Dupes::selectAndRevealInTopList(const QString &path)
     return true;
 }
 
-void Dupes::revealSelectedInFileManager()
-{
-    QStringList paths;
-    for (const ResultItem *item : targetItems())
-        paths.append(item->path);
-    if (!paths.isEmpty()) revealInFileManager(paths);
-}
-
-void Dupes::openSelected()
-{
-    for (const ResultItem *item : targetItems())
-        openWithDefaultApplication(item->path);
-}
-
-void Dupes::togglePreview()
-{
-    m_previewPane->setVisible(!m_previewPane->isVisible());
-    m_previewAction->setChecked(m_previewPane->isVisible());
-    updateStatus();
-}
-
-void Dupes::showGPSLocation(int service)
-{
-    for (const ResultItem *item : targetItems())
-        if (!std::isnan(item->latitude()) && !std::isnan(item->longitude()))
-            QDesktopServices::openUrl(QUrl(mapServiceURLs(item->latitude(), item->longitude()).value(service)));
-}
-
-bool Dupes::draggingEntered(const QMimeData *data, const QObject *source)
-{
-    const bool ownList = source && (source == m_mainList || source == m_cloneList ||
-                                    source == m_mainList->viewport() || source == m_cloneList->viewport());
-    if (ownList || !data->hasUrls()) return false;
-    if (!m_dropIndicatorView) {
-        m_dropIndicatorView = new QWidget(centralWidget());
-        m_dropIndicatorView->setObjectName(QStringLiteral("dropIndicator"));
-        m_dropIndicatorView->setAttribute(Qt::WA_TransparentForMouseEvents);
-        QColor colour = palette().color(QPalette::Highlight);
-        colour.setAlphaF(0.5);
-        m_dropIndicatorView->setStyleSheet(QStringLiteral("background-color: %1").arg(colour.name(QColor::HexArgb)));
-        m_dropIndicatorView->setGeometry(centralWidget()->rect());
-        m_dropIndicatorView->show();
-        m_dropIndicatorView->raise();
-    }
-    return true;
-}
-
-bool Dupes::performDragOperation(const QMimeData *data)
-{
-    removeDropIndicator();
-    const QStringList files = localPaths(data->urls());
-    if (files.size() != 1) return false;
-    selectAndRevealInTopList(files.first());
-    return true;
-}
-
-void Dupes::dragEnterEvent(QDragEnterEvent *event)
-{
-    if (draggingEntered(event->mimeData(), event->source()))
-        event->acceptProposedAction();
-    else
-        event->ignore();
-}
-
-void Dupes::dragLeaveEvent(QDragLeaveEvent *event)
-{
-    removeDropIndicator();
-    event->accept();
-}
-
-void Dupes::dropEvent(QDropEvent *event)
-{
-    if (performDragOperation(event->mimeData()))
-        event->acceptProposedAction();
-    else
-        event->ignore();
-}
-
-void Dupes::removeDropIndicator()
-{
-    delete m_dropIndicatorView;
-    m_dropIndicatorView = nullptr;
-}
-
 void Dupes::closeEvent(QCloseEvent *event)
 {
     m_icons.cancelPendingThumbnails();
-    saveColumnLayouts();
     m_search.abortAndWait(true);
     Q_EMIT closed(this);
     event->accept();

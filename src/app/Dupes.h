@@ -2,6 +2,7 @@
 
 #include "ItemIcons.h"
 #include "ResultActionsWiring.h"
+#include "ResultsStatus.h"
 #include "results/ResultModel.h"
 #include "search/DuplicateSearch.h"
 
@@ -17,6 +18,7 @@ class QToolBar;
 namespace selfsame {
 
 class FilterBar;
+class OverviewWindow;
 class PreviewPane;
 class ResultListView;
 class ResultTableModel;
@@ -80,7 +82,21 @@ public:
     ResultListView *cloneList() const { return m_cloneList; }
     FilterBar *filterBar() const { return m_filterBar; }
     PreviewPane *previewPane() const { return m_previewPane; }
+    // The parts of the window that Tab and F6 cycle through, in order: the filter bar's text
+    // field, the top list and the bottom list.
+    QList<QWidget *> keyboardCycle() const;
+    // F6 and Shift+F6: the focus moves to the next or previous part of the cycle.
+    void focusNextPart(bool forward);
+    // "Where are the duplicates?": the treemap of reclaimable space by folder, opened from the
+    // View menu; a click on a folder filters the lists to it.
+    OverviewWindow *showOverview();
     QString statusText() const;
+    QString groupCaptionText() const;
+    // The line of what the last file command did, empty before any.
+    QString summaryText() const;
+    // The paths the search could not read, listed when their count in the status line is clicked.
+    const QStringList &unreadablePaths() const { return m_unreadable; }
+    void showUnreadableItems();
     QString pathBarText() const;
 
     // Column visibility: the mode's hidden columns cannot be shown by the user.
@@ -94,6 +110,8 @@ public Q_SLOTS:
     // The items changed (moved, deleted, hidden or shown again): both lists are read again,
     // the selection that is left is kept, and the status line is brought up to date.
     void modelDidChange();
+    // The summary line of a file command that is over; empty hides it.
+    void showActionSummary(const QString &summary);
     void applyFilter();
     void revealSelectedInFileManager();
     void openSelected();
@@ -117,6 +135,7 @@ protected:
 
 private:
     void buildMenus();
+    void setUpKeyboardCycle();
     void installActions();
     void fillContextMenu(QMenu *menu, ResultList list);
     void validateItemActions();
@@ -132,7 +151,8 @@ private:
     void selectInView(ResultListView *view);
     void reloadList(ResultListView *view);
     void updateStatus();
-    void updateWindowTitle(const QStringList &locations);
+    void updateOverview();
+    void updateWindowTitle();
     void showGPSLocation(int service);
     void removeDropIndicator();
 
@@ -145,6 +165,12 @@ private:
     ResultList m_active = ResultList::Top;
     QStringList m_modeHiddenColumns;
     QStringList m_userHiddenColumns;
+    // What the title names: the searched locations, the mode and the compared attribute.
+    QStringList m_titleLocations;
+    DetectionMode m_titleMode = DetectionMode::Content;
+    QString m_attributeName;
+    QStringList m_emptyColumns; // no item has a value for them
+    bool m_layingOutColumns = false;
 
     QWidget *m_searchingRow;
     QLabel *m_statusFld;
@@ -157,6 +183,11 @@ private:
     ResultListView *m_cloneList;
     PreviewPane *m_previewPane;
     QLabel *m_statusLine;
+    QLabel *m_summaryLine;
+    QLabel *m_groupCaption; // above the bottom list: its group's size and what it would free
+    ResultsStatus m_status;
+    QStringList m_unreadable; // folders the search could not list
+    qint64 m_unreadableFiles = 0;
     QLabel *m_pathControl;
     QMenu *m_actionsMenu = nullptr;
     QToolBar *m_actionsToolBar = nullptr;
@@ -165,6 +196,7 @@ private:
     QAction *m_revealAction = nullptr;
     QList<QAction *> m_mapActions;
     QWidget *m_dropIndicatorView = nullptr;
+    OverviewWindow *m_overview = nullptr;
     ResultActions m_resultActions;
 };
 

@@ -1,20 +1,20 @@
 #include "DupesActions.h"
 
+#include "ActionSummary.h"
 #include "Alert.h"
 #include "CloneProgressWindow.h"
+#include "DeleteCommand.h"
 #include "Desktop.h"
 #include "InterruptedActions.h"
 #include "SearchDefaults.h"
 #include "Settings.h"
 #include "fileops/CloneFlow.h"
-#include "fileops/DeleteFlow.h"
 #include "journal/Journal.h"
 #include "fileops/PutBack.h"
 
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QKeyEvent>
 
 namespace selfsame {
@@ -133,9 +133,17 @@ void DupesActions::updateActions()
     m_replaceWithPopup->setToolTip(m_showingAlternate ? tr("Replacement while Alt is held")
                                                       : tr("Replacement of deleted duplicates"));
 
-    const QList<ResultItem *> items = targets().items;
+    const Targets chosen = targets();
+    const QList<ResultItem *> &items = chosen.items;
     m_moveToTrash->setEnabled(std::any_of(items.begin(), items.end(), [](auto *i) { return !isGoneItem(i); }));
     m_deleteImmediately->setEnabled(!items.isEmpty());
+    // Before anything is touched, the command says which list and how many files it acts on.
+    const int count = int(items.size());
+    const bool bottom = chosen.list == ResultList::Bottom;
+    m_moveToTrash->setToolTip(bottom ? tr("Moves the %Ln file(s) selected in the bottom list to the Trash", nullptr, count)
+                                     : tr("Moves the %Ln file(s) selected in the top list to the Trash", nullptr, count));
+    m_deleteImmediately->setToolTip(bottom ? tr("Deletes the %Ln file(s) selected in the bottom list", nullptr, count)
+                                           : tr("Deletes the %Ln file(s) selected in the top list", nullptr, count));
     m_putBack->setEnabled(std::any_of(items.begin(), items.end(), [](const ResultItem *i) {
         return !i->trashedURL().isEmpty() && !i->has(Deleted);
     }));
@@ -180,18 +188,16 @@ void DupesActions::runDeleteAction(bool trash)
     request.duplicatesFor = [this](const ResultItem &item) { return m_model.duplicatesFor(item); };
     request.showPutBackTip = !m_settings.boolValue(kPutBackTipShown);
 
-    DeleteActionUi ui;
+    DeleteCommandUi ui;
     ui.ask = [this](const Alert &alert) { return askAlert(m_window, QMessageBox::Warning, alert).code; };
-    ui.grantAccessTo = [this](const QString &volume) {
-        // Linux has no sandbox to open: choosing the volume lets the user check it before
-        // trying again.
-        return !QFileDialog::getExistingDirectory(m_window, tr("Grant Access to Trash"), volume).isEmpty();
-    };
-    const DeleteActionResult result = selfsame::runDeleteAction(request, ui);
-    if (result.putBackTipShown)
+    ui.showInFileManager = [](const QString &path) { revealInFileManager({path}); };
+    const DeleteCommandResult result = runDeleteCommand(request, ui);
+    if (result.putBackNoteShown)
         m_settings.setValue(kPutBackTipShown, true);
-    if (result.performed)
+    if (result.performed) {
         Q_EMIT modelChanged();
+        Q_EMIT actionSummarized(deleteSummary(result.outcomes));
+    }
     updateActions();
 }
 
@@ -202,9 +208,10 @@ void DupesActions::putBack()
         return;
     const QList<ResultItem *> items = targets().items;
     const PutBackSummary summary = putBackItems(items, &journal);
-    if (const auto failed = putBackFailureAlert(summary, items))
+    if (const auto failed = putBackFromTrashFailure(summary, items))
         askAlert(m_window, QMessageBox::Warning, *failed);
     Q_EMIT modelChanged();
+    Q_EMIT actionSummarized(putBackSummary(summary.putBack));
     updateActions();
 }
 
@@ -226,7 +233,9 @@ void DupesActions::replaceByClones()
         request.planPath = m_planFolder->filePath(QStringLiteral("Selfsame.log"));
 
     CloneActionUi ui;
-    ui.ask = [this](const Alert &alert) { return askAlert(m_window, QMessageBox::Warning, alert); };
+    ui.ask = [this](const Alert &alert) {
+        return askAlert(m_window, QMessageBox::Warning, cloneAlertInDesktopWords(alert));
+    };
     ui.viewPlan = [this](const QString &path) { planViewer(path); };
     ui.beginPass = [this](bool perform) { m_progress->beginPass(perform); };
     ui.progress = [this](int index, int count) { return m_progress->step(index, count); };
@@ -236,8 +245,10 @@ void DupesActions::replaceByClones()
         m_settings.setDictionaryValue(key::doNotShowAgain, it.key(), it.value());
     if (!result.planPath.isEmpty())
         m_planPath = result.planPath;
-    if (result.performed)
+    if (result.performed) {
         Q_EMIT modelChanged();
+        Q_EMIT actionSummarized(cloneSummary(result.cloned));
+    }
     updateActions();
 }
 

@@ -67,6 +67,8 @@ public:
 Q_SIGNALS:
     // Items were moved, deleted, replaced or put back: the lists need redrawing.
     void modelChanged();
+    // A command is over: one line of what it did and freed (empty when it did nothing).
+    void actionSummarized(const QString &summary);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;

@@ -8,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalBlocker>
 #include <QToolButton>
 #include <QUrl>
 
@@ -151,6 +152,32 @@ void FilterBar::showRegexError(const QString &error)
     m_filterErrorLabel->setVisible(!error.isEmpty());
     m_filterErrorLabel->setToolTip(error);
     m_filterErrorHelpBtn->setVisible(!error.isEmpty());
+}
+
+void FilterBar::showOnlyFolder(const QString &folder)
+{
+    selectData(m_filterStringCriterionPopup, QStringLiteral("URL.path"));
+    selectData(m_filterStringOperatorPopup, int(BeginsWith));
+    const QSignalBlocker quiet(m_filterFld); // one filtering, now, not another after a pause
+    m_filterFld->setText(folder.endsWith(QLatin1Char('/')) ? folder : folder + QLatin1Char('/'));
+    Q_EMIT filterChanged();
+}
+
+void FilterBar::clearTextCondition()
+{
+    const QSignalBlocker quiet(m_filterFld);
+    m_filterFld->clear();
+    Q_EMIT filterChanged();
+}
+
+QWidget *FilterBar::firstInTabOrder() const
+{
+    return m_filterStringCriterionPopup;
+}
+
+QWidget *FilterBar::lastInTabOrder() const
+{
+    return m_filterDateUnitPopup;
 }
 
 } // namespace selfsame

@@ -28,6 +28,13 @@ public:
 
     QLineEdit *textField() const { return m_filterFld; }
     QDoubleSpinBox *dateValueField() const { return m_filterDateValueFld; }
+    // The items of one folder (and its subfolders) alone, as a path condition.
+    void showOnlyFolder(const QString &folder);
+    // No text condition: every item passes it.
+    void clearTextCondition();
+    // The bar's controls in Tab order run from the first to the last of these.
+    QWidget *firstInTabOrder() const;
+    QWidget *lastInTabOrder() const;
 
 Q_SIGNALS:
     void filterChanged();

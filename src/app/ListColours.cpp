@@ -6,10 +6,17 @@
 
 namespace selfsame {
 
-QColor groupColour(bool alternate)
+bool isDarkPalette(const QPalette &palette)
 {
-    // "groupOdd" and "groupEven": light enough for black text, apart enough to see the groups.
-    return alternate ? QColor(0xe3, 0xec, 0xf7) : QColor(0xfb, 0xfb, 0xfb);
+    return palette.color(QPalette::Base).lightness() < 128;
+}
+
+QColor groupColour(bool alternate, const QPalette &palette)
+{
+    // "groupOdd" and "groupEven": the tint is far enough from the base to tell groups apart
+    // at a glance, and near enough to it that the palette's text stays readable on both.
+    if (!alternate) return palette.color(QPalette::Base);
+    return isDarkPalette(palette) ? QColor(0x33, 0x46, 0x5f) : QColor(0xd5, 0xe3, 0xf5);
 }
 
 QColor cloneStatusColour(int status)

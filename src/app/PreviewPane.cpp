@@ -66,6 +66,7 @@ void PreviewPane::showItem(const ResultItem *item)
 {
     ++m_request;
     m_picture->clear();
+    m_image = QImage();
     m_text->clear();
     m_picture->hide();
     m_text->hide();
@@ -118,7 +119,22 @@ void PreviewPane::showPicture(quint64 request, const QImage &image)
         m_picture->setText(tr("No preview"));
         return;
     }
-    m_picture->setPixmap(QPixmap::fromImage(image));
+    m_image = image;
+    fitPicture();
+}
+
+void PreviewPane::fitPicture()
+{
+    if (m_image.isNull()) return;
+    // Shrunk to the room there is, never stretched, never distorted.
+    const QSize room = m_picture->contentsRect().size().boundedTo(m_image.size());
+    m_picture->setPixmap(QPixmap::fromImage(m_image.scaled(room, Qt::KeepAspectRatio, Qt::SmoothTransformation)));
+}
+
+void PreviewPane::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitPicture();
 }
 
 } // namespace selfsame

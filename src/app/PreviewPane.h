@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 class QLabel;
@@ -19,10 +20,15 @@ public:
     // Nothing selected, or several items: the pane says so.
     void showItem(const ResultItem *item);
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
     void showPicture(quint64 request, const QImage &image);
+    void fitPicture();
 
     QLabel *m_picture;
+    QImage m_image; // the picture as made, before it is fitted to the pane
     QPlainTextEdit *m_text;
     QLabel *m_info;
     quint64 m_request = 0; // pictures of earlier items that arrive late are dropped

@@ -41,6 +41,19 @@ QString fittingDateText(const QDateTime &date, const QFontMetrics &metrics, int 
 
 void ResultCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
 {
+    paintCell(painter, option, index);
+    // A line across the whole row where a group begins: groups read apart even in a
+    // selection or where the bands are hard to see.
+    if (index.data(ResultTableModel::GroupStartRole).toBool()) {
+        painter->save();
+        painter->setPen(QPen(option.palette.color(QPalette::Mid), 1));
+        painter->drawLine(option.rect.topLeft(), option.rect.topRight());
+        painter->restore();
+    }
+}
+
+void ResultCellDelegate::paintCell(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
+{
     const QVariant date = index.data(ResultTableModel::DateRole);
     if (date.isValid()) {
         QStyleOptionViewItem opt = option;
@@ -51,7 +64,9 @@ void ResultCellDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
     }
     const QStringList tags = index.data(ResultTableModel::TagsRole).toStringList();
     if (!tags.isEmpty()) {
-        paintTags(painter, option, tags);
+        QStyleOptionViewItem opt = option;
+        initStyleOption(&opt, index); // the row's group band and selection behind the chips
+        paintTags(painter, opt, tags);
         return;
     }
     QStyledItemDelegate::paint(painter, option, index);

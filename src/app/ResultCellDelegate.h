@@ -21,6 +21,7 @@ public:
     void paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const override;
 
 private:
+    void paintCell(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintTags(QPainter *painter, const QStyleOptionViewItem &option, const QStringList &tags) const;
 };
 

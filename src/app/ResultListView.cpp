@@ -23,6 +23,9 @@ ResultListView::ResultListView(QWidget *parent) : QTableView(parent)
     setDragDropMode(DragOnly);
     setDefaultDropAction(Qt::CopyAction);
     setHorizontalScrollMode(ScrollPerPixel);
+    // Tab leaves the list, so that the keyboard reaches the other list and the filter bar.
+    setTabKeyNavigation(false);
+    muteUnfocusedSelection();
     verticalHeader()->hide();
     // Fixed, equal rows: the view never measures a row, whatever the number of items.
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
@@ -30,6 +33,30 @@ ResultListView::ResultListView(QWidget *parent) : QTableView(parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
     horizontalHeader()->setSortIndicatorShown(true);
+}
+
+void ResultListView::muteUnfocusedSelection()
+{
+    // The selection of the list without the focus is drawn in a muted grey, apart from the
+    // group bands: the strong highlight is always on the rows that the commands act on.
+    QPalette colours = QApplication::palette(this);
+    const QColor text = colours.color(QPalette::Active, QPalette::Text);
+    const QColor base = colours.color(QPalette::Active, QPalette::Base);
+    const QColor muted = QColor::fromRgbF(float(base.redF() * 0.72 + text.redF() * 0.28),
+                                          float(base.greenF() * 0.72 + text.greenF() * 0.28),
+                                          float(base.blueF() * 0.72 + text.blueF() * 0.28));
+    colours.setColor(QPalette::Inactive, QPalette::Highlight, muted);
+    colours.setColor(QPalette::Inactive, QPalette::HighlightedText, text);
+    // Setting the palette is itself a palette change: only a new one is set.
+    if (colours != palette()) setPalette(colours);
+}
+
+bool ResultListView::event(QEvent *event)
+{
+    // A new desktop theme brings new colours to mute.
+    if (event->type() == QEvent::ApplicationPaletteChange || event->type() == QEvent::PaletteChange)
+        muteUnfocusedSelection();
+    return QTableView::event(event);
 }
 
 ResultTableModel *ResultListView::resultModel() const

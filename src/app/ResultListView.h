@@ -30,12 +30,15 @@ Q_SIGNALS:
     void activated();
 
 protected:
+    bool event(QEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
     void keyboardSearch(const QString &search) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void focusInEvent(QFocusEvent *event) override;
 
 private:
+    void muteUnfocusedSelection();
+
     QString m_typed;
     QElapsedTimer m_lastTyped;
 };

@@ -1,9 +1,16 @@
 #include "ResultTableModel.h"
 
+#include "ActionSummary.h"
 #include "ItemIcons.h"
+#include "ResultsStatus.h"
 #include "ListColours.h"
 #include "names/FileNames.h"
+#include "format/ByteSize.h"
 #include "results/ListColumns.h"
+#include "results/Reclaimable.h"
+
+#include <QFont>
+#include <QGuiApplication>
 
 #include <QMimeData>
 #include <QSet>
@@ -60,9 +67,13 @@ QVariant ResultTableModel::data(const QModelIndex &index, int role) const
     switch (role) {
     case Qt::DisplayRole:
         if (isDateColumn(column)) return {};
-        // A status is relative to the item selected in the top list: in the top list itself it
-        // would be left over from an earlier selection.
-        if (m_list == ResultList::Top && column == QLatin1String("clone")) return {};
+        if (column == QLatin1String("clone")) {
+            // A status is relative to the item selected in the top list: in the top list itself
+            // it would be left over from an earlier selection.
+            if (m_list == ResultList::Top) return {};
+            // What a command made of the item says more than how it related to the selection.
+            if (const QString acted = actedOnStatus(item->statusImage()); !acted.isEmpty()) return acted;
+        }
         // Names and folders keep their bytes for sorting and filtering; shown, those that are
         // not UTF-8 read \xFF.
         return displayPath(cellText(*item, column, m_spotlightAttribute));
@@ -71,28 +82,39 @@ QVariant ResultTableModel::data(const QModelIndex &index, int role) const
         return {};
     case TagsRole:
         return column == QLatin1String("tags") ? QVariant(item->tagList()) : QVariant();
+    case GroupStartRole:
+        return showsGroups() && index.row() > 0 && this->item(index.row() - 1)->group != item->group;
     case Qt::DecorationRole:
         if (index.column() == 0) return m_icons.icon(*item);
         return {};
     case Qt::BackgroundRole:
-        if (index.column() == 0 && m_list == ResultList::Top && m_model.showGroups())
-            return groupColour(item->has(AlternateColor));
-        if (column == QLatin1String("clone") && m_list == ResultList::Bottom) {
+        if (column == QLatin1String("clone") && m_list == ResultList::Bottom && !isActedOn(*item)) {
             const QColor colour = cloneStatusColour(item->clone);
             if (colour.isValid()) return colour;
         }
+        if (showsGroups()) return groupColour(item->has(AlternateColor), QGuiApplication::palette());
         return {};
     case Qt::ForegroundRole:
-        // Opened again from a file, and no longer what was found: shown as missing.
-        if (item->has(Missing)) return QColor(Qt::gray);
-        // The backgrounds are light whatever the theme.
-        if ((index.column() == 0 && m_list == ResultList::Top && m_model.showGroups()) ||
-            (column == QLatin1String("clone") && cloneStatusColour(item->clone).isValid()))
+        // Moved away or replaced by a command, or changed since saved results were made: the
+        // row stays for reference, greyed.
+        if (isActedOn(*item) || item->has(Missing))
+            return QGuiApplication::palette().color(QPalette::Disabled, QPalette::Text);
+        // The status colours are light whatever the theme.
+        if (column == QLatin1String("clone") && m_list == ResultList::Bottom && cloneStatusColour(item->clone).isValid())
             return QColor(Qt::black);
+        return {};
+    case Qt::FontRole:
+        // In the bottom list, the row of the item selected above stands out from its copies.
+        if (m_list == ResultList::Bottom && item->clone == SelectedItself) {
+            QFont bold;
+            bold.setBold(true);
+            return bold;
+        }
         return {};
     case Qt::ToolTipRole:
         if (item->has(Missing))
             return tr("%1\nChanged or gone since these results were saved").arg(displayPath(item->path));
+        if (showsGroups()) return groupToolTip(*item);
         if (index.column() == 0 || column == QLatin1String("path") || column == QLatin1String("folder"))
             return displayPath(item->path);
         return {};
@@ -104,6 +126,16 @@ QVariant ResultTableModel::data(const QModelIndex &index, int role) const
     default:
         return {};
     }
+}
+
+bool ResultTableModel::showsGroups() const
+{
+    return m_list == ResultList::Top && m_model.showGroups();
+}
+
+QString ResultTableModel::groupToolTip(const ResultItem &item) const
+{
+    return displayPath(item.path) + QLatin1Char('\n') + groupCaption(m_model.duplicatesFor(item));
 }
 
 QString ResultTableModel::title(const QString &column) const

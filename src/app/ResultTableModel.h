@@ -18,6 +18,8 @@ public:
     static constexpr int DateRole = Qt::UserRole + 1;
     // The tags of a "tags" cell, as a string list.
     static constexpr int TagsRole = Qt::UserRole + 2;
+    // True on the first row of each group after the first, while the top list shows groups.
+    static constexpr int GroupStartRole = Qt::UserRole + 3;
 
     ResultTableModel(ResultModel &model, ResultList list, ItemIcons &icons, QObject *parent = nullptr);
 
@@ -53,6 +55,8 @@ Q_SIGNALS:
 
 private:
     QString title(const QString &column) const;
+    bool showsGroups() const;
+    QString groupToolTip(const ResultItem &item) const;
 
     ResultModel &m_model;
     ResultList m_list;

@@ -26,7 +26,12 @@ QVariant Settings::value(const QString &key) const
 
 void Settings::setValue(const QString &key, const QVariant &value)
 {
-    m_store->setValue(key, value);
+    // A value back at its default is the user's choice no more: the file holds only changes.
+    const auto registered = m_defaults.constFind(key);
+    if (registered != m_defaults.cend() && QVariant::compare(*registered, value) == QPartialOrdering::Equivalent)
+        m_store->remove(key);
+    else
+        m_store->setValue(key, value);
 }
 
 bool Settings::isStored(const QString &key) const

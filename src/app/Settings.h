@@ -25,6 +25,7 @@ public:
     QString stringValue(const QString &key) const { return value(key).toString(); }
     QStringList stringListValue(const QString &key) const { return value(key).toStringList(); }
 
+    // A value equal to the key's registered default removes the key from the store.
     void setValue(const QString &key, const QVariant &value);
     bool isStored(const QString &key) const;
     void remove(const QString &key);

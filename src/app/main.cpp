@@ -1,4 +1,5 @@
 #include "AppDelegate.h"
+#include "EnglishPlurals.h"
 #include "InterruptedActions.h"
 #include "LaunchRequest.h"
 #include "Settings.h"
@@ -14,6 +15,8 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Selfsame"));
+    selfsame::EnglishPlurals plurals;
+    QApplication::installTranslator(&plurals);
     QApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("selfsame"));
     QApplication::setWindowIcon(
@@ -51,7 +54,8 @@ int main(int argc, char *argv[])
                          window.handleLaunch(selfsame::LaunchRequest::fromMessage(message));
                      });
     window.show();
-    window.showWelcomeAtStartup();
+    // Results asked for from outside come first; the welcome panel waits for a plain start.
+    if (!launch.search) window.showWelcomeAtStartup();
     if (!launch.paths.isEmpty())
         QTimer::singleShot(0, &window, [&window, launch] { window.handleLaunch(launch); });
     return QApplication::exec();

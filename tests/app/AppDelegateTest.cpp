@@ -14,6 +14,9 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QAbstractItemView>
 #include <QFileInfo>
 #include <QMenu>
 #include <QMenuBar>
@@ -313,16 +316,44 @@ TEST(AppDelegate, ModeChangesAreSavedAtOnce)
     EXPECT_TRUE(m.settings.isStored(key::detectionMode));
 }
 
-TEST(AppDelegate, SearchRequestsFromOutsideAddTheLocationsAndSearch)
+TEST(AppDelegate, SearchRequestsFromOutsideAreOneOffsThatLeaveTheLocationsAlone)
 {
     TempTree tree;
-    tree.build({"here/a:1", "here/b:1"});
+    tree.build({"here/a:1", "here/b:1", "kept/c:1"});
     MainWindow m;
     AppDelegate &w = m.open();
+    w.addURLs({tree.path(QStringLiteral("kept"))}, true, false, true);
+    const QList<QVariantMap> saved = m.settings.recordList(key::searchLocations);
+    w.showWelcomeAtStartup();
+    auto *panel = w.findChild<WelcomePanel *>();
+    ASSERT_TRUE(panel && panel->isVisible());
+
     w.handleLaunch({true, {tree.path(QStringLiteral("here"))}});
-    EXPECT_EQ(w.sources()->enabledPaths(), QStringList{tree.path(QStringLiteral("here"))});
-    EXPECT_EQ(w.dupesList().size(), 1);
+    EXPECT_EQ(w.sources()->enabledPaths(), QStringList{tree.path(QStringLiteral("kept"))});
+    EXPECT_EQ(m.settings.recordList(key::searchLocations), saved);
+    ASSERT_EQ(w.dupesList().size(), 1);
+    EXPECT_EQ(w.dupesList().first()->windowTitle(), QStringLiteral("here — by content — Selfsame"));
+    EXPECT_FALSE(panel->isVisible()) << "the welcome panel does not cover the results";
     EXPECT_TRUE(waitForSearches(w));
+    // The next plain search is the saved one.
+    w.searchDuplicates();
+    ASSERT_EQ(w.dupesList().size(), 2);
+    EXPECT_EQ(w.dupesList().last()->windowTitle(), QStringLiteral("kept — by content — Selfsame"));
+    EXPECT_TRUE(waitForSearches(w));
+}
+
+TEST(AppDelegate, AddStartsAtHomeAndTakesSeveralFolders)
+{
+    MainWindow m;
+    AppDelegate &w = m.open();
+    w.addFolderWithButton(QStringLiteral("Add"), true, false);
+    auto *dialog = w.findChild<QFileDialog *>();
+    ASSERT_TRUE(dialog);
+    EXPECT_EQ(dialog->directory().absolutePath(), QDir::homePath());
+    auto *list = dialog->findChild<QAbstractItemView *>(QStringLiteral("listView"));
+    ASSERT_TRUE(list);
+    EXPECT_EQ(list->selectionMode(), QAbstractItemView::ExtendedSelection);
+    dialog->reject();
 }
 
 TEST(AppDelegate, TheWelcomePanelRemembersItsCheckBoxWhenClosed)

@@ -1,5 +1,7 @@
 // Widget tests need a QApplication; they run on the offscreen platform with a configuration
 // folder of their own, so that nothing touches the user's settings.
+#include "EnglishPlurals.h"
+
 #include <QApplication>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -12,6 +14,8 @@ int main(int argc, char **argv)
         qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Selfsame"));
+    selfsame::EnglishPlurals plurals;
+    QApplication::installTranslator(&plurals);
     ::testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }

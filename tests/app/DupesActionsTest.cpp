@@ -133,7 +133,7 @@ TEST_F(DupesActionsTest, AltHeldAnywhereShowsEditsAndPerformsTheAlternateMode)
     targetBottom(item(keep), item(dup));
     actions->moveToTrashAction()->trigger();
     ASSERT_EQ(asked.size(), 1);
-    EXPECT_TRUE(asked[0].startsWith(QStringLiteral("Note: you can’t use")));
+    EXPECT_EQ(asked[0], QStringLiteral("Items moved to the Trash by Selfsame can be put back where they were."));
     EXPECT_TRUE(settings.boolValue(QStringLiteral("put back tip shown")));
     EXPECT_EQ(QFileInfo(dup).symLinkTarget(), keep);
     EXPECT_EQ(item(dup)->statusImage(), QStringLiteral("aliased"));
@@ -223,22 +223,34 @@ TEST_F(DupesActionsTest, WithoutReferenceTheFilesGoWithoutReplacementWhenTheUser
     EXPECT_TRUE(item(a)->trashedURL().isEmpty());
 }
 
-TEST_F(DupesActionsTest, AFailedMoveToTrashOffersImmediateDeletionWithItsOwnQuestions)
+TEST_F(DupesActionsTest, AFailedMoveToTrashOffersImmediateDeletionOnlyWhereItCanWork)
 {
     const QString a = tree.file(QStringLiteral("a.bin"), content);
-    tree.file(QStringLiteral("b.bin"), content);
-    load(tree.path(), {{QStringLiteral("a.bin"), 0}, {QStringLiteral("b.bin"), 0}});
+    const QString b = tree.file(QStringLiteral("b.bin"), content);
+    tree.file(QStringLiteral("c.bin"), content);
+    load(tree.path(), {{QStringLiteral("a.bin"), 0}, {QStringLiteral("b.bin"), 0}, {QStringLiteral("c.bin"), 0}});
     settings.setValue(QStringLiteral("put back tip shown"), true);
+
+    // Changed since the search: a deletion would leave it alone as well, so only OK is offered.
     model.select(ResultList::Top, {item(a)});
     writeFile(a, "changed since the search");
+    answer({kFirstButton + 1});
+    actions->moveToTrash();
+    EXPECT_EQ(asked, QStringList{QStringLiteral("“a.bin” could not be moved to the Trash.")});
+    EXPECT_EQ(readFile(a), QByteArray("changed since the search"));
 
+    // No trash can be made (its place is a file): deleting for good is offered, with its own question.
+    asked.clear();
+    const QByteArray dataHome = qgetenv("XDG_DATA_HOME");
+    qputenv("XDG_DATA_HOME", QFile::encodeName(tree.file(QStringLiteral("not a folder"), "x")));
+    model.select(ResultList::Top, {item(b)});
     answer({kFirstButton + 1, kFirstButton}); // Delete Immediately…, then Delete Immediately
     actions->moveToTrash();
-    EXPECT_EQ(asked, (QStringList{QStringLiteral("“a.bin” could not be put in the Bin."),
-                                  QStringLiteral("Are you sure you want to delete “a.bin” immediately?"),
-                                  QStringLiteral("“a.bin” could not be deleted immediately.")}));
-    EXPECT_EQ(readFile(a), QByteArray("changed since the search"));
-    EXPECT_FALSE(item(a)->has(Deleted));
+    qputenv("XDG_DATA_HOME", dataHome);
+    EXPECT_EQ(asked, (QStringList{QStringLiteral("“b.bin” could not be moved to the Trash."),
+                                  QStringLiteral("Are you sure you want to delete “b.bin” immediately?")}));
+    EXPECT_FALSE(exists(b));
+    EXPECT_TRUE(item(b)->has(Deleted));
 }
 
 TEST_F(DupesActionsTest, CloningFindsNothingOnAFileSystemThatCannotAndStopsWhenTheProgressIsCancelled)

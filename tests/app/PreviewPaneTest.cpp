@@ -3,6 +3,7 @@
 #include "results/ResultItem.h"
 #include "support/TempTree.h"
 
+#include <QApplication>
 #include <QImage>
 #include <QLabel>
 #include <QPlainTextEdit>
@@ -35,7 +36,14 @@ TEST(PreviewPane, ShowsPicturesWhenReadyTextFilesAndWhatTheSearchRead)
     EXPECT_TRUE(info->text().contains(QStringLiteral("900 × 300")));
     EXPECT_TRUE(info->text().contains(QStringLiteral("N, ")));
     ASSERT_TRUE(QTest::qWaitFor([&] { return !picture->pixmap().isNull(); }, 10000)) << "made off the main thread";
-    EXPECT_EQ(picture->pixmap().width(), 480);
+    // Fitted to the pane, with the picture's own proportions whatever the pane's.
+    for (const QSize paneSize : {QSize(700, 900), QSize(250, 900)}) {
+        pane.resize(paneSize);
+        QApplication::processEvents();
+        const QSize shown = picture->pixmap().size();
+        EXPECT_LE(shown.width(), std::min(480, picture->width())) << paneSize.width();
+        EXPECT_NEAR(double(shown.width()) / shown.height(), 3.0, 0.05) << paneSize.width();
+    }
     EXPECT_FALSE(text->isVisible());
 
     ResultItem notes;

@@ -42,9 +42,20 @@ TEST(Settings, RegisteredDefaultsAreReadButNeverWritten)
         EXPECT_EQ(active.first(), QStringLiteral("kMDItemContentCreationDate"));
         EXPECT_EQ(active.last(), QStringLiteral("kMDItemAestheticScore"));
         EXPECT_FALSE(settings.isStored(key::skipHiddenFiles));
+        // Saving the options of a search writes only what differs from the defaults, and a
+        // value set back to its default leaves the file.
+        settings.setValue(key::skipHiddenFiles, true);
+        settings.setValue(key::minFileSize, qint64(1));
+        settings.setValue(key::compareFolders, true);
+        EXPECT_FALSE(settings.isStored(key::skipHiddenFiles));
+        EXPECT_FALSE(settings.isStored(key::minFileSize)) << "an int64 1 is the default int 1";
+        EXPECT_TRUE(settings.isStored(key::compareFolders));
+        settings.setValue(key::compareFolders, false);
+        EXPECT_FALSE(settings.isStored(key::compareFolders));
         settings.sync();
     }
     EXPECT_FALSE(file.contents().contains("skip"));
+    EXPECT_FALSE(file.contents().contains("compare"));
 
     Settings reopened(file.path);
     EXPECT_FALSE(reopened.value(key::skipHiddenFiles).isValid()) << "defaults live in memory only";

@@ -1,6 +1,7 @@
 #include "ResultPictures.h"
 
 #include "Dupes.h"
+#include "GlancePictures.h"
 #include "FilterBar.h"
 #include "ResultListView.h"
 #include "ResultTableModel.h"
@@ -119,6 +120,8 @@ void selectRow(Dupes *dupes, int row)
     ResultListView *top = dupes->mainList();
     top->selectionModel()->select(top->model()->index(row, 0),
                                   QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    // The focused list is drawn framed, with its selection in the strong colour.
+    dupes->activateWindow();
     top->setFocus();
 }
 
@@ -190,6 +193,15 @@ void drawResultWindows(Settings &settings, const QString &corpus, const QString 
     reopened->changeListSize(32);
     selectRow(reopened, 1);
     save(reopened, output, QStringLiteral("results-reopened.png"));
+
+    // Copies made for the pictures of a move to the trash: the samples above stay as they are.
+    const QString copies = scratch + QStringLiteral("/Glance");
+    QDir(photos).mkpath(copies);
+    for (const QString &name : QDir(photos + QStringLiteral("/2023 Holiday")).entryList(QDir::Files)) {
+        QFile::copy(photos + QStringLiteral("/2023 Holiday/") + name, copies + QLatin1Char('/') + name);
+        QFile::copy(photos + QStringLiteral("/2023 Holiday/") + name, copies + QStringLiteral("/Copy of ") + name);
+    }
+    drawGlancePictures(settings, {copies, corpus}, scratch, output);
 }
 
 } // namespace selfsame

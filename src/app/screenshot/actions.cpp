@@ -5,6 +5,8 @@
 #include "Settings.h"
 #include "fileops/CloneAlerts.h"
 
+#include "EnglishPlurals.h"
+
 #include <QApplication>
 #include <QButtonGroup>
 #include <QDir>
@@ -53,6 +55,8 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Selfsame"));
+    selfsame::EnglishPlurals plurals;
+    QApplication::installTranslator(&plurals);
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/selfsame.svg")));
     if (QApplication::arguments().size() != 2) {
         std::fprintf(stderr, "usage: selfsame-screenshot-actions OUTPUT_FOLDER\n");

@@ -8,6 +8,8 @@
 #include "Settings.h"
 #include "WelcomePanel.h"
 
+#include "EnglishPlurals.h"
+
 #include <QApplication>
 #include <QComboBox>
 #include <QDateTime>
@@ -52,6 +54,8 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Selfsame"));
+    selfsame::EnglishPlurals plurals;
+    QApplication::installTranslator(&plurals);
     QApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/selfsame.svg")));
     const QStringList args = QApplication::arguments();

@@ -326,6 +326,7 @@ void Enumerator::Walk::list(const Job &job)
             close(dirfd);
         ++m_unreadable;
         std::lock_guard lock(m_mutex);
+        m_result.unreadableFolderPaths.push_back(path);
         m_result.foldersNotListed.push_back(std::move(path));
         return;
     }

@@ -17,6 +17,7 @@ struct EnumerationResult {
     std::vector<std::string> packages;  // package folder paths, each with "/" appended
     qint64 enumerated = 0;              // items seen before any filter
     qint64 unreadableFolders = 0;       // folders that could not be listed
+    std::vector<std::string> unreadableFolderPaths;
     // Folders whose contents are not in the table: unreadable, or listed already through
     // another path (a bind mount, overlapping locations). They look empty but are not.
     std::vector<std::string> foldersNotListed;

@@ -19,6 +19,7 @@ struct SearchStatistics {
     qint64 enumerated = 0;        // items seen, before filters
     qint64 kept = 0;              // items that passed the filters
     qint64 unreadableFolders = 0; // folders that could not be listed
+    QStringList unreadableFolderPaths; // their paths
     qint64 unreadableFiles = 0;   // files that could not be read for their digest
     qint64 filesHashed = 0;       // files read whole for a content digest
     qint64 filesSampled = 0;      // files told apart by their first and last bytes alone

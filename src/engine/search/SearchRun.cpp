@@ -73,6 +73,8 @@ QList<ResultItem> SearchRun::run()
     m_context.statistics.enumerated = enumeration.enumerated;
     m_context.statistics.kept = qint64(enumeration.entries.size());
     m_context.statistics.unreadableFolders = enumeration.unreadableFolders;
+    for (const std::string &path : enumeration.unreadableFolderPaths)
+        m_context.statistics.unreadableFolderPaths.append(pathFromBytes(path));
 
     QList<ResultItem> items;
     if (content)

@@ -1,6 +1,5 @@
 #include "results/ResultModel.h"
 
-#include "results/StatusLine.h"
 #include "search/NamePatterns.h"
 
 #include <QDateTime>
@@ -196,31 +195,6 @@ TEST(ResultModelSort, GroupedRowsAlternateColoursPerGroup)
     EXPECT_EQ(colours.toStdString(), "01100");
     model.setSortDescriptor(ResultList::Top, SortDescriptor{QStringLiteral("modified")});
     EXPECT_FALSE(model.showGroups());
-}
-
-TEST(ResultModelStatus, TextsCountRowsSelectionHiddenAndBytes)
-{
-    ResultModel model;
-    QList<ResultItem> items;
-    for (int n = 0; n < 1500; ++n) {
-        items.append(item(QStringLiteral("/m/f%1").arg(n).toUtf8().constData(), n / 2));
-        items.last().physicalSize = 1'000'000;
-    }
-    model.setResults(items, requestFor(DetectionMode::Duration));
-    EXPECT_EQ(statusLine(model, ResultList::Bottom).text.toStdString(), "1,500 items");
-    model.select(ResultList::Top, {byName(model, "f1"), byName(model, "f7")});
-    EXPECT_EQ(statusLine(model, ResultList::Top).text.toStdString(),
-              "2 items selected out of 1,500 (2.0 MB on disk)");
-    model.select(ResultList::Top, {byName(model, "f1")});
-    const StatusLine one = statusLine(model, ResultList::Bottom);
-    EXPECT_EQ(one.text.toStdString(), "1,500 duplicate items"); // every duration is 0: one range
-    EXPECT_EQ(statusLine(model, ResultList::Top).path.toStdString(), "/m/f1");
-    model.select(ResultList::Top, {});
-    QList<ResultItem *> visible = model.mainItems();
-    const QList<ResultItem *> hidden = visible.mid(0, 1001);
-    visible.remove(0, 1001);
-    model.hide(visible, hidden, true);
-    EXPECT_EQ(statusLine(model, ResultList::Top).text.toStdString(), "499 items (1,001 hidden)");
 }
 
 TEST(ResultModelHiding, UnhideDoublesTheLookUpArrayUntilItsNextRebuild)

@@ -1,0 +1,137 @@
+#include "DesktopAlerts.h"
+
+#include "fileops/CloneAlerts.h"
+#include "fileops/DeleteChecks.h"
+#include "fileops/FSMetadata.h"
+#include "fileops/Trash.h"
+#include "format/Formatters.h"
+#include "names/FileNames.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <unistd.h>
+
+namespace selfsame {
+
+namespace {
+
+QString tr(const char *text, int n = -1)
+{
+    return QCoreApplication::translate("TrashAlerts", text, nullptr, n);
+}
+
+} // namespace
+
+Alert putBackNote()
+{
+    return Alert{tr("Items moved to the Trash by Selfsame can be put back where they were."),
+                 tr("Use Actions › Put Back from Trash while these results are open, or restore them from the "
+                    "Trash in the file manager. A file from the Trash opened with Selfsame (even after a "
+                    "restart) is offered to be put back too."),
+                 {tr("Good to Know!")}};
+}
+
+TrashFailureCause trashFailureCause(const QString &path)
+{
+    if (trashFolderFor(path).isEmpty()) return TrashFailureCause::NoTrashFolder;
+    const QByteArray folder = pathBytes(parentFolder(path));
+    if (::access(folder.constData(), W_OK | X_OK) != 0) return TrashFailureCause::Permission;
+    return TrashFailureCause::Other;
+}
+
+std::optional<TrashFailureQuestion> trashFailureQuestion(const DeleteReport &report, const QList<ResultItem *> &targets,
+                                                          TrashFailureCause cause)
+{
+    // The engine's own alert knows which items were left alone and why; only its words about
+    // the trash and its offers are this desktop's.
+    const std::optional<Alert> engine = trashFailureAlert(report, targets);
+    if (!engine) return std::nullopt;
+    TrashFailureQuestion question;
+    Alert &alert = question.alert;
+    alert.message = targets.size() == 1
+                        ? tr("“%1” could not be moved to the Trash.").arg(displayName(targets.first()->path))
+                        : tr("%Ln file(s) could not be moved to the Trash.", report.removalFailures);
+    QString why;
+    switch (cause) {
+    case TrashFailureCause::NoTrashFolder:
+        why = tr("The drive “%1” has no trash folder that you may use. You can delete the files immediately "
+                 "instead, which cannot be undone.")
+                  .arg(displayPath(topDirectory(report.firstFailedPath)));
+        question.offers = {TrashFailureOffer::DeleteImmediately};
+        break;
+    case TrashFailureCause::Permission:
+        why = tr("You do not have permission to change the folder “%1”, so nothing can be moved out of it. Its "
+                 "owner or an administrator can give you that permission.")
+                  .arg(displayPath(parentFolder(report.firstFailedPath)));
+        question.offers = {TrashFailureOffer::ShowInFileManager};
+        break;
+    case TrashFailureCause::Other:
+        question.offers = {TrashFailureOffer::DeleteImmediately};
+        break;
+    }
+    // Files left alone because they changed since the search would be left alone by a deletion
+    // too: only OK is left to offer.
+    if (report.refused.size() >= report.removalFailures) question.offers.clear();
+    alert.informative = why.isEmpty() ? engine->informative
+                        : engine->informative.isEmpty() ? why
+                                                        : why + QStringLiteral("\n\n") + engine->informative;
+    alert.buttons = {tr("OK")};
+    for (TrashFailureOffer offer : std::as_const(question.offers)) {
+        if (offer == TrashFailureOffer::DeleteImmediately) {
+            alert.destructiveButton = int(alert.buttons.size());
+            alert.buttons.append(tr("Delete Immediately…"));
+        } else {
+            alert.buttons.append(tr("Show in File Manager"));
+        }
+    }
+    alert.defaultButton = 0;
+    alert.cancelButton = 0;
+    return question;
+}
+
+std::optional<Alert> putBackFromTrashFailure(const PutBackSummary &summary, const QList<ResultItem *> &targets)
+{
+    if (summary.failures == 0 || targets.isEmpty()) return std::nullopt;
+    const QString message = targets.size() == 1
+                                ? tr("“%1” could not be put back from the Trash.").arg(displayName(targets.first()->path))
+                                : tr("%1 could not be put back from the Trash.").arg(formatCount(summary.failures));
+    return Alert{message, summary.lastErrorText, {tr("Cancel")}, 0, 0};
+}
+
+Alert replacementSupportWarning(const Alert &check, int mode)
+{
+    Alert warning = check;
+    warning.message = mode == ReplaceWithClone
+                          ? tr("Clones may be unsupported on this volume")
+                          : tr("Hard links, desktop links or symbolic links may be unsupported on this volume");
+    warning.informative = mode == ReplaceWithClone
+                              ? tr("Only file systems that share storage between files, such as Btrfs, XFS or "
+                                   "bcachefs, can make clones.")
+                              : tr("Drives formatted as FAT, exFAT or NTFS, and network shares, may refuse links.");
+    return warning;
+}
+
+Alert replacementFailure(const Alert &failed, int mode)
+{
+    Alert alert = failed;
+    if (mode == ReplaceWithClone)
+        alert.informative = tr("Note: clones can only be made on the same volume, on a file system that shares "
+                               "storage between files (Btrfs, XFS, bcachefs).");
+    return alert;
+}
+
+Alert cloneAlertInDesktopWords(const Alert &alert)
+{
+    Alert said = alert;
+    if (alert.informative == noClonableFileAlert().informative)
+        said.informative = tr("The selection should contain at least two duplicate files.\n\nThe files should have "
+                              "write permission, they should not already be clones, and they should be on the same "
+                              "volume, on a file system that shares storage between files (Btrfs, XFS, bcachefs).");
+    else if (alert.informative == cloneConfirmationAlert(CloneCounts{}).informative)
+        said.informative = tr("Creation and modification dates, tags, extended attributes, permissions and other "
+                              "metadata will be kept. Clones take no disk space of their own until their contents "
+                              "change.");
+    return said;
+}
+
+} // namespace selfsame
