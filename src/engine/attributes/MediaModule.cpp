@@ -2,8 +2,10 @@
 
 #include <QtGlobal>
 
+#include <cstring>
 #include <dlfcn.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace selfsame
 {
@@ -65,24 +67,30 @@ struct MediaModule {
 // reads audio, video or image metadata, never by a content search.
 MediaModule loadMediaModule()
 {
-    const char *candidates[] = {SELFSAME_MEDIA_MODULE_BUILT, SELFSAME_MEDIA_MODULE_INSTALLED};
-    for (const char *path : candidates) {
-        struct stat st;
-        if (stat(path, &st) != 0)
-            continue;
-        void *handle = dlopen(path, RTLD_NOW | RTLD_LOCAL);
-        if (!handle) {
-            qWarning("Selfsame: cannot load %s: %s", path, dlerror());
-            continue;
-        }
-        MediaModule module;
-        module.media = reinterpret_cast<ReadValues>(dlsym(handle, "selfsameReadMediaValues"));
-        module.image = reinterpret_cast<ReadValues>(dlsym(handle, "selfsameReadImageValues"));
-        if (module.media && module.image)
-            return module;
-        dlclose(handle);
+    // A program run from its build folder takes the module built beside it; an installed one
+    // never looks into a build folder.
+    char self[4096] = {};
+    const ssize_t length = readlink("/proc/self/exe", self, sizeof self - 1);
+    const bool fromBuild = length > 0 && std::strncmp(self, SELFSAME_BUILD_DIR, std::strlen(SELFSAME_BUILD_DIR)) == 0;
+    const char *const path = fromBuild ? SELFSAME_MEDIA_MODULE_BUILT : SELFSAME_MEDIA_MODULE_INSTALLED;
+    struct stat st;
+    if (stat(path, &st) != 0) {
+        qWarning("Selfsame: the media metadata module %s is missing; audio, video and image values are not read",
+                 path);
+        return {};
     }
-    qWarning("Selfsame: the media metadata module is missing; audio, video and image values are not read");
+    void *handle = dlopen(path, RTLD_NOW | RTLD_LOCAL);
+    if (!handle) {
+        qWarning("Selfsame: cannot load %s: %s", path, dlerror());
+        return {};
+    }
+    MediaModule module;
+    module.media = reinterpret_cast<ReadValues>(dlsym(handle, "selfsameReadMediaValues"));
+    module.image = reinterpret_cast<ReadValues>(dlsym(handle, "selfsameReadImageValues"));
+    if (module.media && module.image)
+        return module;
+    qWarning("Selfsame: %s is not the media metadata module of this version", path);
+    dlclose(handle);
     return {};
 }
 
