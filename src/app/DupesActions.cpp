@@ -3,7 +3,7 @@
 #include "ActionSummary.h"
 #include "Alert.h"
 #include "CloneProgressWindow.h"
-#include "DeleteCommand.h"
+#include "fileops/DeleteCommand.h"
 #include "Desktop.h"
 #include "InterruptedActions.h"
 #include "SearchDefaults.h"
@@ -234,7 +234,7 @@ void DupesActions::replaceByClones()
 
     CloneActionUi ui;
     ui.ask = [this](const Alert &alert) {
-        return askAlert(m_window, QMessageBox::Warning, cloneAlertInDesktopWords(alert));
+        return askAlert(m_window, QMessageBox::Warning, alert);
     };
     ui.viewPlan = [this](const QString &path) { planViewer(path); };
     ui.beginPass = [this](bool perform) { m_progress->beginPass(perform); };

@@ -9,7 +9,7 @@
 #include "FocusRing.h"
 #include "ResultWindowFixture.h"
 #include "ResultsStatus.h"
-#include "DesktopAlerts.h"
+#include "fileops/DesktopAlerts.h"
 #include "WindowTitles.h"
 #include "fileops/CloneAlerts.h"
 #include "fileops/CloneWorker.h"
@@ -211,25 +211,17 @@ TEST(ResultWindowTexts, TrashFailuresSayWhyAndOfferWhatIsPossible)
     report.removalFailures = 0;
     EXPECT_FALSE(trashFailureQuestion(report, {item}, TrashFailureCause::Other));
     // The other alerts of the file commands keep their questions and buttons in Linux words.
-    const Alert linkWarning = replacementSupportWarning(
-        Alert{QStringLiteral("engine's words"), {}, {QStringLiteral("Cancel"), QStringLiteral("Continue Anyway")}, 0, 0},
-        ReplaceWithHardLink);
-    EXPECT_EQ(linkWarning.buttons, (QStringList{QStringLiteral("Cancel"), QStringLiteral("Continue Anyway")}));
-    EXPECT_TRUE(linkWarning.informative.contains(QStringLiteral("exFAT")));
-    const Alert cloneFailure = replacementFailure(
-        *postDeleteActionFailedForCount(2, ReplaceWithClone, QStringLiteral("/a/x"), QStringLiteral("/b/y")),
-        ReplaceWithClone);
-    EXPECT_EQ(cloneFailure.message, QStringLiteral("Creating a clone file of 2 files failed"));
+    const Alert cloneFailure =
+        *postDeleteActionFailedForCount(2, ReplaceWithClone, QStringLiteral("/a/x"), QStringLiteral("/b/y"));
+    EXPECT_EQ(cloneFailure.message, QStringLiteral("Creating a clone of 2 files failed"));
     CloneCounts counts;
     counts.replaceDuplicates = 3;
     counts.byClones = 2;
-    const Alert confirmation = cloneAlertInDesktopWords(cloneConfirmationAlert(counts));
-    EXPECT_EQ(confirmation.message, cloneConfirmationAlert(counts).message);
-    const Alert nothingToClone = cloneAlertInDesktopWords(noClonableFileAlert());
+    const Alert confirmation = cloneConfirmationAlert(counts);
+    const Alert nothingToClone = noClonableFileAlert();
     // No alert or tip speaks of another desktop's parts.
-    for (const Alert &alert : {putBackNote(), noTrash->alert, permission->alert, refused->alert, linkWarning,
-                               replacementSupportWarning(linkWarning, ReplaceWithClone), cloneFailure, confirmation,
-                               nothingToClone})
+    for (const Alert &alert : {putBackNote(), noTrash->alert, permission->alert, refused->alert, cloneFailure,
+                               confirmation, nothingToClone})
         for (const QString &word : {QStringLiteral("Bin"), QStringLiteral("Finder"), QStringLiteral("Dock"),
                                     QStringLiteral("APFS"), QStringLiteral("HFS")})
             EXPECT_FALSE((alert.message + alert.informative + alert.buttons.join(u' ')).contains(word))

@@ -36,7 +36,8 @@ Alert noClonableFileAlert()
     return Alert{
         tr("No file among the selection can be cloned"),
         tr("The selection should contain at least two duplicate files.\n\nThe files should have write "
-           "permission, they should not already be clone files, and they should be on the same APFS volume."),
+           "permission, they should not already be clones, and they should be on the same volume, on a file "
+           "system that shares storage between files (Btrfs, XFS, bcachefs)."),
         {tr("Cancel")},
         0,
         0};
@@ -61,8 +62,8 @@ Alert cloneConfirmationAlert(const CloneCounts &c)
     return Alert{
         tr("Do you want to replace %1, by %2 of %3? %4 on disk will be reclaimed.")
             .arg(what, clones, of, formatByteCount(c.ofPhysicalSize)),
-        tr("Creation and modification dates, Finder tags and comments, and other metadata will be preserved. "
-           "Clone files do not use disk space, until their contents gets changed."),
+        tr("Creation and modification dates, tags, extended attributes, permissions and other metadata will be "
+           "kept. Clones take no disk space of their own until their contents change."),
         {tr("Clone"), tr("Cancel"), tr("View Cloning Plan")},
         0,
         1};

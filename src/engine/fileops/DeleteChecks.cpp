@@ -124,14 +124,17 @@ CheckOutcome checkFilesystemForDeleteAction(int mode, const QStringList &urls)
         struct statfs fs {
         };
         if (statfs(pathBytes(url).constData(), &fs) != 0) continue;
-        QString message;
-        if (mode == ReplaceWithClone && !isCloneCapableFileSystem(long(fs.f_type)))
-            message = tr("Clone files may be unsupported on non APFS volumes");
-        else if (mode != ReplaceWithClone && !isLinkCapableFileSystem(long(fs.f_type)))
-            message =
-                tr("Hard links, aliases or symbolic links may be unsupported on non HFS+ or APFS volumes");
+        QString message, informative;
+        if (mode == ReplaceWithClone && !isCloneCapableFileSystem(long(fs.f_type))) {
+            message = tr("Clones may be unsupported on this volume");
+            informative = tr("Only file systems that share storage between files, such as Btrfs, XFS or bcachefs, "
+                             "can make clones.");
+        } else if (mode != ReplaceWithClone && !isLinkCapableFileSystem(long(fs.f_type))) {
+            message = tr("Hard links, desktop links or symbolic links may be unsupported on this volume");
+            informative = tr("Drives formatted as FAT, exFAT or NTFS, and network shares, may refuse links.");
+        }
         if (!message.isEmpty()) {
-            outcome.alert = Alert{message, {}, {tr("Cancel"), tr("Continue Anyway")}, 0, 0};
+            outcome.alert = Alert{message, informative, {tr("Cancel"), tr("Continue Anyway")}, 0, 0};
             outcome.proceedCode = kFirstButton + 1;
             break;
         }
@@ -151,7 +154,7 @@ std::optional<Alert> postDeleteActionFailedForCount(int failures, int mode, cons
     QString note;
     switch (mode) {
     case ReplaceWithAlias:
-        action = tr("Creating an alias");
+        action = tr("Creating a desktop link");
         break;
     case ReplaceWithSymbolicLink:
     case ReplaceWithRelativeSymbolicLink:
@@ -162,8 +165,8 @@ std::optional<Alert> postDeleteActionFailedForCount(int failures, int mode, cons
         note = tr("Note: hard links are only supported on the same volume.");
         break;
     case ReplaceWithClone:
-        action = tr("Creating a clone file");
-        note = tr("Note: clone files are only supported on the same APFS-formatted volume.");
+        action = tr("Creating a clone");
+        note = tr("Note: clones can only be made on the same volume, on a file system that shares storage between files (Btrfs, XFS, bcachefs).");
         break;
     default:
         break;
@@ -175,11 +178,11 @@ std::optional<Alert> trashFailureAlert(const DeleteReport &report, const QList<R
 {
     if (report.removalFailures == 0 || targets.isEmpty()) return std::nullopt;
     const QString message =
-        targets.size() == 1 ? tr("“%1” could not be put in the Bin.").arg(displayName(targets.first()->path))
-                            : tr("%1 files could not be put in the Bin.").arg(formatCount(report.removalFailures));
+        targets.size() == 1 ? tr("“%1” could not be moved to the Trash.").arg(displayName(targets.first()->path))
+                            : tr("%1 files could not be moved to the Trash.").arg(formatCount(report.removalFailures));
     return Alert{message,
                  withRefused(report.lastErrorText, report),
-                 {tr("OK"), tr("Delete Immediately…"), tr("Grant Access to Bin…")},
+                 {tr("OK"), tr("Delete Immediately…")},
                  0,
                  0,
                  1};
@@ -213,29 +216,6 @@ Alert deleteConfirmationAlert(const QList<ResultItem *> &targets)
         1,
         1,
         0};
-}
-
-Alert putBackTipAlert()
-{
-    return Alert{
-        tr("Note: you can’t use the Finder’s “Put Back” command to put back an item from the Bin to its "
-           "original location, when it has been deleted by this app.\n\nHowever, you can drag it at any time "
-           "from the Bin to this app’s icon in the Dock (even after a relaunch) to obtain the same "
-           "result.\n\n"
-           "You can also undo a recent operation by using “Put Back from Bin” from the File menu."),
-        {},
-        {tr("Good to Know!")}};
-}
-
-Alert grantTrashAccessAlert()
-{
-    return Alert{
-        tr("Please select the drive or volume containing the files, to grant access to its Bin; then try to "
-           "move to the Bin again"),
-        {},
-        {tr("Grant Access to Bin"), tr("Cancel")},
-        0,
-        1};
 }
 
 } // namespace selfsame

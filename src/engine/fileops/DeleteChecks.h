@@ -37,11 +37,8 @@ std::optional<Alert> postDeleteActionFailedForCount(int count, int mode, const Q
 // none failed. The singular form is used when exactly one row was targeted.
 std::optional<Alert> trashFailureAlert(const DeleteReport &report, const QList<ResultItem *> &targets);
 std::optional<Alert> deletionFailureAlert(const DeleteReport &report, const QList<ResultItem *> &targets);
-// The confirmation before an immediate deletion, and the one-time note before the first move
-// to the trash.
+// The confirmation before an immediate deletion.
 Alert deleteConfirmationAlert(const QList<ResultItem *> &targets);
-Alert putBackTipAlert();
-Alert grantTrashAccessAlert();
 
 // The name a file manager shows for a path: its last component, or the path itself for "/".
 QString displayName(const QString &path);

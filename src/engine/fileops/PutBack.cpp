@@ -39,7 +39,7 @@ PutBackResult moveBack(const QString &from, const QString &to)
 PutBackResult putBackItem(ResultItem &item, Journal *journal)
 {
     if (item.trashedURL().isEmpty() || item.has(Deleted))
-        return {ENOENT, tr("“%1” is not in the Bin.").arg(displayName(item.path))};
+        return {ENOENT, tr("“%1” is not in the Trash.").arg(displayName(item.path))};
     PutBackResult result = putBackFile(item.trashedURL(), item.path, journal);
     if (result.ok()) {
         removePutBackAttribute(item.path);
@@ -95,8 +95,8 @@ std::optional<Alert> putBackFailureAlert(const PutBackSummary &summary, const QL
     if (summary.failures == 0 || targets.isEmpty()) return std::nullopt;
     const QString message =
         targets.size() == 1
-            ? tr("“%1” could not be put back from the Bin.").arg(displayName(targets.first()->path))
-            : tr("%1 could not be put back from the Bin.")
+            ? tr("“%1” could not be put back from the Trash.").arg(displayName(targets.first()->path))
+            : tr("%1 could not be put back from the Trash.")
                   .arg(formatCount(summary.failures));
     return Alert{message, summary.lastErrorText, {tr("Cancel")}, 0, 0};
 }

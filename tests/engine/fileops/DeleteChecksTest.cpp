@@ -46,7 +46,7 @@ TEST(DeleteChecks, FileSystemWarningsFollowTheVolumeType)
     EXPECT_FALSE(checkFilesystemForDeleteAction(ReplaceWithNone, urls).alert);
     const CheckOutcome clone = checkFilesystemForDeleteAction(ReplaceWithClone, urls);
     ASSERT_TRUE(clone.alert);
-    EXPECT_EQ(clone.alert->message, QStringLiteral("Clone files may be unsupported on non APFS volumes"));
+    EXPECT_EQ(clone.alert->message, QStringLiteral("Clones may be unsupported on this volume"));
     EXPECT_TRUE(clone.proceedsWith(kFirstButton + 1));
     EXPECT_FALSE(
         checkFilesystemForDeleteAction(ReplaceWithClone, {tree.path(QStringLiteral("missing"))}).alert);
@@ -74,9 +74,9 @@ TEST(DeleteChecks, FailureTextsNameOneFileOrCount)
     DeleteReport report;
     report.removalFailures = 1;
     EXPECT_EQ(trashFailureAlert(report, {&a})->message,
-              QStringLiteral("“a.txt” could not be put in the Bin."));
+              QStringLiteral("“a.txt” could not be moved to the Trash."));
     EXPECT_EQ(trashFailureAlert(report, {&a, &b})->message,
-              QStringLiteral("1 files could not be put in the Bin."));
+              QStringLiteral("1 files could not be moved to the Trash."));
     EXPECT_EQ(deletionFailureAlert(report, {&a, &b})->message,
               QStringLiteral("1 files could not be deleted immediately."));
     EXPECT_FALSE(deletionFailureAlert(DeleteReport{}, {&a}));

@@ -182,7 +182,7 @@ TEST_F(Trash, PuttingBackItemsPassesOverTheOthersAndCountsFailures)
     EXPECT_FALSE(occupied.trashedURL().isEmpty()) << "still marked as trashed";
     EXPECT_FALSE(QFile::exists(deleted.path));
     EXPECT_EQ(putBackFailureAlert(summary, {&occupied})->message,
-              QStringLiteral("“occupied” could not be put back from the Bin."));
+              QStringLiteral("“occupied” could not be put back from the Trash."));
     EXPECT_EQ(putBackFailureAlert(summary, {&moved, &occupied})->message,
-              QStringLiteral("1 could not be put back from the Bin."));
+              QStringLiteral("1 could not be put back from the Trash."));
 }

@@ -39,13 +39,5 @@ std::optional<TrashFailureQuestion> trashFailureQuestion(const DeleteReport &rep
 // After putting items back from the trash failed for some of them; nullopt when none failed.
 std::optional<Alert> putBackFromTrashFailure(const PutBackSummary &summary, const QList<ResultItem *> &targets);
 
-// The warning that this volume may not hold the replacement of `mode` (the check decides
-// whether to warn; this says it in terms of Linux file systems).
-Alert replacementSupportWarning(const Alert &check, int mode);
-// After replacements failed: what could not be made, and where it can be made.
-Alert replacementFailure(const Alert &failed, int mode);
-// The questions of Replace by Clones, with the notes about file systems and kept metadata said
-// as they are on Linux; any other alert as it is.
-Alert cloneAlertInDesktopWords(const Alert &alert);
 
 } // namespace selfsame

@@ -1,11 +1,25 @@
 #pragma once
 
-#include "DesktopAlerts.h"
-#include "fileops/DeleteFlow.h"
+#include "fileops/DeleteActions.h"
+#include "fileops/DeleteChecks.h"
+#include "fileops/DesktopAlerts.h"
 
 #include <functional>
 
 namespace selfsame {
+
+class Journal;
+
+// A move to the trash or an immediate deletion as the user asked for it.
+struct DeleteActionRequest {
+    DeleteKind kind = DeleteKind::Trash;
+    int mode = 0;                    // the ReplaceWithMode in force
+    ResultItem *reference = nullptr; // the kept file, when acting on the bottom list
+    QList<ResultItem *> targets;     // in row order
+    DuplicatesFor duplicatesFor;
+    Journal *journal = nullptr;  // where every step is recorded before it begins
+    bool showPutBackTip = false; // the one-time note about putting back has not been shown yet
+};
 
 // How a results window presents the questions of Move to Trash and Delete Immediately.
 struct DeleteCommandUi {

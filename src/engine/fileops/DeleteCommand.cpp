@@ -1,4 +1,4 @@
-#include "DeleteCommand.h"
+#include "fileops/DeleteCommand.h"
 
 namespace selfsame {
 
@@ -7,12 +7,6 @@ namespace {
 bool proceeds(const CheckOutcome &check, const DeleteCommandUi &ui)
 {
     return !check.alert || check.proceedsWith(ui.ask(*check.alert));
-}
-
-CheckOutcome inDesktopWords(CheckOutcome check, int mode)
-{
-    if (check.alert) check.alert = replacementSupportWarning(*check.alert, mode);
-    return check;
 }
 
 } // namespace
@@ -29,7 +23,7 @@ DeleteCommandResult runDeleteCommand(const DeleteActionRequest &request, const D
         paths.append(item->path);
     if (!proceeds(checkReferenceItem(request.mode, request.reference, request.targets), ui) ||
         !proceeds(doesItemsContainsAllDupesOfAnyItem(request.targets, paths, request.duplicatesFor), ui) ||
-        !proceeds(inDesktopWords(checkFilesystemForDeleteAction(request.mode, paths), request.mode), ui))
+        !proceeds(checkFilesystemForDeleteAction(request.mode, paths), ui))
         return result;
     if (request.kind == DeleteKind::Delete && ui.ask(deleteConfirmationAlert(request.targets)) != kFirstButton)
         return result;
@@ -59,7 +53,7 @@ DeleteCommandResult runDeleteCommand(const DeleteActionRequest &request, const D
     }
     if (const auto failed = postDeleteActionFailedForCount(report.replacementFailures, request.mode,
                                                            report.lastReference, report.lastDeleted))
-        ui.ask(replacementFailure(*failed, request.mode));
+        ui.ask(*failed);
     return result;
 }
 

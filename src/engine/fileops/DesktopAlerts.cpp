@@ -1,4 +1,4 @@
-#include "DesktopAlerts.h"
+#include "fileops/DesktopAlerts.h"
 
 #include "fileops/CloneAlerts.h"
 #include "fileops/DeleteChecks.h"
@@ -96,42 +96,6 @@ std::optional<Alert> putBackFromTrashFailure(const PutBackSummary &summary, cons
                                 ? tr("“%1” could not be put back from the Trash.").arg(displayName(targets.first()->path))
                                 : tr("%1 could not be put back from the Trash.").arg(formatCount(summary.failures));
     return Alert{message, summary.lastErrorText, {tr("Cancel")}, 0, 0};
-}
-
-Alert replacementSupportWarning(const Alert &check, int mode)
-{
-    Alert warning = check;
-    warning.message = mode == ReplaceWithClone
-                          ? tr("Clones may be unsupported on this volume")
-                          : tr("Hard links, desktop links or symbolic links may be unsupported on this volume");
-    warning.informative = mode == ReplaceWithClone
-                              ? tr("Only file systems that share storage between files, such as Btrfs, XFS or "
-                                   "bcachefs, can make clones.")
-                              : tr("Drives formatted as FAT, exFAT or NTFS, and network shares, may refuse links.");
-    return warning;
-}
-
-Alert replacementFailure(const Alert &failed, int mode)
-{
-    Alert alert = failed;
-    if (mode == ReplaceWithClone)
-        alert.informative = tr("Note: clones can only be made on the same volume, on a file system that shares "
-                               "storage between files (Btrfs, XFS, bcachefs).");
-    return alert;
-}
-
-Alert cloneAlertInDesktopWords(const Alert &alert)
-{
-    Alert said = alert;
-    if (alert.informative == noClonableFileAlert().informative)
-        said.informative = tr("The selection should contain at least two duplicate files.\n\nThe files should have "
-                              "write permission, they should not already be clones, and they should be on the same "
-                              "volume, on a file system that shares storage between files (Btrfs, XFS, bcachefs).");
-    else if (alert.informative == cloneConfirmationAlert(CloneCounts{}).informative)
-        said.informative = tr("Creation and modification dates, tags, extended attributes, permissions and other "
-                              "metadata will be kept. Clones take no disk space of their own until their contents "
-                              "change.");
-    return said;
 }
 
 } // namespace selfsame
