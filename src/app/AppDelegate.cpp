@@ -8,6 +8,7 @@
 #include "LocalFiles.h"
 #include "LocationsModel.h"
 #include "LocationsView.h"
+#include "UndoCommands.h"
 #include "PutBackDialogue.h"
 #include "ResultsFileDialogs.h"
 #include "SearchDefaults.h"
@@ -168,6 +169,8 @@ void AppDelegate::buildMenus()
         m_revealAction->setEnabled(rows);
     });
     m_sourcesTable->setContextMenu(contextMenu);
+
+    UndoCommands::instance().addTo(menuBar()->addMenu(tr("&Edit")), this);
 
     QMenu *helpMenu = menuBar()->addMenu(tr("&Help"));
     helpMenu->addAction(tr("&Welcome to [NSApp]"), this, &AppDelegate::welcome);

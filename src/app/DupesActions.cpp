@@ -3,7 +3,9 @@
 #include "ActionSummary.h"
 #include "Alert.h"
 #include "CloneProgressWindow.h"
+#include "UndoCommands.h"
 #include "fileops/DeleteCommand.h"
+#include "fileops/ItemSafety.h"
 #include "Desktop.h"
 #include "InterruptedActions.h"
 #include "SearchDefaults.h"
@@ -13,6 +15,7 @@
 #include "fileops/PutBack.h"
 
 #include <QAction>
+#include <QSet>
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
@@ -64,6 +67,7 @@ DupesActions::DupesActions(QWidget *window, ResultModel &model, Settings &settin
     connect(m_replaceWithPopup, &QComboBox::activated, this, &DupesActions::chooseReplaceWith);
 
     m_progress = new CloneProgressWindow(window);
+    connect(&UndoCommands::instance(), &UndoCommands::filesGivenBack, this, &DupesActions::filesGivenBack);
     qApp->installEventFilter(this);
     updateActions();
 }
@@ -198,6 +202,24 @@ void DupesActions::runDeleteAction(bool trash)
         Q_EMIT modelChanged();
         Q_EMIT actionSummarized(deleteSummary(result.outcomes));
     }
+    updateActions();
+}
+
+void DupesActions::filesGivenBack(const QStringList &paths)
+{
+    const QSet<QString> given(paths.cbegin(), paths.cend());
+    int count = 0;
+    for (ResultItem *item : m_model.mainItems()) {
+        if (!given.contains(item->path)) continue;
+        item->setTrashedURL({});
+        item->set(Deleted, false);
+        item->setStatusImage({});
+        recordCurrentState(*item); // the file at the path now, for the checks of the next action
+        ++count;
+    }
+    if (count == 0) return;
+    Q_EMIT modelChanged();
+    Q_EMIT actionSummarized(tr("Undone: %n file(s) given back.", nullptr, count));
     updateActions();
 }
 

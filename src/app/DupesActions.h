@@ -59,6 +59,9 @@ public:
     void putBack();
     void replaceByClones();
     void viewClonePlan();
+    // An undo gave these paths back what they held before an action: their items are no longer
+    // marked as trashed, deleted or replaced.
+    void filesGivenBack(const QStringList &paths);
 
     // Opens a plan file; tests replace it.
     std::function<void(const QString &path)> planViewer;

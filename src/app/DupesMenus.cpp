@@ -11,6 +11,7 @@
 #include "ResultTableModel.h"
 #include "ResultsFileDialogs.h"
 #include "Settings.h"
+#include "UndoCommands.h"
 #include "LocationsModel.h"
 #include "attributes/MetadataReader.h"
 #include "names/FileNames.h"
@@ -96,6 +97,7 @@ void Dupes::buildMenus()
     file->addAction(tr("&Close Window"), QKeySequence::Close, this, &QWidget::close);
 
     QMenu *edit = menuBar()->addMenu(tr("&Edit"));
+    UndoCommands::instance().addTo(edit, this);
     edit->addAction(tr("&Filter…"), QKeySequence::Find, this, [this] { m_filterBar->textField()->setFocus(); });
 
     QMenu *view = menuBar()->addMenu(tr("&View"));

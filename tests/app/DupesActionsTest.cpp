@@ -7,6 +7,7 @@
 #include "ResultActionsWiring.h"
 #include "SearchDefaults.h"
 #include "Settings.h"
+#include "UndoCommands.h"
 #include "support/FileItems.h"
 #include "support/MountedVolume.h"
 #include "support/TempTree.h"
@@ -357,3 +358,38 @@ INSTANTIATE_TEST_SUITE_P(FileSystems, CloneActionsOn, ::testing::Values("btrfs",
                          [](const auto &info) { return std::string(info.param); });
 
 } // namespace
+
+TEST_F(DupesActionsTest, EditUndoPutsBackWhatTheLastActionMovedAndTheWindowForgetsItsMark)
+{
+    const QString a = tree.file(QStringLiteral("a.bin"), content);
+    const QString b = tree.file(QStringLiteral("b.bin"), content);
+    load(tree.path(), {{QStringLiteral("a.bin"), 0}, {QStringLiteral("b.bin"), 0}});
+    settings.setValue(QStringLiteral("put back tip shown"), true);
+    targetBottom(item(a), item(b));
+    actions->moveToTrash();
+    ASSERT_FALSE(exists(b));
+    ASSERT_FALSE(item(b)->trashedURL().isEmpty());
+
+    QMenu edit;
+    UndoCommands::instance().addTo(&edit, &window);
+    Q_EMIT edit.aboutToShow();
+    QAction *undo = edit.actions().first();
+    EXPECT_EQ(undo->text(), QStringLiteral("&Undo Moved to the trash"));
+    ASSERT_TRUE(undo->isEnabled());
+    asked.clear();
+    const int before = changes->count();
+    undo->trigger();
+    EXPECT_TRUE(exists(b));
+    EXPECT_EQ(asked, QStringList{QStringLiteral("“Moved to the trash” was undone")});
+    EXPECT_TRUE(item(b)->trashedURL().isEmpty());
+    EXPECT_TRUE(item(b)->statusImage().isEmpty());
+    EXPECT_GT(changes->count(), before);
+
+    // The history, newest first, shows the action as undone and no longer offers it.
+    Q_EMIT edit.aboutToShow();
+    QAction *newest = edit.actions().at(1)->menu()->actions().first();
+    EXPECT_TRUE(newest->text().startsWith(QStringLiteral("Undid action"))) << newest->text().toStdString();
+    QAction *ours = edit.actions().at(1)->menu()->actions().at(1);
+    EXPECT_TRUE(ours->text().endsWith(QStringLiteral("— undone"))) << ours->text().toStdString();
+    EXPECT_FALSE(ours->isEnabled());
+}
