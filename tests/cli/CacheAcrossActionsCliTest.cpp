@@ -1,10 +1,8 @@
 // The digest cache stays current across Selfsame's own actions: files whose content an action
 // kept, but whose change time or inode it moved, are not read again by the next search.
 
-#include "cli/CliProcess.h"
+#include "cli/CliOnVolume.h"
 #include "support/ByteFiles.h"
-#include "support/MountedVolume.h"
-#include "support/TempTree.h"
 
 #include <QThread>
 #include <gtest/gtest.h>
@@ -13,23 +11,9 @@
 namespace
 {
 
-class CacheAcrossActions : public ::testing::TestWithParam<const char *>
+class CacheAcrossActions : public CliOnVolume
 {
 protected:
-    void SetUp() override
-    {
-        if (QString::fromUtf8(GetParam()) == u"root") {
-            root = tree.path(QStringLiteral("files"));
-        } else {
-            if (const QString why = volume.mount(); !why.isEmpty()) GTEST_SKIP() << why.toStdString();
-            root = volume.path();
-        }
-        const QString home = tree.path(QStringLiteral("home"));
-        environment.insert(QStringLiteral("XDG_CACHE_HOME"), home + QStringLiteral("/cache"));
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/data"));
-        environment.insert(QStringLiteral("XDG_STATE_HOME"), home + QStringLiteral("/state"));
-    }
-
     // The value of one line of --summary, as "bytes read: N".
     static QByteArray summaryLine(const QByteArray &err, const QByteArray &name)
     {
@@ -38,17 +22,13 @@ protected:
         return {};
     }
 
-    TempTree tree;
-    MountedVolume volume{QString::fromUtf8(GetParam())};
-    QString root;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
 };
 
 } // namespace
 
 TEST_P(CacheAcrossActions, FilesKeptByAnActionAreNotReadAgain)
 {
-    const bool clones = QString::fromUtf8(GetParam()) == u"btrfs";
+    const bool clones = type() == u"btrfs"; // one file system that clones is enough here
     std::vector<QStringList> actions{{"--delete", "--replace-with", "hardlink"}};
     if (clones) {
         actions.push_back({"--replace-with", "clone"});         // the kernel's dedupe: same inodes

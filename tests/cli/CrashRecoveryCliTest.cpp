@@ -1,7 +1,7 @@
 // selfsame-cli killed between any two steps of an action, then `selfsame-cli recover`: nothing
 // is lost and nothing of ours is left lying about, on every file system the tests may mount.
 
-#include "cli/CliProcess.h"
+#include "cli/CliOnVolume.h"
 #include "support/ByteFiles.h"
 #include "support/MountedVolume.h"
 #include "support/TempTree.h"
@@ -14,19 +14,6 @@
 
 namespace
 {
-
-// Every entry below `folder`, relative to it, trash folders left out.
-QSet<QString> entriesBelow(const QString &folder)
-{
-    QSet<QString> entries;
-    QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString relative = it.next().mid(folder.size() + 1);
-        if (!relative.startsWith(QStringLiteral(".Trash"))) entries.insert(relative);
-    }
-    return entries;
-}
 
 // Every record of a trash has its file and every file its record.
 void expectWholeTrash(const QString &trash)

@@ -2,13 +2,9 @@
 // they were, metadata included; changed files are refused; an undo killed at any step is
 // finished or rolled back by recovery. On every file system the tests may mount.
 
-#include "cli/CliProcess.h"
+#include "cli/CliOnVolume.h"
 #include "support/ByteFiles.h"
-#include "support/MountedVolume.h"
-#include "support/TempTree.h"
 
-#include <QDirIterator>
-#include <QSet>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/fiemap.h>
@@ -20,18 +16,6 @@
 
 namespace
 {
-
-QSet<QString> entriesBelow(const QString &folder)
-{
-    QSet<QString> entries;
-    QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString relative = it.next().mid(folder.size() + 1);
-        if (!relative.startsWith(QStringLiteral(".Trash"))) entries.insert(relative);
-    }
-    return entries;
-}
 
 // Whether any extent of the file is shared with another file.
 bool sharesStorage(const QString &path)
@@ -60,29 +44,9 @@ struct stat statOf(const QString &path)
     return st;
 }
 
-class Undo : public ::testing::TestWithParam<const char *>
+class Undo : public CliOnVolume
 {
 protected:
-    void SetUp() override
-    {
-        if (QString::fromUtf8(GetParam()) == u"root") {
-            root = tree.path(QStringLiteral("files"));
-        } else {
-            if (const QString why = volume.mount(); !why.isEmpty()) GTEST_SKIP() << why.toStdString();
-            root = volume.path();
-        }
-        const QString home = tree.path(QStringLiteral("home"));
-        environment.insert(QStringLiteral("HOME"), home);
-        environment.insert(QStringLiteral("XDG_DATA_HOME"), home + QStringLiteral("/data"));
-        environment.insert(QStringLiteral("XDG_STATE_HOME"), home + QStringLiteral("/state"));
-    }
-
-    bool clones() const
-    {
-        const QString type = QString::fromUtf8(GetParam());
-        return type == u"btrfs" || type == u"xfs";
-    }
-
     // keep/a.bin and its copy old/b.bin, which has metadata of its own to give back.
     QString makeTree(const QString &name)
     {
@@ -135,10 +99,6 @@ protected:
         return entries;
     }
 
-    TempTree tree;
-    MountedVolume volume{QString::fromUtf8(GetParam())};
-    QString root;
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     const QByteArray content = patternBytes(70000, 61);
     bool hasXattr = false;
 };
