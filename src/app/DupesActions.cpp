@@ -4,6 +4,7 @@
 #include "Alert.h"
 #include "CloneProgressWindow.h"
 #include "UndoCommands.h"
+#include "fileops/CachedDigestsCarrier.h"
 #include "fileops/DeleteCommand.h"
 #include "fileops/ItemSafety.h"
 #include "Desktop.h"
@@ -12,6 +13,7 @@
 #include "Settings.h"
 #include "fileops/CloneFlow.h"
 #include "journal/Journal.h"
+#include "search/DuplicateSearch.h"
 #include "fileops/PutBack.h"
 
 #include <QAction>
@@ -195,14 +197,35 @@ void DupesActions::runDeleteAction(bool trash)
     DeleteCommandUi ui;
     ui.ask = [this](const Alert &alert) { return askAlert(m_window, QMessageBox::Warning, alert).code; };
     ui.showInFileManager = [](const QString &path) { revealInFileManager({path}); };
+    const CachedDigestsCarrier carrier(groupsOf(request.targets));
     const DeleteCommandResult result = runDeleteCommand(request, ui);
     if (result.putBackNoteShown)
         m_settings.setValue(kPutBackTipShown, true);
     if (result.performed) {
+        keepDigestCacheCurrent(carrier);
         Q_EMIT modelChanged();
         Q_EMIT actionSummarized(deleteSummary(result.outcomes));
     }
     updateActions();
+}
+
+QList<ResultItem *> DupesActions::groupsOf(const QList<ResultItem *> &items) const
+{
+    QList<ResultItem *> members;
+    QSet<int> groups;
+    for (ResultItem *item : items)
+        if (!groups.contains(item->group)) {
+            groups.insert(item->group);
+            members += m_model.duplicatesFor(*item);
+        }
+    return members;
+}
+
+void DupesActions::keepDigestCacheCurrent(const CachedDigestsCarrier &carrier) const
+{
+    if (DuplicateSearch::digestCachePath().isEmpty()) return;
+    DigestCache cache(DuplicateSearch::digestCachePath());
+    if (cache.isOpen()) carrier.carryOver(cache);
 }
 
 void DupesActions::filesGivenBack(const QStringList &paths)
@@ -229,7 +252,9 @@ void DupesActions::putBack()
     if (!recoverInterruptedActions(journal, m_window))
         return;
     const QList<ResultItem *> items = targets().items;
+    const CachedDigestsCarrier carrier(items);
     const PutBackSummary summary = putBackItems(items, &journal);
+    if (!summary.putBack.isEmpty()) keepDigestCacheCurrent(carrier);
     if (const auto failed = putBackFromTrashFailure(summary, items))
         askAlert(m_window, QMessageBox::Warning, *failed);
     Q_EMIT modelChanged();
@@ -262,12 +287,14 @@ void DupesActions::replaceByClones()
     ui.beginPass = [this](bool perform) { m_progress->beginPass(perform); };
     ui.progress = [this](int index, int count) { return m_progress->step(index, count); };
     ui.endPass = [this] { m_progress->endPass(); };
+    const CachedDigestsCarrier carrier(groupsOf(request.targets.size() < 2 ? request.mainItems : request.targets));
     const CloneActionResult result = runCloneAction(request, ui);
     for (auto it = result.doNotShowAgain.begin(); it != result.doNotShowAgain.end(); ++it)
         m_settings.setDictionaryValue(key::doNotShowAgain, it.key(), it.value());
     if (!result.planPath.isEmpty())
         m_planPath = result.planPath;
     if (result.performed) {
+        keepDigestCacheCurrent(carrier);
         Q_EMIT modelChanged();
         Q_EMIT actionSummarized(cloneSummary(result.cloned));
     }

@@ -14,6 +14,8 @@ class QWidget;
 
 namespace selfsame {
 
+class CachedDigestsCarrier;
+
 class CloneProgressWindow;
 class Settings;
 
@@ -78,6 +80,10 @@ protected:
 
 private:
     void runDeleteAction(bool trash);
+    // Every copy of the items' groups, the items included.
+    QList<ResultItem *> groupsOf(const QList<ResultItem *> &items) const;
+    // Files whose content an action kept are not read again by the next search.
+    void keepDigestCacheCurrent(const CachedDigestsCarrier &carrier) const;
     ResultItem *referenceFor(const Targets &targets) const;
     void updateTitle(QAction *action, const QString &base);
 

@@ -17,9 +17,12 @@ DigestKey digestKeyOf(const ResultItem &item, bool headerSkipped)
 
 CachedDigestsCarrier::CachedDigestsCarrier(const QList<ResultItem *> &items)
 {
-    for (ResultItem *item : items)
-        if (!item->has(IsFolder) && !isGone(*item) && item->modifiedNsec >= 0 && item->changedNsec >= 0)
+    for (ResultItem *item : items) {
+        // A file in the trash may come back: put back, it keeps its content.
+        const bool present = !isGone(*item) || (!item->trashedURL().isEmpty() && !item->has(Deleted));
+        if (!item->has(IsFolder) && present && item->modifiedNsec >= 0 && item->changedNsec >= 0)
             m_before.insert(item, digestKeyOf(*item));
+    }
 }
 
 int CachedDigestsCarrier::carryOver(DigestCache &cache) const

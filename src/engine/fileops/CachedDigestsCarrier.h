@@ -17,7 +17,8 @@ namespace selfsame
 class CachedDigestsCarrier
 {
 public:
-    // The keys of the items as they are now, before the action.
+    // The keys of the items as they are now, before the action (of items in the trash, as
+    // they were before they went).
     explicit CachedDigestsCarrier(const QList<ResultItem *> &items);
 
     // The items whose content the action kept (untouched, hard linked, cloned or put back)
