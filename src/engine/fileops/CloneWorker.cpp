@@ -3,6 +3,7 @@
 #include "fileops/CloneItem.h"
 #include "fileops/Dedupe.h"
 #include "fileops/DeleteActions.h"
+#include "fileops/ErrorText.h"
 #include "fileops/ItemSafety.h"
 #include "format/ByteSize.h"
 #include "journal/Journal.h"
@@ -16,7 +17,6 @@
 #include <cerrno>
 #include <csignal>
 #include <limits>
-#include <cstring>
 #include <fcntl.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
@@ -33,11 +33,6 @@ namespace
 QString tr(const char *text)
 {
     return QCoreApplication::translate("CloneWorker", text);
-}
-
-QString errorText(int error)
-{
-    return QString::fromLocal8Bit(std::strerror(error));
 }
 
 void clearInodeFlags(const QString &path)

@@ -2,6 +2,7 @@
 
 #include "autoselect/AutoSelectRules.h"
 #include "fileops/CloneItem.h"
+#include "fileops/ErrorText.h"
 #include "fileops/FSMetadata.h"
 #include "fileops/ItemSafety.h"
 #include "fileops/Replacement.h"
@@ -14,18 +15,12 @@
 #include <unistd.h>
 #include <QSet>
 #include <QUuid>
-#include <cstring>
 
 namespace selfsame
 {
 
 namespace
 {
-
-QString errorText(int error)
-{
-    return QString::fromLocal8Bit(std::strerror(error));
-}
 
 // Removes the file with no replacement. Returns the error text, empty on success. A deletion
 // first moves the file aside, so that one killed halfway through a folder can be finished.

@@ -1,5 +1,6 @@
 #include "fileops/ItemSafety.h"
 
+#include "fileops/ErrorText.h"
 #include "fileops/FSMetadata.h"
 #include "names/FileNames.h"
 #include "search/Digest.h"
@@ -134,7 +135,7 @@ QString changedSinceSearch(const ResultItem &item)
     struct stat st {
     };
     if (lstat(bytes(item.path).constData(), &st) != 0)
-        return tr("“%1” is gone: %2").arg(shown(item.path), QString::fromLocal8Bit(std::strerror(errno)));
+        return tr("“%1” is gone: %2").arg(shown(item.path), errorText(errno));
     if (item.inode != 0 && (quint64(st.st_ino) != item.inode || quint64(st.st_dev) != item.device))
         return tr("“%1” is no longer the file the search found: another file stands at its path")
             .arg(shown(item.path));
@@ -171,7 +172,7 @@ QString keptCopyProblem(const ResultItem &item, const ResultItem &kept, bool com
     }, ks{}, kt{};
     if (lstat(itemPath.constData(), &is) != 0 || lstat(keptPath.constData(), &ks) != 0)
         return tr("“%1” or its kept copy “%2” could not be looked at: %3")
-            .arg(shown(item.path), shown(kept.path), QString::fromLocal8Bit(std::strerror(errno)));
+            .arg(shown(item.path), shown(kept.path), errorText(errno));
     struct stat ip {
     }, kp{};
     const bool sameEntry =

@@ -2,18 +2,18 @@
 
 #include "fileops/CloneItem.h"
 #include "fileops/DeleteChecks.h"
+#include "fileops/ErrorText.h"
 #include "fileops/FSMetadata.h"
 #include "fileops/ItemSafety.h"
 #include "fileops/Trash.h"
-#include "names/FileNames.h"
 #include "format/Formatters.h"
 #include "journal/Journal.h"
+#include "names/FileNames.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <unistd.h>
 #include <cerrno>
-#include <cstring>
 
 namespace selfsame
 {
@@ -30,7 +30,7 @@ PutBackResult moveBack(const QString &from, const QString &to)
 {
     PutBackResult result;
     result.error = renameNoReplace(from, to);
-    if (result.error) result.errorText = QString::fromLocal8Bit(std::strerror(result.error));
+    if (result.error) result.errorText = errorText(result.error);
     return result;
 }
 

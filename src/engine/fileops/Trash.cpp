@@ -1,6 +1,7 @@
 #include "fileops/Trash.h"
 
 #include "fileops/CloneItem.h"
+#include "fileops/ErrorText.h"
 #include "journal/Journal.h"
 #include "names/FileNames.h"
 
@@ -124,11 +125,6 @@ int claimInfoFile(const QString &trash, const QString &name, QString *chosen)
         if (errno != EEXIST) return errno;
     }
     return EEXIST;
-}
-
-QString errorText(int error)
-{
-    return QString::fromLocal8Bit(std::strerror(error));
 }
 
 // The content of a small file (a trash record), empty when it cannot be read.

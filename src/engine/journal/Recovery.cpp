@@ -3,6 +3,7 @@
 #include "fileops/CloneItem.h"
 #include "fileops/CloneWorker.h"
 #include "fileops/DeleteActions.h"
+#include "fileops/ErrorText.h"
 #include "fileops/FSMetadata.h"
 #include "fileops/Trash.h"
 #include "names/FileNames.h"
@@ -90,7 +91,7 @@ QString rollBack(const JournalStep &step)
             return QCoreApplication::translate("Recovery",
                                                "the replacement at its path could not be removed");
         if (const int error = renameNoReplace(from, step.path))
-            return QString::fromLocal8Bit(std::strerror(error));
+            return errorText(error);
         if (trash) {
             removePutBackAttribute(step.path);
             unlink(pathBytes(trashInfoPathFor(from)).constData());

@@ -2,6 +2,7 @@
 
 #include "fileops/CloneItem.h"
 #include "fileops/DeleteActions.h"
+#include "fileops/ErrorText.h"
 #include "fileops/FSMetadata.h"
 #include "fileops/PutBack.h"
 #include "fileops/Replacement.h"
@@ -14,7 +15,6 @@
 #include <QLocale>
 #include <QHash>
 #include <algorithm>
-#include <cstring>
 #include <sys/stat.h>
 #include <sys/statvfs.h>
 #include <unistd.h>
@@ -28,11 +28,6 @@ namespace
 QString tr(const char *text)
 {
     return QCoreApplication::translate("Undo", text);
-}
-
-QString errorText(int error)
-{
-    return QString::fromLocal8Bit(std::strerror(error));
 }
 
 bool exists(const QString &path)
