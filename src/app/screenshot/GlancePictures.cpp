@@ -5,26 +5,18 @@
 #include "DupesActions.h"
 #include "OverviewWindow.h"
 #include "ResultListView.h"
+#include "SearchedWindow.h"
 #include "Settings.h"
 
 #include <QAction>
 #include <QApplication>
-#include <QEventLoop>
 #include <QFile>
 #include <QPalette>
 #include <QStyle>
-#include <QTimer>
 
 namespace selfsame {
 
 namespace {
-
-void settle(int ms)
-{
-    QEventLoop loop;
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 QPalette darkPalette()
 {
@@ -51,15 +43,8 @@ QPalette darkPalette()
 
 Dupes *searched(Settings &settings, const QStringList &locations)
 {
-    auto *dupes = new Dupes(settings);
-    dupes->setAttribute(Qt::WA_DeleteOnClose, false);
-    dupes->show(); // the window's default size: what a user meets first
-    SearchRequest request;
-    request.searchInFolderURLs = locations;
-    QEventLoop loop;
-    QObject::connect(dupes, &Dupes::finishedSearching, &loop, &QEventLoop::quit);
-    dupes->searchInFolderURLs(request);
-    loop.exec();
+    // The window's default size: what a user meets first.
+    Dupes *dupes = searchedWindow(settings, DetectionMode::Content, locations);
     dupes->changeListSize(32);
     dupes->activateWindow();
     settle(200);

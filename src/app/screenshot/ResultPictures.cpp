@@ -5,6 +5,7 @@
 #include "FilterBar.h"
 #include "ResultListView.h"
 #include "ResultTableModel.h"
+#include "SearchedWindow.h"
 #include "Settings.h"
 #include "results/ResultsFile.h"
 
@@ -14,8 +15,6 @@
 #include <QFile>
 #include <QLineEdit>
 #include <QPainter>
-#include <QEventLoop>
-#include <QTimer>
 
 #include <cstring>
 #include <sys/xattr.h>
@@ -24,12 +23,7 @@ namespace selfsame {
 
 namespace {
 
-void settle(int ms)
-{
-    QEventLoop loop;
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-    loop.exec();
-}
+constexpr QSize kWindowSize(1180, 640);
 
 // A photo-like picture: a gradient with a few shapes, different for every seed.
 void writePicture(const QString &path, int seed, int width, int height)
@@ -97,24 +91,6 @@ QString makeSamples(const QString &scratch)
     return scratch;
 }
 
-Dupes *search(Settings &settings, DetectionMode mode, const QStringList &locations, const QString &attribute = {})
-{
-    auto *dupes = new Dupes(settings);
-    dupes->setAttribute(Qt::WA_DeleteOnClose, false);
-    dupes->resize(1180, 640);
-    dupes->show();
-    SearchRequest request;
-    request.searchInFolderURLs = locations;
-    request.detectionMode = mode;
-    request.spotlightAttribute = attribute;
-    request.durationTolerance = 0.1;
-    QEventLoop loop;
-    QObject::connect(dupes, &Dupes::finishedSearching, &loop, &QEventLoop::quit);
-    dupes->searchInFolderURLs(request);
-    loop.exec();
-    return dupes;
-}
-
 void selectRow(Dupes *dupes, int row)
 {
     ResultListView *top = dupes->mainList();
@@ -140,21 +116,21 @@ void drawResultWindows(Settings &settings, const QString &corpus, const QString 
     const QString photos = samples + QStringLiteral("/Photos");
     const QString sounds = samples + QStringLiteral("/Sounds");
 
-    Dupes *content = search(settings, DetectionMode::Content, {photos, corpus});
+    Dupes *content = searchedWindow(settings, DetectionMode::Content, {photos, corpus}, {}, kWindowSize);
     content->changeListSize(32);
     selectRow(content, 0);
     save(content, output, QStringLiteral("results-content.png"));
 
-    Dupes *duration = search(settings, DetectionMode::Duration, {sounds});
+    Dupes *duration = searchedWindow(settings, DetectionMode::Duration, {sounds}, {}, kWindowSize);
     duration->changeListSize(16);
     selectRow(duration, 0);
     save(duration, output, QStringLiteral("results-duration.png"));
 
-    Dupes *filename = search(settings, DetectionMode::FileName, {corpus});
+    Dupes *filename = searchedWindow(settings, DetectionMode::FileName, {corpus}, {}, kWindowSize);
     selectRow(filename, 2);
     save(filename, output, QStringLiteral("results-filename.png"));
 
-    Dupes *attribute = search(settings, DetectionMode::Attribute, {photos}, QStringLiteral("kMDItemPixelHeight"));
+    Dupes *attribute = searchedWindow(settings, DetectionMode::Attribute, {photos}, QStringLiteral("kMDItemPixelHeight"), kWindowSize);
     attribute->changeListSize(32);
     // Room for the attribute's own column and the tags.
     const QStringList narrower{QStringLiteral("folder"), QStringLiteral("extension"), QStringLiteral("modified"),
@@ -168,7 +144,7 @@ void drawResultWindows(Settings &settings, const QString &corpus, const QString 
     save(attribute, output, QStringLiteral("results-attribute.png"));
     settings.remove(QStringLiteral("hidden columns"));
 
-    Dupes *filtered = search(settings, DetectionMode::Content, {photos, corpus});
+    Dupes *filtered = searchedWindow(settings, DetectionMode::Content, {photos, corpus}, {}, kWindowSize);
     auto *criterion = filtered->filterBar()->findChild<QComboBox *>(QStringLiteral("filterStringCriterion"));
     criterion->setCurrentIndex(criterion->findData(QStringLiteral("URL.path.lastPathComponent")));
     auto *op = filtered->filterBar()->findChild<QComboBox *>(QStringLiteral("filterStringOperator"));
@@ -179,7 +155,7 @@ void drawResultWindows(Settings &settings, const QString &corpus, const QString 
     save(filtered, output, QStringLiteral("results-filter.png"));
 
     // Saved results opened again after one of the photos was removed: it shows as missing.
-    Dupes *saved = search(settings, DetectionMode::Content, {photos, corpus});
+    Dupes *saved = searchedWindow(settings, DetectionMode::Content, {photos, corpus}, {}, kWindowSize);
     const QString file = scratch + QStringLiteral("/Photos.selfsame");
     saved->saveResults(file);
     const QString removed = saved->resultModel().mainItems().first()->path;

@@ -1,0 +1,36 @@
+#include "SearchedWindow.h"
+
+#include "Dupes.h"
+
+#include <QEventLoop>
+#include <QTimer>
+
+namespace selfsame {
+
+void settle(int ms)
+{
+    QEventLoop loop;
+    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+Dupes *searchedWindow(Settings &settings, DetectionMode mode, const QStringList &locations, const QString &attribute,
+                      QSize size)
+{
+    auto *dupes = new Dupes(settings);
+    dupes->setAttribute(Qt::WA_DeleteOnClose, false);
+    if (size.isValid())
+        dupes->resize(size);
+    dupes->show();
+    SearchRequest request;
+    request.searchInFolderURLs = locations;
+    request.detectionMode = mode;
+    request.spotlightAttribute = attribute;
+    QEventLoop loop;
+    QObject::connect(dupes, &Dupes::finishedSearching, &loop, &QEventLoop::quit);
+    dupes->searchInFolderURLs(request);
+    loop.exec();
+    return dupes;
+}
+
+} // namespace selfsame

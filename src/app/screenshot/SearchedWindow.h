@@ -1,0 +1,20 @@
+#pragma once
+
+#include "search/SearchRequest.h"
+
+#include <QSize>
+#include <QStringList>
+
+namespace selfsame {
+class Dupes;
+class Settings;
+
+// Lets the event loop run for `ms` milliseconds: thumbnails and repaints land.
+void settle(int ms);
+
+// A results window, shown (at `size` when one is given, else at its default size) with the
+// search of `locations` in `mode` finished.
+Dupes *searchedWindow(Settings &settings, DetectionMode mode, const QStringList &locations,
+                      const QString &attribute = {}, QSize size = {});
+
+} // namespace selfsame
