@@ -17,6 +17,7 @@ _selfsame_cli()
     local options='--include-hidden --min-size --max-size --no-size-filter --ext --exclude-ext
         --skip --depth --compare-folders --ignore-mp4-header --ignore-clones --include-read-only
         --include-other-owner --mode --tolerance --attribute --ignore-extension --ignore-suffixes
+        --similarity --distinguish-greyscale
         --suffixes --list-attributes --format -0 --print0 --summary --anywhere --no-cache
         --select --keep --date --inside --inside-any-depth --outside --outside-any-depth
         --if-newer --if-older --if-same-date --having --not-having --any-tag --no-tag
@@ -33,9 +34,9 @@ _selfsame_cli()
 
     local values=''
     case $prev in
-        --mode) values='content duration name attribute' ;;
+        --mode) values='content duration name attribute similar-images similar-audio' ;;
         --format) values='text json csv' ;;
-        --select) values='same-folder-name same-folder folder tag' ;;
+        --select) values='same-folder-name same-folder folder tag largest-picture highest-bitrate' ;;
         --keep) values='oldest newest' ;;
         --date) values='created modified last-used added' ;;
         --replace-with) values='symlink relative-symlink hardlink clone alias' ;;
@@ -51,7 +52,7 @@ _selfsame_cli()
                 return
             fi ;;
         --min-size | --max-size | --ext | --exclude-ext | --skip | --depth | --tolerance | \
-            --suffixes | --list-attributes)
+            --suffixes | --list-attributes | --similarity)
             return ;;
     esac
     if [[ -n $values ]]; then

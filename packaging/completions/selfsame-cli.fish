@@ -39,8 +39,10 @@ complete -c selfsame-cli -n $searching -l anywhere -d 'Find the copies of the fi
 complete -c selfsame-cli -n $searching -l no-cache -d 'Neither use nor update the digest cache'
 
 # Modes
-complete -c selfsame-cli -n $searching -l mode -x -a 'content duration name attribute' -d 'What makes files equal'
+complete -c selfsame-cli -n $searching -l mode -x -a 'content duration name attribute similar-images similar-audio' -d 'What makes files equal'
 complete -c selfsame-cli -n $searching -l tolerance -x -d 'Largest difference still equal'
+complete -c selfsame-cli -n $searching -l similarity -x -d 'Similar modes: how alike, 0 to 100'
+complete -c selfsame-cli -n $searching -l distinguish-greyscale -d 'Similar pictures: grey copies are not like colour ones'
 complete -c selfsame-cli -n $searching -l attribute -x -d 'Attribute compared' \
     -a '(selfsame-cli --list-attributes 2>/dev/null | string replace -r "^([^\t]*)\t([^\t]*).*" \'$1\t$2\')'
 complete -c selfsame-cli -n $searching -l ignore-extension -d 'Name mode: compare names without extension'
@@ -56,7 +58,7 @@ complete -c selfsame-cli -n $searching -s h -l help -d 'Show the help'
 complete -c selfsame-cli -n $searching -l version -d 'Show the version'
 
 # Automatic selection
-complete -c selfsame-cli -n $searching -l select -x -a 'same-folder-name same-folder folder tag' -d 'Selection rule'
+complete -c selfsame-cli -n $searching -l select -x -a 'same-folder-name same-folder folder tag largest-picture highest-bitrate' -d 'Selection rule'
 complete -c selfsame-cli -n __selfsame_cli_folder_rule -x -a '(__fish_complete_directories)'
 complete -c selfsame-cli -n $searching -l keep -x -a 'oldest newest' -d 'same-folder: copy kept'
 complete -c selfsame-cli -n $searching -l date -x -a 'created modified last-used added' -d 'Date compared'

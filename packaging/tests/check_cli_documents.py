@@ -264,7 +264,8 @@ class ValuesTest(unittest.TestCase):
     """Modes, formats, rule names and the other fixed values, as the program takes them."""
 
     def test_the_program_lists_what_it_takes(self):
-        self.assertEqual(accepted_values("--mode"), {"content", "duration", "name", "attribute"})
+        self.assertEqual(accepted_values("--mode"),
+                         {"content", "duration", "name", "attribute", "similar-images", "similar-audio"})
         self.assertIn("same-folder-name", accepted_values("--select"))
 
     def test_bash(self):

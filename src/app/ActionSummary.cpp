@@ -9,10 +9,9 @@ namespace selfsame {
 
 namespace {
 
-QString tr(const char *text, int n = -1)
-{
-    return QCoreApplication::translate("ActionSummary", text, nullptr, n);
-}
+struct ActionSummaryText {
+    Q_DECLARE_TR_FUNCTIONS(ActionSummary)
+};
 
 int count(qsizetype n)
 {
@@ -47,20 +46,24 @@ QString deleteSummary(const QList<DeleteOutcome> &outcomes)
     }
     QStringList parts;
     if (trashed > 0)
-        parts.append(tr("Moved %Ln file(s) to the Trash (%1 is freed when the Trash is emptied)", count(trashed))
-                         .arg(formatByteCount(trashedBytes)));
-    if (deleted > 0) parts.append(tr("Deleted %Ln file(s)", count(deleted)));
-    if (replaced > 0) parts.append(tr("Replaced %Ln file(s) by links or clones", count(replaced)));
+        parts.append(
+            ActionSummaryText::tr("Moved %Ln file(s) to the Trash (%1 is freed when the Trash is emptied)",
+                                  nullptr, count(trashed))
+                .arg(formatByteCount(trashedBytes)));
+    if (deleted > 0) parts.append(ActionSummaryText::tr("Deleted %Ln file(s)", nullptr, count(deleted)));
+    if (replaced > 0)
+        parts.append(
+            ActionSummaryText::tr("Replaced %Ln file(s) by links or clones", nullptr, count(replaced)));
     if (parts.isEmpty()) return {};
     QString line = parts.join(QStringLiteral("; "));
-    if (freedBytes > 0) line += tr(" — %1 freed").arg(formatByteCount(freedBytes));
+    if (freedBytes > 0) line += ActionSummaryText::tr(" — %1 freed").arg(formatByteCount(freedBytes));
     return line + QLatin1Char('.');
 }
 
 QString putBackSummary(const QList<ResultItem *> &putBack)
 {
     if (putBack.isEmpty()) return {};
-    return tr("Put back %Ln file(s) from the Trash.", count(putBack.size()));
+    return ActionSummaryText::tr("Put back %Ln file(s) from the Trash.", nullptr, count(putBack.size()));
 }
 
 QString cloneSummary(const QList<ResultItem *> &cloned)
@@ -69,7 +72,8 @@ QString cloneSummary(const QList<ResultItem *> &cloned)
     qint64 freed = 0;
     for (const ResultItem *item : cloned)
         freed += item->physicalSize;
-    return tr("Replaced %Ln file(s) by clones — %1 freed.", count(cloned.size())).arg(formatByteCount(freed));
+    return ActionSummaryText::tr("Replaced %Ln file(s) by clones — %1 freed.", nullptr, count(cloned.size()))
+        .arg(formatByteCount(freed));
 }
 
 QString actedOnStatus(const QString &statusImage)
@@ -82,7 +86,7 @@ QString actedOnStatus(const QString &statusImage)
         {QStringLiteral("cloned"), QT_TRANSLATE_NOOP("ActionSummary", "replaced by clone")},
     };
     const char *word = words.value(statusImage);
-    return word ? tr(word) : QString();
+    return word ? ActionSummaryText::tr(word) : QString();
 }
 
 } // namespace selfsame

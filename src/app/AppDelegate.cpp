@@ -277,12 +277,10 @@ void AppDelegate::toggleFindAllDupesForSingleFiles()
     showAlert(
         this, QMessageBox::Information,
         tr("Please select the folder or drive in which to search for duplicates of individual files."),
-        tr("Note that you should not enable this location in the list (leave the checkbox unticked); "
-           "however, "
-           "macOS security rules require that you designate the folder in order to grant the app access.\n\n"
-           "You can manually grant access to additional folders by adding them to the folder list and "
-           "leaving "
-           "their checkboxes unticked."),
+        tr("Note that you should not enable this location in the list (leave the checkbox unticked): "
+           "it only tells Selfsame where copies of the files may be, and is not searched itself.\n\n"
+           "You can designate more such folders by adding them to the folder list and leaving their "
+           "checkboxes unticked."),
         {tr("Grant Access…"), tr("Cancel")}, [this](int answer) {
             if (answer == kFirstButton)
                 addFolderWithButton(tr("Grant Access"), false, false);

@@ -4,6 +4,14 @@
 
 namespace selfsame {
 
+namespace {
+
+struct AttributeToleranceText {
+    Q_DECLARE_TR_FUNCTIONS(AttributeTolerance)
+};
+
+} // namespace
+
 bool attributeToleranceShown(int typeId)
 {
     return typeId == DateType || typeId == NumberType || typeId == AnyType;
@@ -11,19 +19,18 @@ bool attributeToleranceShown(int typeId)
 
 QString attributeToleranceUnits(int typeId, const QString &attributeKey, bool metricLocale)
 {
-    auto tr = [](const char *text) { return QCoreApplication::translate("AttributeTolerance", text); };
-    if (typeId == DateType)
-        return tr("seconds");
+    if (typeId == DateType) return AttributeToleranceText::tr("seconds");
     if (typeId != NumberType && typeId != AnyType)
         return {};
     // One arcsecond is about 30 metres of latitude.
-    const QString arcsecond = metricLocale ? tr("30\u00a0m") : tr("100\u00a0ft");
+    const QString arcsecond = metricLocale ? AttributeToleranceText::tr("30\u00a0m")
+                                           : AttributeToleranceText::tr("100\u00a0"
+                                                                        "ft");
     if (attributeKey == QLatin1String("kMDItemLatitude"))
-        return tr("arcseconds (1″ ≈ %1)").arg(arcsecond);
+        return AttributeToleranceText::tr("arcseconds (1″ ≈ %1)").arg(arcsecond);
     if (attributeKey == QLatin1String("kMDItemLongitude"))
-        return tr("arcseconds (1″ ≈ %1 on the equator)").arg(arcsecond);
-    if (attributeKey == QLatin1String("kMDItemDurationSeconds"))
-        return tr("seconds");
+        return AttributeToleranceText::tr("arcseconds (1″ ≈ %1 on the equator)").arg(arcsecond);
+    if (attributeKey == QLatin1String("kMDItemDurationSeconds")) return AttributeToleranceText::tr("seconds");
     return {};
 }
 

@@ -85,6 +85,11 @@ AutoSelectSheet::AutoSelectSheet(QWidget *window, ResultModel &model, Settings &
     m_rules->addButton(whateverName, SameFolderWhateverName);
     m_rules->addButton(inside, InsideFolder);
     m_rules->addButton(byTag, ByTag);
+    auto *largestPicture = new QRadioButton(tr("All but the largest picture (the most pixels, then the largest file)"));
+    auto *bestRecording =
+        new QRadioButton(tr("All but the best recording (the highest bit rate, then a lossless format)"));
+    m_rules->addButton(largestPicture, LargestPicture);
+    m_rules->addButton(bestRecording, BestRecording);
 
     m_oldest = new QComboBox;
     m_oldest->addItems({tr("the oldest"), tr("the newest")});
@@ -152,6 +157,8 @@ AutoSelectSheet::AutoSelectSheet(QWidget *window, ResultModel &model, Settings &
     tagRow->addWidget(m_tagField, 1);
     grid->addLayout(tagRow, 5, 0, 1, 2);
     grid->addWidget(m_tagLabel, 6, 1);
+    grid->addWidget(largestPicture, 7, 0, 1, 2);
+    grid->addWidget(bestRecording, 8, 0, 1, 2);
     grid->setVerticalSpacing(8);
 
     auto *buttons = new QDialogButtonBox;
@@ -216,8 +223,12 @@ void AutoSelectSheet::load(const QString &folder)
             stored.insert(key, key == kFolder ? QVariant(Settings::pathFrom(value)) : value);
     const AutoSelectSettings s = autoSelectSettingsFrom(stored);
 
-    QAbstractButton *rule = m_rules->button(folder.isEmpty() ? s.choice : int(InsideFolder));
-    (rule ? rule : m_rules->button(SameFolderSameName))->setChecked(true);
+    const DetectionMode mode = m_model.detectionMode();
+    for (QAbstractButton *button : m_rules->buttons())
+        button->setVisible(autoSelectRuleOffered(m_rules->id(button), mode));
+    const std::optional<int> storedChoice =
+        stored.contains(kChoice) ? std::optional<int>(s.choice) : std::nullopt;
+    m_rules->button(folder.isEmpty() ? autoSelectInitialRule(storedChoice, mode) : int(InsideFolder))->setChecked(true);
     auto setTag = [](QComboBox *popup, int tag) { popup->setCurrentIndex(tag >= 0 && tag < popup->count() ? tag : 0); };
     setTag(m_oldest, s.oldest == 0 ? 0 : 1);
     setTag(m_date, s.date);

@@ -18,9 +18,10 @@ namespace selfsame {
 class FolderDropField;
 class Settings;
 
-// The automatic selection of a results window: a sheet with four rules, each with its
-// choices, that selects in every group the copies to discard. Labels say in words which
-// copies each rule keeps. Outside the content mode a warning comes first.
+// The automatic selection of a results window: a sheet of rules, each with its choices, that
+// selects in every group the copies to discard; the rules for pictures and recordings appear
+// after searches for them. Labels say in words which copies each rule keeps. After searches
+// by duration, name or attribute a warning comes first.
 class AutoSelectSheet : public QDialog {
     Q_OBJECT
 public:

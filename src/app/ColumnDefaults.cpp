@@ -8,8 +8,8 @@ namespace selfsame {
 
 QStringList defaultColumnOrder()
 {
-    QStringList order{QStringLiteral("name"), QStringLiteral("size"), QStringLiteral("dupes"), QStringLiteral("clone"),
-                      QStringLiteral("spotlight"), QStringLiteral("duration"), QStringLiteral("path"),
+    QStringList order{QStringLiteral("name"), QStringLiteral("size"), QStringLiteral("dupes"), QStringLiteral("similarity"),
+                      QStringLiteral("clone"), QStringLiteral("spotlight"), QStringLiteral("duration"), QStringLiteral("path"),
                       QStringLiteral("folder"), QStringLiteral("extension"), QStringLiteral("modified")};
     for (const QString &column : listColumnIdentifiers())
         if (!order.contains(column)) order.append(column);
@@ -22,6 +22,7 @@ int defaultColumnWidth(const QString &column)
         {QStringLiteral("name"), 230},     {QStringLiteral("size"), 80},      {QStringLiteral("dupes"), 80},
         {QStringLiteral("clone"), 120},    {QStringLiteral("path"), 200},     {QStringLiteral("folder"), 110},
         {QStringLiteral("extension"), 60}, {QStringLiteral("modified"), 150}, {QStringLiteral("duration"), 80},
+        {QStringLiteral("similarity"), 80},
     };
     return widths.value(column, 120);
 }

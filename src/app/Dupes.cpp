@@ -67,12 +67,16 @@ Dupes::Dupes(Settings &settings, QWidget *parent) : QMainWindow(parent), m_setti
     m_progressIndicator->setTextVisible(false);
     m_progressIndicator->setMaximumWidth(240);
     m_abortBtn = new QPushButton(tr("&Stop"));
+    m_abortBtn->setToolTip(tr("Stop the search and show the groups found so far"));
     connect(m_abortBtn, &QPushButton::clicked, this, [this] { m_search.abort(); });
+    m_pauseBtn = new QPushButton(tr("&Pause"));
+    connect(m_pauseBtn, &QPushButton::clicked, this, &Dupes::togglePause);
     m_searchingRow = new QWidget;
     auto *searchingLayout = new QHBoxLayout(m_searchingRow);
     searchingLayout->setContentsMargins(0, 0, 0, 0);
     searchingLayout->addWidget(m_progressIndicator);
     searchingLayout->addWidget(m_statusFld, 1);
+    searchingLayout->addWidget(m_pauseBtn);
     searchingLayout->addWidget(m_abortBtn);
 
     m_filterBar = new FilterBar;
@@ -210,8 +214,10 @@ void Dupes::searchInFolderURLs(const SearchRequest &request)
     reloadList(m_mainList);
     reloadList(m_cloneList);
     m_searchingRow->show();
-    m_statusFld->setText(tr("Enumerating files…"));
+    m_progressText = tr("Enumerating files…");
+    m_statusFld->setText(m_progressText);
     m_progressIndicator->setRange(0, 0);
+    m_pauseBtn->setText(tr("&Pause"));
     m_abortBtn->show();
     m_pathControl->clear();
     m_pathControl->hide();
@@ -272,7 +278,8 @@ QString Dupes::exportTopList(const QString &path) const
 
 void Dupes::showProgress(const QString &status, double progress)
 {
-    m_statusFld->setText(status);
+    m_progressText = status;
+    m_statusFld->setText(m_search.paused() ? tr("Paused: %1").arg(status) : status);
     if (progress < 0) {
         m_progressIndicator->setRange(0, 0);
     } else {
@@ -281,9 +288,27 @@ void Dupes::showProgress(const QString &status, double progress)
     }
 }
 
+void Dupes::togglePause()
+{
+    if (m_search.paused()) {
+        m_search.resume();
+        m_pauseBtn->setText(tr("&Pause"));
+        m_statusFld->setText(m_progressText);
+    } else if (m_search.pause()) {
+        m_pauseBtn->setText(tr("&Resume"));
+        m_statusFld->setText(tr("Paused: %1").arg(m_progressText));
+    }
+}
+
+QString Dupes::progressText() const
+{
+    return m_searchingRow->isVisibleTo(this) ? m_statusFld->text() : QString();
+}
+
 void Dupes::searchDone()
 {
     m_model.setResults(m_search.takeMainItems(), m_search.request());
+    m_model.setPartial(m_search.statistics().stopped);
     m_unreadable = m_search.statistics().unreadableFolderPaths;
     m_unreadableFiles = m_search.statistics().unreadableFiles;
     showResults();

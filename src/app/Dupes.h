@@ -92,6 +92,11 @@ public:
     OverviewWindow *showOverview();
     QString statusText() const;
     QString groupCaptionText() const;
+    // The line above the lists while a search runs, and its Pause (Resume) and Stop buttons.
+    QString progressText() const;
+    QPushButton *pauseButton() const { return m_pauseBtn; }
+    QPushButton *stopButton() const { return m_abortBtn; }
+    DuplicateSearch &search() { return m_search; }
     // The line of what the last file command did, empty before any.
     QString summaryText() const;
     // The paths the search could not read, listed when their count in the status line is clicked.
@@ -141,6 +146,7 @@ private:
     void validateItemActions();
     QMenu *columnsMenu(QWidget *parent);
     void showProgress(const QString &status, double progress);
+    void togglePause();
     void searchDone();
     void prepareWindow(const SearchRequest &request);
     void showResults();
@@ -176,6 +182,8 @@ private:
     QLabel *m_statusFld;
     QProgressBar *m_progressIndicator;
     QPushButton *m_abortBtn;
+    QPushButton *m_pauseBtn; // Pause, or Resume while paused
+    QString m_progressText;  // the search's last status, shown again while it is paused
     FilterBar *m_filterBar;
     ResultTableModel *m_mainModel;
     ResultTableModel *m_cloneModel;

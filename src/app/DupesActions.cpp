@@ -122,10 +122,16 @@ void DupesActions::chooseReplaceWith(int mode)
     updateActions();
 }
 
+int DupesActions::replacementInForce() const
+{
+    // Similar files are not copies: a link or clone in place of one would show other content.
+    return isSimilarityMode(m_model.detectionMode()) ? 0 : m_modes.inForce(m_showingAlternate);
+}
+
 void DupesActions::updateTitle(QAction *action, const QString &base)
 {
     QString suffix;
-    if (replaceWithMenuSuffix(m_modes.inForce(m_showingAlternate), m_showingAlternate, &suffix))
+    if (replaceWithMenuSuffix(replacementInForce(), m_showingAlternate, &suffix))
         action->setText(base.arg(suffix));
     else if (action->text().isEmpty())
         action->setText(base.arg(QString()));
@@ -135,7 +141,8 @@ void DupesActions::updateActions()
 {
     updateTitle(m_moveToTrash, m_moveToTrash->property(kBaseTitle).toString());
     updateTitle(m_deleteImmediately, m_deleteImmediately->property(kBaseTitle).toString());
-    m_replaceWithPopup->setCurrentIndex(m_modes.inForce(m_showingAlternate));
+    m_replaceWithPopup->setCurrentIndex(replacementInForce());
+    m_replaceWithPopup->setEnabled(!isSimilarityMode(m_model.detectionMode()));
     m_replaceWithPopup->setToolTip(m_showingAlternate ? tr("Replacement while Alt is held")
                                                       : tr("Replacement of deleted duplicates"));
 
@@ -188,7 +195,7 @@ void DupesActions::runDeleteAction(bool trash)
     DeleteActionRequest request;
     request.journal = &journal;
     request.kind = trash ? DeleteKind::Trash : DeleteKind::Delete;
-    request.mode = m_modes.inForce(m_showingAlternate);
+    request.mode = replacementInForce();
     request.reference = referenceFor(chosen);
     request.targets = chosen.items;
     request.duplicatesFor = [this](const ResultItem &item) { return m_model.duplicatesFor(item); };

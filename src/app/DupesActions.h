@@ -86,6 +86,7 @@ private:
     void keepDigestCacheCurrent(const CachedDigestsCarrier &carrier) const;
     ResultItem *referenceFor(const Targets &targets) const;
     void updateTitle(QAction *action, const QString &base);
+    int replacementInForce() const; // the index of the replace pop-up that an action uses
 
     QWidget *m_window;
     ResultModel &m_model;

@@ -13,10 +13,9 @@ namespace selfsame
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("InterruptedActions", text);
-}
+struct InterruptedActionsText {
+    Q_DECLARE_TR_FUNCTIONS(InterruptedActions)
+};
 
 QString listed(const QStringList &paths)
 {
@@ -31,8 +30,8 @@ QString listed(const QStringList &paths)
 bool recoverInterruptedActions(Journal &journal, QWidget *parent)
 {
     if (!journal.isOpen()) {
-        QMessageBox::warning(parent, tr("Files cannot be changed safely"),
-                             tr("The operations journal %1 cannot be opened: %2")
+        QMessageBox::warning(parent, InterruptedActionsText::tr("Files cannot be changed safely"),
+                             InterruptedActionsText::tr("The operations journal %1 cannot be opened: %2")
                                  .arg(displayPath(Journal::defaultPath()), journal.error()));
         return false;
     }
@@ -40,14 +39,18 @@ bool recoverInterruptedActions(Journal &journal, QWidget *parent)
     if (report.isEmpty()) return true;
     QStringList parts;
     if (!report.rolledBack.isEmpty())
-        parts << tr("Put back as they were:\n%1").arg(listed(report.rolledBack));
-    if (!report.finished.isEmpty()) parts << tr("Finished:\n%1").arg(listed(report.finished));
-    if (!report.failed.isEmpty()) parts << tr("Could not be recovered:\n%1").arg(listed(report.failed));
-    QMessageBox box(report.failed.isEmpty() ? QMessageBox::Information : QMessageBox::Warning,
-                    tr("Interrupted file actions were recovered"),
-                    tr("Selfsame was stopped while it changed files. Nothing was lost."), QMessageBox::Ok,
-                    parent);
-    if (!report.failed.isEmpty()) box.setText(tr("Selfsame was stopped while it changed files."));
+        parts << InterruptedActionsText::tr("Put back as they were:\n%1").arg(listed(report.rolledBack));
+    if (!report.finished.isEmpty())
+        parts << InterruptedActionsText::tr("Finished:\n%1").arg(listed(report.finished));
+    if (!report.failed.isEmpty())
+        parts << InterruptedActionsText::tr("Could not be recovered:\n%1").arg(listed(report.failed));
+    QMessageBox box(
+        report.failed.isEmpty() ? QMessageBox::Information : QMessageBox::Warning,
+        InterruptedActionsText::tr("Interrupted file actions were recovered"),
+        InterruptedActionsText::tr("Selfsame was stopped while it changed files. Nothing was lost."),
+        QMessageBox::Ok, parent);
+    if (!report.failed.isEmpty())
+        box.setText(InterruptedActionsText::tr("Selfsame was stopped while it changed files."));
     box.setDetailedText(parts.join(QStringLiteral("\n\n")));
     box.exec();
     return report.failed.isEmpty();

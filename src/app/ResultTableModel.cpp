@@ -74,6 +74,9 @@ QVariant ResultTableModel::data(const QModelIndex &index, int role) const
             // What a command made of the item says more than how it related to the selection.
             if (const QString acted = actedOnStatus(item->statusImage()); !acted.isEmpty()) return acted;
         }
+        // Below, how alike each copy is to the selected item; above, to its group's first item.
+        if (column == QLatin1String("similarity") && m_list == ResultList::Bottom)
+            return similarityText(m_model.similarityToSelection(*item));
         // Names and folders keep their bytes for sorting and filtering; shown, those that are
         // not UTF-8 read \xFF.
         return displayPath(cellText(*item, column, m_spotlightAttribute));
@@ -120,7 +123,8 @@ QVariant ResultTableModel::data(const QModelIndex &index, int role) const
         return {};
     case Qt::TextAlignmentRole:
         if (column == QLatin1String("size") || column == QLatin1String("duration") ||
-            column == QLatin1String("bitrate") || column == QLatin1String("dupes"))
+            column == QLatin1String("bitrate") || column == QLatin1String("dupes") ||
+            column == QLatin1String("similarity"))
             return int(Qt::AlignRight | Qt::AlignVCenter);
         return int(Qt::AlignLeft | Qt::AlignVCenter);
     default:
@@ -161,6 +165,7 @@ QString ResultTableModel::title(const QString &column) const
         {QStringLiteral("tags"), QT_TR_NOOP("Tags")},
         {QStringLiteral("dupes"), QT_TR_NOOP("Duplicates")},
         {QStringLiteral("clone"), QT_TR_NOOP("Status")},
+        {QStringLiteral("similarity"), QT_TR_NOOP("Similarity")},
     };
     if (column == QLatin1String("spotlight") && !m_spotlightTitle.isEmpty()) return m_spotlightTitle;
     if (column == QLatin1String("dupes") && m_clusterTitle) return tr("Cluster Size");
@@ -176,6 +181,9 @@ QVariant ResultTableModel::headerData(int section, Qt::Orientation orientation, 
         if (column == QLatin1String("dupes") && m_clusterTitle)
             return tr("Items whose values lie within the tolerance of each other, counted around the first "
                       "item of each cluster.");
+        if (column == QLatin1String("similarity"))
+            return m_list == ResultList::Top ? tr("How alike each item is to the first item of its group.")
+                                             : tr("How alike each copy is to the item selected above.");
         if (column == QLatin1String("clone"))
             return tr("How each duplicate relates to the selected item: the item itself, a hard link of it, "
                       "a clone sharing its storage, a copy on another volume, or a proven duplicate.");

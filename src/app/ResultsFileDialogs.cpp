@@ -10,7 +10,9 @@ namespace selfsame {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("ResultsFileDialogs", text); }
+struct ResultsFileDialogsText {
+    Q_DECLARE_TR_FUNCTIONS(ResultsFileDialogs)
+};
 
 void open(QFileDialog *dialog, std::function<void(const QString &)> chosen)
 {
@@ -36,21 +38,24 @@ void chooseSavePath(QWidget *parent, const QString &title, const QString &filter
 
 void chooseResultsFileToOpen(QWidget *parent, std::function<void(const QString &)> chosen)
 {
-    auto *dialog = new QFileDialog(parent, tr("Open Results"), QDir::homePath(),
-                                   tr("Selfsame Results (*.%1 *.json);;All Files (*)").arg(ResultsFile::kSuffix));
+    auto *dialog = new QFileDialog(parent, ResultsFileDialogsText::tr("Open Results"), QDir::homePath(),
+                                   ResultsFileDialogsText::tr("Selfsame Results (*.%1 *.json);;All Files (*)")
+                                       .arg(ResultsFile::kSuffix));
     dialog->setFileMode(QFileDialog::ExistingFile);
     open(dialog, std::move(chosen));
 }
 
 void chooseResultsFileToSave(QWidget *parent, const QString &suggestedName, std::function<void(const QString &)> chosen)
 {
-    chooseSavePath(parent, tr("Save Results"), tr("Selfsame Results (*.%1)").arg(ResultsFile::kSuffix),
+    chooseSavePath(parent, ResultsFileDialogsText::tr("Save Results"),
+                   ResultsFileDialogsText::tr("Selfsame Results (*.%1)").arg(ResultsFile::kSuffix),
                    ResultsFile::kSuffix, suggestedName, std::move(chosen));
 }
 
 void chooseCsvFileToExport(QWidget *parent, const QString &suggestedName, std::function<void(const QString &)> chosen)
 {
-    chooseSavePath(parent, tr("Export"), tr("CSV Files (*.csv)"), QStringLiteral("csv"), suggestedName,
+    chooseSavePath(parent, ResultsFileDialogsText::tr("Export"),
+                   ResultsFileDialogsText::tr("CSV Files (*.csv)"), QStringLiteral("csv"), suggestedName,
                    std::move(chosen));
 }
 

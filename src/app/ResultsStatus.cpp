@@ -9,9 +9,14 @@ namespace selfsame {
 
 namespace {
 
-QString tr(const char *text, qint64 n = -1)
+struct ResultsStatusText {
+    Q_DECLARE_TR_FUNCTIONS(ResultsStatus)
+};
+
+// Counts beyond what a translation's number takes are shown as the largest it does.
+int count(qint64 n)
 {
-    return QCoreApplication::translate("ResultsStatus", text, nullptr, int(std::min<qint64>(n, INT_MAX)));
+    return int(std::min<qint64>(n, INT_MAX));
 }
 
 } // namespace
@@ -20,27 +25,33 @@ ResultsStatus resultsStatus(const ResultModel &model, ResultList active, qint64 
 {
     if (active == ResultList::Bottom && model.cloneItems().isEmpty()) active = ResultList::Top;
     const ReclaimTotals totals = reclaimTotals(model.mainItems());
-    QStringList parts{tr("%Ln group(s)", totals.groups), tr("%Ln file(s)", totals.files),
-                      tr("%1 reclaimable").arg(formatByteCount(totals.reclaimable))};
-    if (const qsizetype hidden = model.mainItemsHidden().size()) parts.append(tr("%Ln hidden", hidden));
+    QStringList parts{ResultsStatusText::tr("%Ln group(s)", nullptr, count(totals.groups)),
+                      ResultsStatusText::tr("%Ln file(s)", nullptr, count(totals.files)),
+                      ResultsStatusText::tr("%1 reclaimable").arg(formatByteCount(totals.reclaimable))};
+    if (const qsizetype hidden = model.mainItemsHidden().size())
+        parts.append(ResultsStatusText::tr("%Ln hidden", nullptr, count(hidden)));
     ResultsStatus status;
     if (unreadable > 0) {
-        status.unreadable = tr("%Ln unreadable", unreadable);
+        status.unreadable = ResultsStatusText::tr("%Ln unreadable", nullptr, count(unreadable));
         parts.append(status.unreadable);
     }
     const auto missing = std::count_if(model.mainItems().begin(), model.mainItems().end(),
                                        [](const ResultItem *item) { return item->has(Missing); });
-    if (missing > 0) parts.append(tr("%Ln missing", missing));
+    if (missing > 0) parts.append(ResultsStatusText::tr("%Ln missing", nullptr, count(missing)));
     status.text = parts.join(QStringLiteral(" · "));
+    if (model.partial())
+        status.text = ResultsStatusText::tr("Partial results: the search was stopped. %1").arg(status.text);
 
     const QList<ResultItem *> selected = model.selectedItems(active);
     if (!selected.isEmpty()) {
         qint64 onDisk = 0;
         for (const ResultItem *item : selected)
             onDisk += item->physicalSize;
-        const QString selection = active == ResultList::Bottom
-                                      ? tr("%Ln duplicate(s) selected (%1 on disk)", selected.size())
-                                      : tr("%Ln selected (%1 on disk)", selected.size());
+        const QString selection =
+            active == ResultList::Bottom
+                ? ResultsStatusText::tr("%Ln duplicate(s) selected (%1 on disk)", nullptr,
+                                        count(selected.size()))
+                : ResultsStatusText::tr("%Ln selected (%1 on disk)", nullptr, count(selected.size()));
         status.text += QStringLiteral(" — ") + selection.arg(formatByteCount(onDisk));
     }
     if (selected.size() == 1) status.path = selected.first()->path;
@@ -54,7 +65,8 @@ QString groupCaption(const QList<ResultItem *> &members)
     qint64 onDisk = 0;
     for (const ResultItem *member : members)
         onDisk += isActedOn(*member) ? 0 : member->physicalSize;
-    return tr("Group of %Ln file(s) · %1 on disk · %2 reclaimable", group.files)
+    return ResultsStatusText::tr("Group of %Ln file(s) · %1 on disk · %2 reclaimable", nullptr,
+                                 count(group.files))
         .arg(formatByteCount(onDisk), formatByteCount(group.reclaimable));
 }
 

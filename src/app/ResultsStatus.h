@@ -15,7 +15,7 @@ struct ResultsStatus {
 };
 
 // The totals of the top list (its hidden, unreadable and missing items where there are any),
-// then the selection of the active list; an empty bottom list counts as the top list.
+// after a note when the results are partial, then the selection of the active list; an empty bottom list counts as the top list.
 ResultsStatus resultsStatus(const ResultModel &model, ResultList active, qint64 unreadable);
 
 // The caption of the bottom list: the size of the group it shows and what keeping one copy

@@ -3,6 +3,7 @@
 #include "Settings.h"
 #include "attributes/SpotlightAttributesManager.h"
 #include "search/NamePatterns.h"
+#include "search/SearchRequest.h"
 
 #include <QStringList>
 
@@ -35,6 +36,8 @@ void registerSearchDefaults(Settings &settings)
         {key::filenameIgnoreExtension, false},
         {key::filenameIgnoreCommonSuffixes, false},
         {key::commonSuffixes, QString(kDefaultCommonSuffixes)},
+        {key::similarity, kDefaultSimilarity},
+        {key::distinguishGreyscale, false},
         {key::useDigestCache, true},
     });
 }

@@ -32,6 +32,8 @@ inline constexpr QLatin1String activeSpotlightAttributes("activeSpotlightAttribu
 inline constexpr QLatin1String filenameIgnoreExtension("filename ignore extension");
 inline constexpr QLatin1String filenameIgnoreCommonSuffixes("filename ignore common suffixes");
 inline constexpr QLatin1String commonSuffixes("common suffixes");
+inline constexpr QLatin1String similarity("similarity");
+inline constexpr QLatin1String distinguishGreyscale("distinguishGreyscale");
 // Content searches keep file digests between searches (off: every compared file is read).
 inline constexpr QLatin1String useDigestCache("use digest cache");
 

@@ -45,6 +45,8 @@ SearchOptions loadSearchOptions(const Settings &settings)
     o.commonSuffixesText = settings.stringValue(key::commonSuffixes);
     o.spotlightAttribute = settings.stringValue(key::spotlightAttribute);
     o.spotlightTolerance = settings.doubleValue(key::spotlightTolerance);
+    o.similarity = int(std::clamp<qint64>(settings.integerValue(key::similarity), 0, 100));
+    o.distinguishGreyscale = settings.boolValue(key::distinguishGreyscale);
     return o;
 }
 
@@ -132,6 +134,11 @@ SearchStart startSearch(const SearchOptions &options, const QStringList &locatio
     QList<QRegularExpression> suffixes = compileCommonSuffixes(shown.commonSuffixesText);
     if (options.filenameIgnoreCommonSuffixes)
         r.filenameIgnoreCommonSuffixRegexes = std::move(suffixes);
+
+    r.similarity = std::clamp(options.similarity, 0, 100);
+    settings.setValue(key::similarity, r.similarity);
+    r.distinguishGreyscale = options.distinguishGreyscale;
+    settings.setValue(key::distinguishGreyscale, r.distinguishGreyscale);
 
     start.request = std::move(r);
     return start;

@@ -38,6 +38,8 @@ struct SearchOptions {
     bool filenameIgnoreExtension = false;
     bool filenameIgnoreCommonSuffixes = false;
     QString commonSuffixesText;
+    int similarity = kDefaultSimilarity; // the similar modes' threshold, 0–100
+    bool distinguishGreyscale = false;
 };
 
 // The controls as loaded from the settings when the window is built.

@@ -12,10 +12,12 @@
 #include <QLineEdit>
 #include <QLocale>
 #include <QPlainTextEdit>
+#include <QSlider>
 #include <QSpacerItem>
 #include <QSpinBox>
 #include <QStyle>
 #include <QVBoxLayout>
+#include <algorithm>
 #include <pwd.h>
 #include <unistd.h>
 
@@ -74,6 +76,8 @@ SearchOptionsPanel::SearchOptionsPanel(QWidget *parent) : QWidget(parent)
     m_modePopupBtn->addItem(tr("Duration"), 1);
     m_modePopupBtn->addItem(tr("File name"), 2);
     m_modePopupBtn->addItem(tr("Metadata attribute"), 3);
+    m_modePopupBtn->addItem(tr("Similar pictures"), int(DetectionMode::SimilarImages));
+    m_modePopupBtn->addItem(tr("Same recording"), int(DetectionMode::SimilarAudio));
     auto *modeLabel = new QLabel(tr("Find duplicates &by:"));
     modeLabel->setBuddy(m_modePopupBtn);
     layout->addWidget(modeLabel, 0, 0);
@@ -166,12 +170,41 @@ QWidget *SearchOptionsPanel::buildModeGroups()
     attributeGrid->addWidget(inRow({m_spotlightToleranceFld, m_spotlightToleranceUnitsLabel}), 2, 1);
     attributeLayout->addLayout(attributeGrid);
 
-    m_modeGroups = {content, duration, filename, attribute};
+    // The last group serves both similar modes; toggleMode() shows the parts of each.
+    m_modeGroups = {content, duration, filename, attribute, buildSimilarGroup(indent)};
     for (QWidget *group : m_modeGroups) {
         stack->addWidget(group);
         group->hide();
     }
     return m_modeStackView;
+}
+
+QWidget *SearchOptionsPanel::buildSimilarGroup(int indent)
+{
+    auto *similar = new QWidget;
+    auto *layout = groupLayout(similar, indent);
+    m_similaritySlider = new QSlider(Qt::Horizontal);
+    m_similarityFld = new QSpinBox;
+    m_similaritySlider->setRange(0, 100);
+    m_similarityFld->setRange(0, 100);
+    m_similarityFld->setSuffix(tr(" %"));
+    m_similaritySlider->setPageStep(5);
+    m_similaritySlider->setMinimumWidth(m_similarityFld->sizeHint().width() * 3);
+    connect(m_similaritySlider, &QSlider::valueChanged, m_similarityFld, &QSpinBox::setValue);
+    connect(m_similarityFld, &QSpinBox::valueChanged, m_similaritySlider, &QSlider::setValue);
+    auto *similarityLabel = new QLabel(tr("S&imilarity:"));
+    similarityLabel->setBuddy(m_similarityFld);
+    auto *loose = new QLabel(tr("looser"));
+    auto *strict = new QLabel(tr("stricter"));
+    for (QLabel *end : {loose, strict}) end->setForegroundRole(QPalette::PlaceholderText);
+    layout->addWidget(inRow({similarityLabel, loose, m_similaritySlider, strict, m_similarityFld}));
+    m_distinguishGreyscaleChk = new QCheckBox(tr("Tell &greyscale copies from colour ones"));
+    m_distinguishGreyscaleChk->setToolTip(
+        tr("When on, a black-and-white copy of a colour picture is not counted as alike."));
+    layout->addWidget(m_distinguishGreyscaleChk);
+    m_similarityFld->setObjectName(QStringLiteral("similarityFld"));
+    m_distinguishGreyscaleChk->setObjectName(QStringLiteral("distinguishGreyscaleChk"));
+    return similar;
 }
 
 QWidget *SearchOptionsPanel::buildFilters()
@@ -276,6 +309,8 @@ void SearchOptionsPanel::setOptions(const SearchOptions &o)
     m_filenameIgnoreCommonSuffixesChk->setChecked(o.filenameIgnoreCommonSuffixes);
     m_filenameIgnoreCommonSuffixesFld->setText(o.commonSuffixesText);
     m_spotlightToleranceFld->setValue(o.spotlightTolerance);
+    m_similarityFld->setValue(o.similarity);
+    m_distinguishGreyscaleChk->setChecked(o.distinguishGreyscale);
 }
 
 void SearchOptionsPanel::showCanonicalTexts(const SearchOptions &o)
@@ -314,6 +349,8 @@ SearchOptions SearchOptionsPanel::options() const
     o.filenameIgnoreExtension = m_filenameIgnoreExtensionChk->isChecked();
     o.filenameIgnoreCommonSuffixes = m_filenameIgnoreCommonSuffixesChk->isChecked();
     o.commonSuffixesText = m_filenameIgnoreCommonSuffixesFld->text();
+    o.similarity = m_similarityFld->value();
+    o.distinguishGreyscale = m_distinguishGreyscaleChk->isChecked();
     return o;
 }
 
@@ -408,8 +445,16 @@ void SearchOptionsPanel::toggleMode(bool byUser)
 {
     const int before = m_modeStackView->sizeHint().height();
     const int mode = m_modePopupBtn->currentData().toInt();
-    for (int i = 0; i < m_modeGroups.size(); ++i)
-        m_modeGroups[i]->setVisible(i == mode);
+    const QWidget *shown = m_modeGroups.value(std::min<qsizetype>(mode, m_modeGroups.size() - 1));
+    for (QWidget *group : m_modeGroups)
+        group->setVisible(group == shown);
+    const bool pictures = mode == int(DetectionMode::SimilarImages);
+    m_distinguishGreyscaleChk->setVisible(pictures);
+    m_similarityFld->setToolTip(pictures ? tr("100 % finds only pictures that cannot be told apart; lower values also "
+                                              "find copies scaled, recompressed, cropped or retouched more.")
+                                         : tr("100 % finds only recordings that cannot be told apart; lower values "
+                                              "also find copies encoded at lower quality or cut differently."));
+    m_similaritySlider->setToolTip(m_similarityFld->toolTip());
     if (byUser)
         Q_EMIT modeGroupResized(m_modeStackView->sizeHint().height() - before);
     Q_EMIT compareFoldersCheckDue();

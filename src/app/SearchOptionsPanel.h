@@ -13,6 +13,7 @@ class QDoubleSpinBox;
 class QLabel;
 class QLineEdit;
 class QPlainTextEdit;
+class QSlider;
 class QSpinBox;
 
 namespace selfsame {
@@ -40,6 +41,9 @@ public:
     // Fills the attribute pop-up with these entries, then the entry that opens the chooser.
     void setAttributePopup(const SpotlightAttributesManager::Popup &popup);
     QComboBox *attributeSelector() const { return m_spotlightAttributePopup; }
+    // The similar modes' controls, for tests and pictures.
+    QSpinBox *similarityField() const { return m_similarityFld; }
+    QCheckBox *distinguishGreyscaleCheck() const { return m_distinguishGreyscaleChk; }
 
 Q_SIGNALS:
     // A control that takes part in the compare-folders warning changed.
@@ -55,6 +59,7 @@ Q_SIGNALS:
 
 private:
     QWidget *buildModeGroups();
+    QWidget *buildSimilarGroup(int indent);
     QWidget *buildFilters();
     void toggleSubfolderDepth(bool byUser);
     void toggleSkipFilenames(bool byUser);
@@ -81,6 +86,9 @@ private:
     QCheckBox *m_filenameIgnoreExtensionChk;
     QCheckBox *m_filenameIgnoreCommonSuffixesChk;
     QLineEdit *m_filenameIgnoreCommonSuffixesFld;
+    QSlider *m_similaritySlider;
+    QSpinBox *m_similarityFld;
+    QCheckBox *m_distinguishGreyscaleChk;
     QCheckBox *m_skipHiddenFilesChk;
     QCheckBox *m_limitFolderDepthChk;
     QSpinBox *m_limitFolderDepthFld;

@@ -9,23 +9,27 @@ namespace selfsame {
 
 namespace {
 
-QString tr(const char *text, int n = -1)
-{
-    return QCoreApplication::translate("WindowTitles", text, nullptr, n);
-}
+struct WindowTitlesText {
+    Q_DECLARE_TR_FUNCTIONS(WindowTitles)
+};
 
 QString modeText(DetectionMode mode, const QString &attributeName)
 {
     switch (mode) {
     case DetectionMode::Duration:
-        return tr("by duration");
+        return WindowTitlesText::tr("by duration");
     case DetectionMode::FileName:
-        return tr("by name");
+        return WindowTitlesText::tr("by name");
     case DetectionMode::Attribute:
-        return attributeName.isEmpty() ? tr("by attribute") : tr("by %1").arg(attributeName);
+        return attributeName.isEmpty() ? WindowTitlesText::tr("by attribute")
+                                       : WindowTitlesText::tr("by %1").arg(attributeName);
+    case DetectionMode::SimilarImages:
+        return WindowTitlesText::tr("by similar pictures");
+    case DetectionMode::SimilarAudio:
+        return WindowTitlesText::tr("by same recording");
     case DetectionMode::Content:
     default:
-        return tr("by content");
+        return WindowTitlesText::tr("by content");
     }
 }
 
@@ -40,8 +44,9 @@ QString resultsWindowTitle(const QStringList &locations, DetectionMode mode, con
     else if (locations.size() == 1)
         subject = displayName(locations.first());
     else
-        subject = tr("%Ln location(s)", int(locations.size()));
-    return tr("%1 — %2 — %3").arg(subject, modeText(mode, attributeName), QCoreApplication::applicationName());
+        subject = WindowTitlesText::tr("%Ln location(s)", nullptr, int(locations.size()));
+    return WindowTitlesText::tr("%1 — %2 — %3")
+        .arg(subject, modeText(mode, attributeName), QCoreApplication::applicationName());
 }
 
 } // namespace selfsame

@@ -1,10 +1,10 @@
 #include "AppDelegate.h"
-#include "EnglishPlurals.h"
 #include "InterruptedActions.h"
 #include "LaunchRequest.h"
 #include "Settings.h"
 #include "SingleInstance.h"
 #include "journal/Journal.h"
+#include "language/Translations.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -15,8 +15,7 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Selfsame"));
-    selfsame::EnglishPlurals plurals;
-    QApplication::installTranslator(&plurals);
+    selfsame::installTranslations(&app);
     QApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
     QApplication::setDesktopFileName(QStringLiteral("selfsame"));
     QApplication::setWindowIcon(

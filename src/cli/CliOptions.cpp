@@ -1,6 +1,7 @@
 #include "CliOptions.h"
 
 #include "CliPaths.h"
+#include "CliText.h"
 #include "SelectOptions.h"
 
 #include "attributes/SpotlightAttributesManager.h"
@@ -14,13 +15,11 @@ namespace selfsame::cli {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("selfsame-cli", text); }
-
 bool takesValue(const QString &option)
 {
     static const QStringList withValue = {"--min-size", "--max-size", "--ext", "--exclude-ext", "--skip",
                                           "--depth", "--format", "--mode", "--tolerance", "--attribute",
-                                          "--suffixes", "--select"};
+                                          "--suffixes", "--select", "--similarity"};
     return withValue.contains(option) || selectOptionTakesValue(option);
 }
 
@@ -38,61 +37,74 @@ bool parseSize(const QString &text, qint64 *bytes)
 
 QString usageText()
 {
-    return tr("Usage: selfsame-cli [OPTIONS] PATH...\n"
-              "       selfsame-cli [OPTIONS] --anywhere FILE [PATH...]\n"
-              "       selfsame-cli put-back FILE...   (files in the trash, back to where they came from)\n"
-              "       selfsame-cli clear-cache        (forget the file digests kept between searches)\n"
-              "       selfsame-cli recover            (finish or roll back file actions that were interrupted)\n"
-              "       selfsame-cli journal            (the file actions done, newest first, numbered)\n"
-              "       selfsame-cli undo [ACTION]      (undo the last action, or the one of that number)\n"
-              "Finds files (and with --compare-folders, folders) of equal content, or of equal duration,\n"
-              "name or metadata attribute.\n"
-              "\n"
-              "  --include-hidden           search hidden files and folders (default: skipped)\n"
-              "  --min-size SIZE            smallest file searched, default 1 (\"10 MB\", \"4KiB\", \"500\")\n"
-              "  --max-size SIZE            largest file searched, default none\n"
-              "  --no-size-filter           no size limits at all\n"
-              "  --ext LIST                 only these extensions (comma or blank separated)\n"
-              "  --exclude-ext LIST         all files but these extensions\n"
-              "  --skip PATTERN             skip names matching a glob or /regex/ (repeatable)\n"
-              "  --depth N                  levels below each location (1 = its direct children only)\n"
-              "  --compare-folders          also find folders of equal content\n"
-              "  --ignore-mp4-header        compare MP4 files without their first 16 KiB\n"
-              "  --ignore-clones            leave out groups whose files already share their storage\n"
-              "  --include-read-only        also search items you may not modify or delete\n"
-              "  --include-other-owner      also search items owned by other users\n"
-              "  --mode MODE                content (default), duration, name or attribute\n"
-              "  --tolerance N              duration and attribute modes: largest difference still equal, in\n"
-              "                             seconds for durations and dates, seconds of arc for latitude and\n"
-              "                             longitude, else the attribute's unit (default 0.1 s for durations, 0)\n"
-              "  --attribute KEY            attribute mode: the attribute compared (default kMDItemTitle)\n"
-              "  --ignore-extension         name mode: compare names without their extension\n"
-              "  --ignore-suffixes          name mode: ignore copy suffixes (\" copy, copy #, #,-#, (#)\")\n"
-              "  --suffixes LIST            name mode: ignore these comma-separated suffixes instead\n"
-              "                             (\"#\" stands for a number from 1 to 99, \"##\" for any number)\n"
-              "  --list-attributes [EXT]    list the attributes (key, name, type, description), or those\n"
-              "                             that files with this extension can carry, and exit\n"
-              "  --format text|json|csv     output format (default text: a blank line between groups)\n"
-              "  -0, --print0               text output with each path as its exact bytes ended by a NUL\n"
-              "                             instead of a newline, and one more NUL ending each group\n"
-              "                             (text format only; for actions see below)\n"
-              "  --summary                  counts to standard error\n"
-              "  --anywhere                 the first path is a file: find its copies in the other paths,\n"
-              "                             or without them anywhere on the file's drive\n"
-              "  --no-cache                 read every compared file: neither use nor update the digest\n"
-              "                             cache (kept in $XDG_CACHE_HOME/selfsame)\n"
-              "  --select RULE [OPTIONS]    show which copies a selection rule picks (see below)\n"
-              "  -h, --help                 show this help\n"
-              "  --version                  show the version\n"
-              "\n") +
+    return CliText::tr(
+               "Usage: selfsame-cli [OPTIONS] PATH...\n"
+               "       selfsame-cli [OPTIONS] --anywhere FILE [PATH...]\n"
+               "       selfsame-cli put-back FILE...   (files in the trash, back to where they came from)\n"
+               "       selfsame-cli clear-cache        (forget the file digests kept between searches)\n"
+               "       selfsame-cli recover            (finish or roll back file actions that were "
+               "interrupted)\n"
+               "       selfsame-cli journal            (the file actions done, newest first, numbered)\n"
+               "       selfsame-cli undo [ACTION]      (undo the last action, or the one of that number)\n"
+               "Finds files (and with --compare-folders, folders) of equal content, or of equal duration,\n"
+               "name or metadata attribute.\n"
+               "\n"
+               "  --include-hidden           search hidden files and folders (default: skipped)\n"
+               "  --min-size SIZE            smallest file searched, default 1 (\"10 MB\", \"4KiB\", "
+               "\"500\")\n"
+               "  --max-size SIZE            largest file searched, default none\n"
+               "  --no-size-filter           no size limits at all\n"
+               "  --ext LIST                 only these extensions (comma or blank separated)\n"
+               "  --exclude-ext LIST         all files but these extensions\n"
+               "  --skip PATTERN             skip names matching a glob or /regex/ (repeatable)\n"
+               "  --depth N                  levels below each location (1 = its direct children only)\n"
+               "  --compare-folders          also find folders of equal content\n"
+               "  --ignore-mp4-header        compare MP4 files without their first 16 KiB\n"
+               "  --ignore-clones            leave out groups whose files already share their storage\n"
+               "  --include-read-only        also search items you may not modify or delete\n"
+               "  --include-other-owner      also search items owned by other users\n"
+               "  --mode MODE                content (default), duration, name, attribute, similar-images\n"
+               "                             (pictures that look alike) or similar-audio (the same "
+               "recording\n"
+               "                             in any format or bit rate)\n"
+               "  --similarity N             similar modes: how alike, 0 to 100 (default 90: very similar)\n"
+               "  --distinguish-greyscale    similar-images: a grey copy is not like its colour original\n"
+               "  --tolerance N              duration and attribute modes: largest difference still equal, "
+               "in\n"
+               "                             seconds for durations and dates, seconds of arc for latitude "
+               "and\n"
+               "                             longitude, else the attribute's unit (default 0.1 s for "
+               "durations, 0)\n"
+               "  --attribute KEY            attribute mode: the attribute compared (default kMDItemTitle)\n"
+               "  --ignore-extension         name mode: compare names without their extension\n"
+               "  --ignore-suffixes          name mode: ignore copy suffixes (\" copy, copy #, #,-#, (#)\")\n"
+               "  --suffixes LIST            name mode: ignore these comma-separated suffixes instead\n"
+               "                             (\"#\" stands for a number from 1 to 99, \"##\" for any "
+               "number)\n"
+               "  --list-attributes [EXT]    list the attributes (key, name, type, description), or those\n"
+               "                             that files with this extension can carry, and exit\n"
+               "  --format text|json|csv     output format (default text: a blank line between groups)\n"
+               "  -0, --print0               text output with each path as its exact bytes ended by a NUL\n"
+               "                             instead of a newline, and one more NUL ending each group\n"
+               "                             (text format only; for actions see below)\n"
+               "  --summary                  counts to standard error\n"
+               "  --anywhere                 the first path is a file: find its copies in the other paths,\n"
+               "                             or without them anywhere on the file's drive\n"
+               "  --no-cache                 read every compared file: neither use nor update the digest\n"
+               "                             cache (kept in $XDG_CACHE_HOME/selfsame)\n"
+               "  --select RULE [OPTIONS]    show which copies a selection rule picks (see below)\n"
+               "  -h, --help                 show this help\n"
+               "  --version                  show the version\n"
+               "\n") +
            selectUsageText() +
-           tr("\n"
-              "Without --print0 every path is shown on one line, escaped much as ls -b does: \\\\ for a\n"
-              "backslash; \\n, \\t, \\r, \\a, \\b, \\f, \\v for those control characters; \\xHH for the\n"
-              "bytes of any other control character and for each byte that is not UTF-8 (\\xFF); spaces\n"
-              "stay as they are. Messages and file-action lines show paths the same way.\n"
-              "\n"
-              "Exit status: 0 duplicates found, 1 none found, 2 bad usage or input, 130 interrupted.\n");
+           CliText::tr(
+               "\n"
+               "Without --print0 every path is shown on one line, escaped much as ls -b does: \\\\ for a\n"
+               "backslash; \\n, \\t, \\r, \\a, \\b, \\f, \\v for those control characters; \\xHH for the\n"
+               "bytes of any other control character and for each byte that is not UTF-8 (\\xFF); spaces\n"
+               "stay as they are. Messages and file-action lines show paths the same way.\n"
+               "\n"
+               "Exit status: 0 duplicates found, 1 none found, 2 bad usage or input, 130 interrupted.\n");
 }
 
 ParseResult parseCommandLine(const QStringList &arguments)
@@ -104,6 +116,8 @@ ParseResult parseCommandLine(const QStringList &arguments)
     QStringList skipLines, paths;
     bool extensionGiven = false;
     std::optional<double> tolerance;
+    std::optional<int> similarity;
+    bool distinguishGreyscale = false;
     std::optional<QString> suffixes;
     bool ignoreSuffixes = false, attributeGiven = false, anywhere = false, print0 = false;
     SelectRequest select;
@@ -121,10 +135,9 @@ ParseResult parseCommandLine(const QStringList &arguments)
             value = argument.mid(equals + 1);
             argument.truncate(equals);
             if (!takesValue(argument) && argument != QLatin1String("--list-attributes"))
-                return fail(tr("option %1 takes no value").arg(argument));
+                return fail(CliText::tr("option %1 takes no value").arg(argument));
         } else if (takesValue(argument)) {
-            if (++i == arguments.size())
-                return fail(tr("option %1 needs a value").arg(argument));
+            if (++i == arguments.size()) return fail(CliText::tr("option %1 needs a value").arg(argument));
             value = arguments[i];
         }
 
@@ -139,19 +152,18 @@ ParseResult parseCommandLine(const QStringList &arguments)
             request.skipHiddenFiles = false;
         } else if (argument == QLatin1String("--min-size")) {
             if (!parseSize(value, &request.minFileSize))
-                return fail(tr("invalid size for --min-size: '%1'").arg(value));
+                return fail(CliText::tr("invalid size for --min-size: '%1'").arg(value));
         } else if (argument == QLatin1String("--max-size")) {
             if (!parseSize(value, &request.maxFileSize))
-                return fail(tr("invalid size for --max-size: '%1'").arg(value));
+                return fail(CliText::tr("invalid size for --max-size: '%1'").arg(value));
         } else if (argument == QLatin1String("--no-size-filter")) {
             request.filterFileSize = false;
         } else if (argument == QLatin1String("--ext") || argument == QLatin1String("--exclude-ext")) {
-            if (extensionGiven)
-                return fail(tr("give only one of --ext and --exclude-ext"));
+            if (extensionGiven) return fail(CliText::tr("give only one of --ext and --exclude-ext"));
             extensionGiven = true;
             request.extensions = normalizedExtensions(QString(value).replace(QLatin1Char(','), QLatin1Char(' ')));
             if (request.extensions.isEmpty())
-                return fail(tr("%1 needs at least one extension").arg(argument));
+                return fail(CliText::tr("%1 needs at least one extension").arg(argument));
             request.extensionsMode =
                 argument == QLatin1String("--ext") ? ExtensionsMode::Only : ExtensionsMode::AllBut;
         } else if (argument == QLatin1String("--skip")) {
@@ -160,7 +172,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
             bool ok = false;
             const qint64 depth = value.toLongLong(&ok);
             if (!ok || depth < 1)
-                return fail(tr("--depth needs a whole number of at least 1, not '%1'").arg(value));
+                return fail(CliText::tr("--depth needs a whole number of at least 1, not '%1'").arg(value));
             request.limitFolderDepth = depth - 1;
         } else if (argument == QLatin1String("--compare-folders")) {
             request.compareFolders = true;
@@ -180,7 +192,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
             else if (value == QLatin1String("csv"))
                 options.format = OutputFormat::Csv;
             else
-                return fail(tr("--format takes text, json or csv, not '%1'").arg(value));
+                return fail(CliText::tr("--format takes text, json or csv, not '%1'").arg(value));
         } else if (argument == QLatin1String("-0") || argument == QLatin1String("--print0")) {
             print0 = true;
         } else if (argument == QLatin1String("--summary")) {
@@ -190,19 +202,29 @@ ParseResult parseCommandLine(const QStringList &arguments)
         } else if (argument == QLatin1String("--no-cache")) {
             options.useCache = false;
         } else if (argument == QLatin1String("--mode")) {
-            static const QStringList modes = {"content", "duration", "name", "attribute"};
+            static const QStringList modes = {"content",   "duration",       "name",
+                                              "attribute", "similar-images", "similar-audio"};
             const qsizetype mode = modes.indexOf(value);
             if (mode < 0)
-                return fail(tr("--mode takes content, duration, name or attribute, not '%1'").arg(value));
+                return fail(CliText::tr("--mode takes content, duration, name, attribute, similar-images or "
+                                        "similar-audio, not '%1'")
+                                .arg(value));
             request.detectionMode = DetectionMode(mode);
+        } else if (argument == QLatin1String("--similarity")) {
+            bool ok = false;
+            similarity = value.toInt(&ok);
+            if (!ok || *similarity < 0 || *similarity > 100)
+                return fail(
+                    CliText::tr("--similarity needs a whole number from 0 to 100, not '%1'").arg(value));
+        } else if (argument == QLatin1String("--distinguish-greyscale")) {
+            distinguishGreyscale = true;
         } else if (argument == QLatin1String("--tolerance")) {
             bool ok = false;
             tolerance = value.toDouble(&ok);
             if (!ok || *tolerance < 0)
-                return fail(tr("--tolerance needs a number of at least 0, not '%1'").arg(value));
+                return fail(CliText::tr("--tolerance needs a number of at least 0, not '%1'").arg(value));
         } else if (argument == QLatin1String("--attribute")) {
-            if (value.isEmpty())
-                return fail(tr("--attribute needs a key such as kMDItemTitle"));
+            if (value.isEmpty()) return fail(CliText::tr("--attribute needs a key such as kMDItemTitle"));
             request.spotlightAttribute = value;
             attributeGiven = true;
         } else if (argument == QLatin1String("--ignore-extension")) {
@@ -219,13 +241,11 @@ ParseResult parseCommandLine(const QStringList &arguments)
             else if (i + 1 < arguments.size() && !arguments[i + 1].startsWith(QLatin1Char('-')))
                 options.listAttributes = arguments[++i];
         } else if (argument == QLatin1String("--select")) {
-            if (!select.rule.isEmpty())
-                return fail(tr("give only one --select"));
+            if (!select.rule.isEmpty()) return fail(CliText::tr("give only one --select"));
             select.rule = value;
             const bool next = i + 1 < arguments.size();
             if (selectRuleTakesFolder(value)) {
-                if (!next)
-                    return fail(tr("--select folder needs a folder"));
+                if (!next) return fail(CliText::tr("--select folder needs a folder"));
                 select.operand = arguments[++i];
             } else if (selectRuleMayTakeTag(value) && next && !arguments[i + 1].startsWith(QLatin1Char('-'))) {
                 select.operand = arguments[++i];
@@ -233,7 +253,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
         } else if (isSelectOption(argument)) {
             select.options.append({argument, value});
         } else if (argument.startsWith(QLatin1Char('-')) && argument.size() > 1) {
-            return fail(tr("unknown option %1").arg(argument));
+            return fail(CliText::tr("unknown option %1").arg(argument));
         } else {
             paths.append(argument);
         }
@@ -242,17 +262,24 @@ ParseResult parseCommandLine(const QStringList &arguments)
         return result;
 
     if (print0 && options.format != OutputFormat::Text)
-        return fail(tr("--print0 goes with the text format only"));
+        return fail(CliText::tr("--print0 goes with the text format only"));
     if (print0)
         options.format = OutputFormat::NulTerminated;
 
     const DetectionMode mode = request.detectionMode;
     if (tolerance && mode != DetectionMode::Duration && mode != DetectionMode::Attribute)
-        return fail(tr("--tolerance applies to the duration and attribute modes only"));
+        return fail(CliText::tr("--tolerance applies to the duration and attribute modes only"));
+    if (similarity && !isSimilarityMode(mode))
+        return fail(CliText::tr("--similarity applies to the similar-images and similar-audio modes only"));
+    if (distinguishGreyscale && mode != DetectionMode::SimilarImages)
+        return fail(CliText::tr("--distinguish-greyscale applies to the similar-images mode only"));
+    request.similarity = similarity.value_or(kDefaultSimilarity);
+    request.distinguishGreyscale = distinguishGreyscale;
     if (attributeGiven && mode != DetectionMode::Attribute)
-        return fail(tr("--attribute applies to the attribute mode only"));
+        return fail(CliText::tr("--attribute applies to the attribute mode only"));
     if ((request.filenameIgnoreExtension || ignoreSuffixes || suffixes) && mode != DetectionMode::FileName)
-        return fail(tr("--ignore-extension, --ignore-suffixes and --suffixes apply to the name mode only"));
+        return fail(
+            CliText::tr("--ignore-extension, --ignore-suffixes and --suffixes apply to the name mode only"));
     if (mode == DetectionMode::Duration && tolerance)
         request.durationTolerance = *tolerance;
     if (mode == DetectionMode::Attribute) {
@@ -273,7 +300,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
             return fail(error);
         options.select = settings;
     } else if (!select.options.isEmpty()) {
-        return fail(tr("%1 needs --select").arg(select.options.first().first));
+        return fail(CliText::tr("%1 needs --select").arg(select.options.first().first));
     }
 
     if (!skipLines.isEmpty()) {
@@ -286,12 +313,11 @@ ParseResult parseCommandLine(const QStringList &arguments)
         request.skipFilenameRegexes = *expressions;
     }
 
-    if (paths.isEmpty())
-        return fail(tr("no folder or file to search"));
+    if (paths.isEmpty()) return fail(CliText::tr("no folder or file to search"));
     if (anywhere) {
         const QString file = paths.takeFirst();
         if (!isRegularFile(file, Links::AsThemselves))
-            return fail(tr("--anywhere needs a file, not '%1'").arg(escapedText(file)));
+            return fail(CliText::tr("--anywhere needs a file, not '%1'").arg(escapedText(file)));
         request.searchInFolderURLs.append(absolutePath(file));
         request.findAllDupesForSingleFiles = true;
         for (const QString &path : paths) {
@@ -301,7 +327,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
                 options.missingPaths.append(path);
         }
         if (!paths.isEmpty() && options.singleFileScope.isEmpty())
-            result.error = tr("none of the given paths exists");
+            result.error = CliText::tr("none of the given paths exists");
         return result;
     }
     for (const QString &path : paths) {
@@ -311,8 +337,7 @@ ParseResult parseCommandLine(const QStringList &arguments)
         }
         request.searchInFolderURLs.append(absolutePath(path));
     }
-    if (request.searchInFolderURLs.isEmpty())
-        result.error = tr("none of the given paths exists");
+    if (request.searchInFolderURLs.isEmpty()) result.error = CliText::tr("none of the given paths exists");
     return result;
 }
 

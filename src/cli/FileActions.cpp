@@ -1,6 +1,7 @@
 #include "FileActions.h"
 
 #include "CliPaths.h"
+#include "CliText.h"
 #include "fileops/CloneAlerts.h"
 #include "fileops/CloneWorker.h"
 #include "fileops/DeleteActions.h"
@@ -21,24 +22,19 @@ namespace selfsame::cli
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("FileActions", text);
-}
-
 QString modeName(int mode)
 {
     switch (mode) {
     case ReplaceWithAlias:
-        return tr("an alias");
+        return CliText::tr("an alias");
     case ReplaceWithSymbolicLink:
-        return tr("a symbolic link");
+        return CliText::tr("a symbolic link");
     case ReplaceWithRelativeSymbolicLink:
-        return tr("a relative symbolic link");
+        return CliText::tr("a relative symbolic link");
     case ReplaceWithHardLink:
-        return tr("a hard link");
+        return CliText::tr("a hard link");
     default:
-        return tr("a clone");
+        return CliText::tr("a clone");
     }
 }
 
@@ -50,7 +46,7 @@ QList<ActionGroup> safeGroups(const QList<ActionGroup> &groups, const Writer &er
         if (g.selected.isEmpty()) continue;
         if (!g.reference || g.selected.size() >= g.members.size() || g.selected.contains(g.reference)) {
             ++*refused;
-            err(tr("refused: %1: every copy of its group is selected\n")
+            err(CliText::tr("refused: %1: every copy of its group is selected\n")
                     .arg(escapedText(g.selected.first()->path))
                     .toUtf8());
             continue;
@@ -64,15 +60,17 @@ QList<ActionGroup> safeGroups(const QList<ActionGroup> &groups, const Writer &er
 int reportRecovery(const RecoveryReport &report, const Writer &err)
 {
     for (const QString &path : report.rolledBack)
-        err(tr("recovered: %1: an interrupted action was rolled back, the file is as it was\n")
+        err(CliText::tr("recovered: %1: an interrupted action was rolled back, the file is as it was\n")
                 .arg(escapedText(path))
                 .toUtf8());
     for (const QString &path : report.finished)
-        err(tr("recovered: %1: an interrupted action was finished\n").arg(escapedText(path)).toUtf8());
+        err(CliText::tr("recovered: %1: an interrupted action was finished\n")
+                .arg(escapedText(path))
+                .toUtf8());
     for (const QString &failure : report.failed)
-        err(tr("recovery failed: %1\n").arg(escapedText(failure)).toUtf8());
+        err(CliText::tr("recovery failed: %1\n").arg(escapedText(failure)).toUtf8());
     if (report.planFoldersRemoved > 0)
-        err(tr("recovered: removed %1 temporary folders of interrupted cloning plans\n")
+        err(CliText::tr("recovered: removed %1 temporary folders of interrupted cloning plans\n")
                 .arg(report.planFoldersRemoved)
                 .toUtf8());
     return int(report.failed.size());
@@ -91,15 +89,15 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
     int changed = 0;
     for (const ActionGroup &g : groups) {
         const QString replacement =
-            mode ? tr(", replaced by %1 to %2").arg(modeName(mode), escapedText(g.reference->path))
+            mode ? CliText::tr(", replaced by %1 to %2").arg(modeName(mode), escapedText(g.reference->path))
                  : QString();
         if (!options.perform) {
             for (const ResultItem *item : g.selected) {
-                out(options.print0
-                        ? nulTerminatedPath(item->path)
-                        : (trash ? tr("would move to the trash: %1%2\n") : tr("would delete: %1%2\n"))
-                              .arg(escapedText(item->path), replacement)
-                              .toUtf8());
+                out(options.print0 ? nulTerminatedPath(item->path)
+                                   : (trash ? CliText::tr("would move to the trash: %1%2\n")
+                                            : CliText::tr("would delete: %1%2\n"))
+                                         .arg(escapedText(item->path), replacement)
+                                         .toUtf8());
                 ++done;
             }
             continue;
@@ -110,32 +108,38 @@ int runDeletes(const FileActionOptions &options, const QList<ActionGroup> &group
         for (const DeleteOutcome &o : report.outcomes) {
             if (o.status.isEmpty()) {
                 ++failures;
-                err(tr("failed: %1: %2\n").arg(escapedText(o.item->path), escapedText(o.error)).toUtf8());
+                err(CliText::tr("failed: %1: %2\n")
+                        .arg(escapedText(o.item->path), escapedText(o.error))
+                        .toUtf8());
                 continue;
             }
             ++done;
             const QString where = o.item->trashedURL().isEmpty()
                                       ? QString()
-                                      : tr(" (now %1)").arg(escapedText(o.item->trashedURL()));
-            out(options.print0 ? nulTerminatedPath(o.item->path)
-                               : (trash ? tr("moved to the trash: %1%2%3\n") : tr("deleted: %1%2%3\n"))
-                                     .arg(escapedText(o.item->path), replacement, where)
-                                     .toUtf8());
-            if (!o.error.isEmpty()) err(tr("warning: %1\n").arg(escapedText(o.error)).toUtf8());
+                                      : CliText::tr(" (now %1)").arg(escapedText(o.item->trashedURL()));
+            out(options.print0
+                    ? nulTerminatedPath(o.item->path)
+                    : (trash ? CliText::tr("moved to the trash: %1%2%3\n") : CliText::tr("deleted: %1%2%3\n"))
+                          .arg(escapedText(o.item->path), replacement, where)
+                          .toUtf8());
+            if (!o.error.isEmpty()) err(CliText::tr("warning: %1\n").arg(escapedText(o.error)).toUtf8());
         }
     }
     const QString summary = options.perform
-                                ? tr("%1 done, %2 failed\n")
-                                : tr("%1 would be done, %2 refused (dry run: add --yes to act)\n");
+                                ? CliText::tr("%1 done, %2 failed\n")
+                                : CliText::tr("%1 would be done, %2 refused (dry run: add --yes to act)\n");
     err(summary.arg(done).arg(failures).toUtf8());
     const bool forGood = !trash && mode == ReplaceWithNone;
     if (!options.perform && forGood && done > 0)
-        err(tr("deleting cannot be undone: files deleted with nothing in their place are gone for good\n").toUtf8());
+        err(CliText::tr(
+                "deleting cannot be undone: files deleted with nothing in their place are gone for good\n")
+                .toUtf8());
     else if (options.perform && !forGood && done > 0)
-        err(tr("`selfsame-cli undo` undoes this action\n").toUtf8());
+        err(CliText::tr("`selfsame-cli undo` undoes this action\n").toUtf8());
     if (changed > 0)
-        err(tr("left alone because they or their kept copy changed since the search, or because they were "
-               "one file reached through two paths: %1\n")
+        err(CliText::tr(
+                "left alone because they or their kept copy changed since the search, or because they were "
+                "one file reached through two paths: %1\n")
                 .arg(changed)
                 .toUtf8());
     return failures == 0 ? 0 : 1;
@@ -160,17 +164,17 @@ int runClones(const FileActionOptions &options, const QList<ActionGroup> &groups
     CloneCounts counts;
     worker.perform(false, true, true, &counts);
     if (!options.planPath.isEmpty())
-        err(tr("plan written to %1\n").arg(escapedText(options.planPath)).toUtf8());
+        err(CliText::tr("plan written to %1\n").arg(escapedText(options.planPath)).toUtf8());
     else if (QFile plan(worker.logFilePath());
              !options.perform && !options.print0 && plan.open(QIODevice::ReadOnly))
         out(plan.readAll()); // free text, not NUL-ended paths: left out with --print0
     if (counts.replaceDuplicates == 0 || counts.byClones == 0) {
-        err(tr("%1\n").arg(noClonableFileAlert().message).toUtf8());
+        err(CliText::tr("%1\n").arg(noClonableFileAlert().message).toUtf8());
         return 1;
     }
-    err(tr("%1\n").arg(cloneConfirmationAlert(counts).message).toUtf8());
+    err(CliText::tr("%1\n").arg(cloneConfirmationAlert(counts).message).toUtf8());
     if (!options.perform) {
-        err(tr("dry run: add --yes to clone\n").toUtf8());
+        err(CliText::tr("dry run: add --yes to clone\n").toUtf8());
         return failures == 0 ? 0 : 1;
     }
     std::optional<Journal> journal;
@@ -179,11 +183,11 @@ int runClones(const FileActionOptions &options, const QList<ActionGroup> &groups
     worker.perform(true, true, true);
     for (const ResultItem *item : worker.cloned())
         out(options.print0 ? nulTerminatedPath(item->path)
-                           : tr("cloned: %1\n").arg(escapedText(item->path)).toUtf8());
+                           : CliText::tr("cloned: %1\n").arg(escapedText(item->path)).toUtf8());
     for (const CloneFailure &f : worker.failures())
-        err(tr("failed: %1: %2\n").arg(escapedText(f.item->path), escapedText(f.reason)).toUtf8());
+        err(CliText::tr("failed: %1: %2\n").arg(escapedText(f.item->path), escapedText(f.reason)).toUtf8());
     failures += int(worker.failures().size());
-    err(tr("%1 cloned, %2 failed\n").arg(worker.cloned().size()).arg(failures).toUtf8());
+    err(CliText::tr("%1 cloned, %2 failed\n").arg(worker.cloned().size()).arg(failures).toUtf8());
     return failures == 0 ? 0 : 1;
 }
 
@@ -215,7 +219,7 @@ bool openJournal(std::optional<Journal> &journal, const Writer &err)
 {
     journal.emplace(Journal::defaultPath());
     if (!journal->isOpen()) {
-        err(tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
+        err(CliText::tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
                 .arg(escapedText(Journal::defaultPath()), journal->error())
                 .toUtf8());
         return false;
@@ -227,14 +231,14 @@ int runRecover(const Writer &out, const Writer &err)
 {
     Journal journal(Journal::defaultPath());
     if (!journal.isOpen()) {
-        err(tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
+        err(CliText::tr("selfsame-cli: the operations journal %1 cannot be opened: %2\n")
                 .arg(escapedText(Journal::defaultPath()), journal.error())
                 .toUtf8());
         return 1;
     }
     const RecoveryReport report = recoverInterrupted(journal);
     const int failures = reportRecovery(report, err);
-    out(tr("%1 rolled back, %2 finished, %3 failed\n")
+    out(CliText::tr("%1 rolled back, %2 finished, %3 failed\n")
             .arg(report.rolledBack.size())
             .arg(report.finished.size())
             .arg(failures)

@@ -1,24 +1,17 @@
 #include "JournalCommands.h"
 
 #include "CliPaths.h"
+#include "CliText.h"
 #include "FileActions.h"
 #include "journal/Undo.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
 
+#include <algorithm>
+
 namespace selfsame::cli
 {
-
-namespace
-{
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("JournalCommands", text);
-}
-
-} // namespace
 
 int runJournalListing(const std::function<void(const QByteArray &)> &out,
                       const std::function<void(const QByteArray &)> &err)
@@ -27,18 +20,32 @@ int runJournalListing(const std::function<void(const QByteArray &)> &out,
     if (!openJournal(journal, err)) return 1;
     const QList<JournalBatch> batches = journal->batches();
     if (batches.isEmpty()) {
-        err(tr("The operations journal holds no actions.\n").toUtf8());
+        err(CliText::tr("The operations journal holds no actions.\n").toUtf8());
         return 0;
     }
-    out(tr("ACTION  WHEN              FILES  STATE             WHAT\n").toUtf8());
+    // Columns as wide as their translated headings and states, at least.
+    const QString headings[] = {CliText::tr("ACTION"), CliText::tr("WHEN"), CliText::tr("FILES"),
+                                CliText::tr("STATE"), CliText::tr("WHAT")};
+    const int idWidth = std::max(6, int(headings[0].size())),
+              whenWidth = std::max(16, int(headings[1].size())),
+              filesWidth = std::max(5, int(headings[2].size()));
+    int stateWidth = std::max(16, int(headings[3].size()));
+    for (const JournalBatch &batch : batches)
+        stateWidth = std::max(stateWidth, int(batchState(batch).size()));
+    const QString line = QStringLiteral("%1  %2  %3  %4  %5\n");
+    out(line.arg(headings[0], idWidth)
+            .arg(headings[1], -whenWidth)
+            .arg(headings[2], filesWidth)
+            .arg(headings[3], -stateWidth)
+            .arg(headings[4])
+            .toUtf8());
     for (const JournalBatch &batch : batches) {
         const QString when =
             QDateTime::fromSecsSinceEpoch(batch.started).toString(QStringLiteral("yyyy-MM-dd HH:mm"));
-        out(QStringLiteral("%1  %2  %3  %4  %5\n")
-                .arg(batch.id, 6)
-                .arg(when, -16)
-                .arg(batch.files, 5)
-                .arg(batchState(batch), -16)
+        out(line.arg(batch.id, idWidth)
+                .arg(when, -whenWidth)
+                .arg(batch.files, filesWidth)
+                .arg(batchState(batch), -stateWidth)
                 .arg(describeBatch(batch))
                 .toUtf8());
     }
@@ -51,8 +58,9 @@ int runUndo(const QStringList &arguments, const std::function<void(const QByteAr
     bool number = arguments.size() == 1;
     const qint64 asked = arguments.size() == 1 ? arguments.first().toLongLong(&number) : 0;
     if (arguments.size() > 1 || (arguments.size() == 1 && (!number || asked <= 0))) {
-        err(tr("selfsame-cli: undo takes at most one action number, as `selfsame-cli journal` lists them\n"
-               "Usage: selfsame-cli undo [ACTION]\n")
+        err(CliText::tr(
+                "selfsame-cli: undo takes at most one action number, as `selfsame-cli journal` lists them\n"
+                "Usage: selfsame-cli undo [ACTION]\n")
                 .toUtf8());
         return 2;
     }
@@ -60,27 +68,27 @@ int runUndo(const QStringList &arguments, const std::function<void(const QByteAr
     if (!openJournal(journal, err)) return 1;
     std::optional<JournalBatch> batch = asked ? journal->batch(asked) : lastUndoableBatch(*journal);
     if (!batch) {
-        err((asked ? tr("selfsame-cli: there is no action %1 in the journal\n").arg(asked)
-                   : tr("selfsame-cli: there is no action to undo\n"))
+        err((asked ? CliText::tr("selfsame-cli: there is no action %1 in the journal\n").arg(asked)
+                   : CliText::tr("selfsame-cli: there is no action to undo\n"))
                 .toUtf8());
         return 1;
     }
-    err(tr("undoing action %1: %2, %3\n")
+    err(CliText::tr("undoing action %1: %2, %3\n")
             .arg(QString::number(batch->id), describeBatch(*batch),
-                 batch->files == 1 ? tr("1 file") : tr("%1 files").arg(batch->files))
+                 CliText::tr("%Ln file(s)", nullptr, int(batch->files)))
             .toUtf8());
     const UndoReport report = undoBatch(*journal, batch->id);
     if (!report.error.isEmpty()) {
-        err(tr("selfsame-cli: %1\n").arg(report.error).toUtf8());
+        err(CliText::tr("selfsame-cli: %1\n").arg(report.error).toUtf8());
         return 1;
     }
     for (const QString &path : report.undone)
-        out(tr("undone: %1\n").arg(escapedText(path)).toUtf8());
+        out(CliText::tr("undone: %1\n").arg(escapedText(path)).toUtf8());
     for (const QString &path : report.deletedForGood)
-        err(tr("cannot be undone: %1: it was deleted for good\n").arg(escapedText(path)).toUtf8());
+        err(CliText::tr("cannot be undone: %1: it was deleted for good\n").arg(escapedText(path)).toUtf8());
     for (const QString &refusal : report.refused)
-        err(tr("refused: %1\n").arg(escapedText(refusal)).toUtf8());
-    err(tr("%1 undone, %2 refused, %3 deleted for good\n")
+        err(CliText::tr("refused: %1\n").arg(escapedText(refusal)).toUtf8());
+    err(CliText::tr("%1 undone, %2 refused, %3 deleted for good\n")
             .arg(report.undone.size())
             .arg(report.refused.size())
             .arg(report.deletedForGood.size())

@@ -1,6 +1,7 @@
 #include "PutBackCommand.h"
 
 #include "CliPaths.h"
+#include "CliText.h"
 #include "FileActions.h"
 #include "fileops/PutBack.h"
 #include "fileops/Trash.h"
@@ -10,22 +11,12 @@
 namespace selfsame::cli
 {
 
-namespace
-{
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PutBackCommand", text);
-}
-
-} // namespace
-
 int runPutBack(const QStringList &files, const std::function<void(const QByteArray &)> &out,
                const std::function<void(const QByteArray &)> &err)
 {
     if (files.isEmpty()) {
-        err(tr("selfsame-cli: put-back needs the files in the trash to put back\n"
-               "Usage: selfsame-cli put-back FILE...\n")
+        err(CliText::tr("selfsame-cli: put-back needs the files in the trash to put back\n"
+                        "Usage: selfsame-cli put-back FILE...\n")
                 .toUtf8());
         return 2;
     }
@@ -38,20 +29,22 @@ int runPutBack(const QStringList &files, const std::function<void(const QByteArr
         const QString destination = putBackPath(trashed);
         if (destination.isEmpty()) {
             ++failures;
-            err(tr("not put back: %1: no record of where it came from\n").arg(escapedText(trashed)).toUtf8());
+            err(CliText::tr("not put back: %1: no record of where it came from\n")
+                    .arg(escapedText(trashed))
+                    .toUtf8());
             continue;
         }
         const PutBackResult result = putBackFile(trashed, destination, &*journal);
         if (!result.ok()) {
             ++failures;
-            err(tr("not put back: %1 -> %2: %3\n")
+            err(CliText::tr("not put back: %1 -> %2: %3\n")
                     .arg(escapedText(trashed), escapedText(destination), escapedText(result.errorText))
                     .toUtf8());
             continue;
         }
-        out(tr("put back: %1 -> %2\n").arg(escapedText(trashed), escapedText(destination)).toUtf8());
+        out(CliText::tr("put back: %1 -> %2\n").arg(escapedText(trashed), escapedText(destination)).toUtf8());
     }
-    err(tr("%1 put back, %2 failed\n").arg(files.size() - failures).arg(failures).toUtf8());
+    err(CliText::tr("%1 put back, %2 failed\n").arg(files.size() - failures).arg(failures).toUtf8());
     return failures == 0 ? 0 : 1;
 }
 

@@ -1,6 +1,7 @@
 #include "ResultOutput.h"
 
 #include "CliPaths.h"
+#include "CliText.h"
 #include "format/IsoDate.h"
 #include "names/FileNames.h"
 #include "results/JsonWriter.h"
@@ -9,6 +10,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <set>
 
@@ -57,8 +59,10 @@ QList<QList<const ResultItem *>> groupsOf(const QList<ResultItem> &items)
         byGroup[item.group].append(&item);
     QList<QList<const ResultItem *>> groups;
     for (auto &[number, members] : byGroup) {
-        std::sort(members.begin(), members.end(),
-                  [](const ResultItem *a, const ResultItem *b) { return a->path < b->path; });
+        // A group of similar files keeps its anchor first: the others are alike to it only.
+        if (std::isnan(members.first()->similarity()))
+            std::sort(members.begin(), members.end(),
+                      [](const ResultItem *a, const ResultItem *b) { return a->path < b->path; });
         groups.append(members);
     }
     return groups;
@@ -80,7 +84,16 @@ ResultSummary summarize(const QList<ResultItem> &items)
             if (newInode && newAllocation)
                 ++storages;
         }
-        summary.reclaimableBytes += (storages - 1) * group.first()->size;
+        if (std::isnan(group.first()->similarity())) {
+            summary.reclaimableBytes += (storages - 1) * group.first()->size;
+            continue;
+        }
+        // Similar files differ in size: all but the anchor could go.
+        std::set<std::pair<quint64, quint64>> others;
+        for (const ResultItem *item : group.mid(1))
+            if (!(item->device == group.first()->device && item->inode == group.first()->inode) &&
+                others.insert({item->device, item->inode}).second)
+                summary.reclaimableBytes += item->size;
     }
     return summary;
 }
@@ -148,6 +161,7 @@ void writeResults(const QList<ResultItem> &items, const SearchRequest &request, 
         ResultsFile::Content content;
         content.request = &request;
         content.groups = groups;
+        content.partial = statistics.stopped;
         if (selection)
             content.writeItemExtras = [selection](JsonWriter &json, const ResultItem &item) {
                 json.key("autoSelect");
@@ -174,17 +188,21 @@ void writeResults(const QList<ResultItem> &items, const SearchRequest &request, 
 QByteArray summaryText(const QList<ResultItem> &items, const SearchStatistics &statistics)
 {
     const QJsonObject summary = summaryObject(items, statistics);
+    // The counts stay plain digits, for scripts that read them.
     static const std::pair<const char *, const char *> kLines[] = {
-        {"filesEnumerated", "files enumerated"},     {"filesHashed", "files hashed"},
-        {"filesToldApartBySample", "files told apart by their first and last bytes"},
-        {"bytesRead", "bytes read"},
-        {"filesFromCache", "files known from the digest cache"},
-        {"unreadableFolders", "unreadable folders"},
-        {"unreadableFiles", "unreadable files"},      {"groups", "groups"},
-        {"duplicates", "duplicates"},                 {"reclaimableBytes", "reclaimable bytes"}};
+        {"filesEnumerated", QT_TRANSLATE_NOOP("SelfsameCli", "files enumerated: %1")},
+        {"filesHashed", QT_TRANSLATE_NOOP("SelfsameCli", "files hashed: %1")},
+        {"filesToldApartBySample", QT_TRANSLATE_NOOP("SelfsameCli", "files told apart by their first and last bytes: %1")},
+        {"bytesRead", QT_TRANSLATE_NOOP("SelfsameCli", "bytes read: %1")},
+        {"filesFromCache", QT_TRANSLATE_NOOP("SelfsameCli", "files known from the digest cache: %1")},
+        {"unreadableFolders", QT_TRANSLATE_NOOP("SelfsameCli", "unreadable folders: %1")},
+        {"unreadableFiles", QT_TRANSLATE_NOOP("SelfsameCli", "unreadable files: %1")},
+        {"groups", QT_TRANSLATE_NOOP("SelfsameCli", "groups: %1")},
+        {"duplicates", QT_TRANSLATE_NOOP("SelfsameCli", "duplicates: %1")},
+        {"reclaimableBytes", QT_TRANSLATE_NOOP("SelfsameCli", "reclaimable bytes: %1")}};
     QByteArray out;
-    for (const auto &[key, label] : kLines)
-        out += QByteArray(label) + ": " + QByteArray::number(summary.value(QLatin1String(key)).toInteger()) + '\n';
+    for (const auto &[key, line] : kLines)
+        out += (CliText::tr(line).arg(summary.value(QLatin1String(key)).toInteger()) + u'\n').toUtf8();
     return out;
 }
 

@@ -1,6 +1,7 @@
 #include "SelectOptions.h"
 
 #include "CliPaths.h"
+#include "CliText.h"
 
 #include <QCoreApplication>
 
@@ -9,11 +10,6 @@ namespace selfsame::cli
 
 namespace
 {
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("selfsame-cli", text);
-}
 
 struct Flag {
     const char *option;
@@ -47,6 +43,8 @@ int ruleNamed(const QString &name)
     if (name == QLatin1String("same-folder")) return SameFolderWhateverName;
     if (name == QLatin1String("folder")) return InsideFolder;
     if (name == QLatin1String("tag")) return ByTag;
+    if (name == QLatin1String("largest-picture")) return LargestPicture;
+    if (name == QLatin1String("highest-bitrate")) return BestRecording;
     return -1;
 }
 
@@ -86,11 +84,13 @@ QString selectSettings(const SelectRequest &request, AutoSelectSettings *setting
     AutoSelectSettings s = autoSelectSettingsFrom({});
     s.choice = ruleNamed(request.rule);
     if (s.choice < 0)
-        return tr("unknown rule for --select: '%1' (same-folder-name, same-folder, folder or tag)")
+        return CliText::tr("unknown rule for --select: '%1' (same-folder-name, same-folder, folder, tag, "
+                           "largest-picture or highest-bitrate)")
             .arg(request.rule);
     if (s.choice == InsideFolder) {
         if (!isFolder(request.operand))
-            return tr("--select folder needs an existing folder, not '%1'").arg(escapedText(request.operand));
+            return CliText::tr("--select folder needs an existing folder, not '%1'")
+                .arg(escapedText(request.operand));
         s.folder = absolutePath(request.operand);
     }
     s.tagValue = request.operand;
@@ -103,7 +103,7 @@ QString selectSettings(const SelectRequest &request, AutoSelectSettings *setting
                           : option == QLatin1String("--keep")
                               ? s.choice == SameFolderWhateverName
                               : s.choice == SameFolderWhateverName || s.choice == InsideFolder;
-        if (!fits) return tr("%1 does not apply to --select %2").arg(option, request.rule);
+        if (!fits) return CliText::tr("%1 does not apply to --select %2").arg(option, request.rule);
         if (find(kLocations, option)) {
             s.inside = flag->value;
         } else if (find(kDateCriteria, option)) {
@@ -113,25 +113,26 @@ QString selectSettings(const SelectRequest &request, AutoSelectSettings *setting
             tagless = flag->value == HavingAnyTag || flag->value == HavingNoTag;
         } else if (option == QLatin1String("--keep")) {
             if (value != QLatin1String("oldest") && value != QLatin1String("newest"))
-                return tr("--keep takes oldest or newest, not '%1'").arg(value);
+                return CliText::tr("--keep takes oldest or newest, not '%1'").arg(value);
             s.oldest = value == QLatin1String("oldest") ? 0 : 1;
         } else {
             const int tag = dateTag(value);
-            if (tag < 0) return tr("--date takes created, modified, last-used or added, not '%1'").arg(value);
+            if (tag < 0)
+                return CliText::tr("--date takes created, modified, last-used or added, not '%1'").arg(value);
             s.date = s.insideDate = tag;
         }
     }
     if (s.choice == ByTag && !tagless && request.operand.isEmpty())
-        return tr("--select tag needs a tag name, or --any-tag or --no-tag");
+        return CliText::tr("--select tag needs a tag name, or --any-tag or --no-tag");
     if (s.choice == ByTag && tagless && !request.operand.isEmpty())
-        return tr("--any-tag and --no-tag take no tag name");
+        return CliText::tr("--any-tag and --no-tag take no tag name");
     *settings = s;
     return {};
 }
 
 QString selectUsageText()
 {
-    return tr(
+    return CliText::tr(
         "Automatic selection (files are never touched; each path line starts with\n"
         "\"select \" or \"keep \", or two blanks where the rule decided nothing):\n"
         "  --select same-folder-name  in each folder, keep \"name.ext\" and select \"name copy.ext\",\n"
@@ -143,7 +144,9 @@ QString selectUsageText()
         "                             select the copies located so relative to DIR (only those\n"
         "                             newer, older or as old as a copy elsewhere), keep the others\n"
         "  --select tag NAME [--having|--not-having]   or   --select tag --any-tag|--no-tag\n"
-        "                             select the copies having (or lacking) the tag, keep the others\n");
+        "                             select the copies having (or lacking) the tag, keep the others\n"
+        "  --select largest-picture   similar pictures: keep the most pixels, then the largest file\n"
+        "  --select highest-bitrate   same recordings: keep the highest bit rate, then a lossless format\n");
 }
 
 } // namespace selfsame::cli

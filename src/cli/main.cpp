@@ -3,6 +3,7 @@
 #include "AttributeListing.h"
 #include "CliOptions.h"
 #include "CliPaths.h"
+#include "CliText.h"
 #include "FileActionOptions.h"
 #include "FileActions.h"
 #include "JournalCommands.h"
@@ -10,6 +11,8 @@
 #include "ResultOutput.h"
 #include "attributes/SpotlightAttributesManager.h"
 #include "autoselect/AutomaticSelection.h"
+#include "fileops/Replacement.h"
+#include "language/Translations.h"
 #include "results/ResultModel.h"
 #include "search/DigestCache.h"
 #include "search/DuplicateSearch.h"
@@ -60,6 +63,7 @@ int main(int argc, char *argv[])
     QCoreApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("selfsame-cli"));
     QCoreApplication::setApplicationVersion(QStringLiteral(SELFSAME_VERSION));
+    installTranslations(&app);
 
     if (commandLine.value(1) == u"put-back")
         return runPutBack(commandLine.mid(2), [](const QByteArray &b) { writeAll(stdout, b); },
@@ -80,10 +84,11 @@ int main(int argc, char *argv[])
     if (commandLine.value(1) == u"clear-cache" && commandLine.size() == 2) {
         const QString path = escapedText(DigestCache::defaultPath());
         if (!DigestCache::clear(DigestCache::defaultPath())) {
-            writeAll(stderr, QStringLiteral("selfsame-cli: cannot remove the digest cache %1\n").arg(path).toUtf8());
+            writeAll(stderr,
+                     CliText::tr("selfsame-cli: cannot remove the digest cache %1\n").arg(path).toUtf8());
             return 1;
         }
-        writeAll(stdout, QStringLiteral("cleared the digest cache %1\n").arg(path).toUtf8());
+        writeAll(stdout, CliText::tr("cleared the digest cache %1\n").arg(path).toUtf8());
         return 0;
     }
 
@@ -101,10 +106,16 @@ int main(int argc, char *argv[])
         return 0;
     }
     actionOptions.print0 = options.format == OutputFormat::NulTerminated;
+    if (actionOptions.replaceWith != ReplaceWithNone && isSimilarityMode(options.request.detectionMode)) {
+        writeAll(stderr, CliText::tr("selfsame-cli: --replace-with needs copies of the same content; the similar "
+                                     "modes find files that only look or sound alike\n")
+                             .toUtf8());
+        return 2;
+    }
     if (acting && !options.select && parsed.error.isEmpty()) {
-        writeAll(stderr, QCoreApplication::translate("selfsame-cli", "selfsame-cli: --trash, --delete and "
-                                                                     "--replace-with act on the copies that "
-                                                                     "--select selects\n")
+        writeAll(stderr, CliText::tr("selfsame-cli: --trash, --delete and "
+                                     "--replace-with act on the copies that "
+                                     "--select selects\n")
                              .toUtf8());
         return 2;
     }
@@ -119,8 +130,8 @@ int main(int argc, char *argv[])
                 ? std::optional<AttributeRecords>(*SpotlightAttributesManager::GetAllSpotlightAttributes())
                 : SpotlightAttributesManager::GetSpotlightAttributesForFilenameExtension(extension, false);
         if (!records) {
-            writeAll(stderr, QCoreApplication::translate("selfsame-cli", "selfsame-cli: no file type is known for "
-                                                                         "the extension '%1'\n")
+            writeAll(stderr, CliText::tr("selfsame-cli: no file type is known for "
+                                         "the extension '%1'\n")
                                  .arg(extension)
                                  .toUtf8());
             return 1;
@@ -129,8 +140,9 @@ int main(int argc, char *argv[])
         return 0;
     }
     for (const QString &missing : options.missingPaths)
-        writeAll(stderr,
-                 QStringLiteral("selfsame-cli: no such file or folder: %1\n").arg(escapedText(missing)).toUtf8());
+        writeAll(
+            stderr,
+            CliText::tr("selfsame-cli: no such file or folder: %1\n").arg(escapedText(missing)).toUtf8());
     if (!parsed.error.isEmpty()) {
         writeAll(stderr, QStringLiteral("selfsame-cli: %1\n").arg(parsed.error).toUtf8());
         if (parsed.showUsage)
@@ -150,6 +162,9 @@ int main(int argc, char *argv[])
     QObject::connect(&search, &DuplicateSearch::searchDone, &app, [&] {
         if (terminal)
             writeAll(stderr, "\r\x1b[K");
+        for (const QString &path : search.statistics().unreadableFilePaths)
+            writeAll(stderr,
+                     (CliText::tr("selfsame-cli: cannot decode %1").arg(escapedText(path)) + u'\n').toUtf8());
         // With a selection rule the items go through the result model, as in a results window.
         ResultModel model;
         std::optional<AutoSelectOutcome> selected;
@@ -170,6 +185,10 @@ int main(int argc, char *argv[])
                      selected ? &selected->selection : nullptr);
         if (options.summary)
             writeAll(stderr, summaryText(items, search.statistics()));
+        if (search.statistics().stopped)
+            writeAll(stderr, CliText::tr("selfsame-cli: interrupted: the output is partial, it holds only "
+                                         "the groups found so far\n")
+                                 .toUtf8());
         if (search.aborted())
             exitCode = 130;
         else if (!items.isEmpty())

@@ -1,6 +1,6 @@
 // Widget tests need a QApplication; they run on the offscreen platform with a configuration
 // folder of their own, so that nothing touches the user's settings.
-#include "EnglishPlurals.h"
+#include "language/EnglishPlurals.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

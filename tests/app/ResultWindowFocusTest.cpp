@@ -4,7 +4,7 @@
 #include "Alert.h"
 #include "ColumnDefaults.h"
 #include "DupesActions.h"
-#include "EnglishPlurals.h"
+#include "language/EnglishPlurals.h"
 #include "FilterBar.h"
 #include "FocusRing.h"
 #include "ResultWindowFixture.h"

@@ -50,6 +50,8 @@ TEST(SelectOptions, RulesAndTheirOptionsBecomeSettings)
     EXPECT_EQ(tag->tagValue, QStringLiteral("Red"));
     EXPECT_EQ(tag->tagCondition, NotHavingTag);
     EXPECT_EQ(parse({"--select", "tag", "--no-tag"}, root).options.select->tagCondition, HavingNoTag);
+    EXPECT_EQ(parse({"--select", "largest-picture"}, root).options.select->choice, LargestPicture);
+    EXPECT_EQ(parse({"--select", "highest-bitrate"}, root).options.select->choice, BestRecording);
 }
 
 TEST(SelectOptions, OptionsThatDoNotFitTheRuleAreRefused)
@@ -60,6 +62,8 @@ TEST(SelectOptions, OptionsThatDoNotFitTheRuleAreRefused)
         {"--select", "same-folder", "--keep", "middle"},
         {"--select", "same-folder", "--date", "yesterday"},
         {"--select", "same-folder-name", "--keep", "oldest"},
+        {"--select", "largest-picture", "--date", "created"},
+        {"--select", "highest-bitrate", "--inside"},
         {"--select", "same-folder", "--inside"},
         {"--select", "folder", root.path() + QStringLiteral("/missing")},
         {"--select", "tag", "--having"},

@@ -205,13 +205,29 @@ TEST(SelfsameCliInterrupt, SigintStopsTheSearchWithStatus130)
     }
     ASSERT_TRUE(process->waitForFinished(60'000));
     ASSERT_EQ(process->exitStatus(), QProcess::NormalExit);
-    const Groups printed = jsonGroups(process->readAllStandardOutput(), dir.path());
+    const QByteArray out = process->readAllStandardOutput(), err = process->readAllStandardError();
+    const Groups printed = jsonGroups(out, dir.path());
+    const bool partial = QJsonDocument::fromJson(out)["partial"].toBool();
     if (endedFirst) {
         std::cout << "[   NOTE   ] the search ended before SIGINT could be sent\n";
         EXPECT_EQ(process->exitCode(), 0);
         EXPECT_EQ(printed.size(), 2000u);
     } else {
         EXPECT_EQ(process->exitCode(), 130);
+        // Stopped before every group was found, the output says so, in the file and to the user.
+        EXPECT_EQ(partial, err.contains("interrupted: the output is partial")) << err.toStdString();
+        if (printed.size() < 2000u) {
+            EXPECT_TRUE(partial) << "groups are missing and the output does not say so";
+        }
+    }
+    EXPECT_FALSE(endedFirst && partial);
+    // Whatever was printed is true: files i and i + 2000 and nothing else.
+    for (const std::vector<std::string> &group : printed) {
+        ASSERT_EQ(group.size(), 2u);
+        const auto number = [](const std::string &path) {
+            return std::stoi(path.substr(path.find("/f") + 2));
+        };
+        EXPECT_EQ(number(group[0]) % 2000, number(group[1]) % 2000) << group[0] << " " << group[1];
     }
 }
 

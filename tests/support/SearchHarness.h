@@ -7,21 +7,28 @@
 #include <map>
 #include <mutex>
 #include <string>
+#include <vector>
 
 namespace selfsame {
 
-// Runs searches on the calling thread and records the status texts they post. The clock
-// stands still, so only the first message of every step gets through the throttle.
+// Runs searches on the calling thread and records the status texts they post, with their
+// progress values. The clock stands still, so only the first message of every step gets
+// through the throttle; once `clockRuns`, every reading of it is 0.1 s after the last, and
+// every message gets through.
 struct SearchHarness {
     std::atomic<int> state{Running};
-    StatusThrottle throttle{[] { return qint64(10'000'000); }};
+    std::atomic<qint64> now{10'000'000};
+    std::atomic<bool> clockRuns{false};
+    StatusThrottle throttle{[this] { return clockRuns ? now += 100'001 : now.load(); }};
     std::mutex mutex;
     QStringList posted;
+    std::vector<double> values;
     std::function<void(const QString &)> onPost;
     RunContext context{state, throttle,
-                       [this](const QString &text, double) {
+                       [this](const QString &text, double value) {
                            std::lock_guard lock(mutex);
                            posted.append(text);
+                           values.push_back(value);
                            if (onPost)
                                onPost(text);
                        },

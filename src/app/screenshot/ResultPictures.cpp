@@ -3,9 +3,9 @@
 #include "Dupes.h"
 #include "GlancePictures.h"
 #include "FilterBar.h"
-#include "ResultListView.h"
 #include "ResultTableModel.h"
 #include "SearchedWindow.h"
+#include "SimilarPictures.h"
 #include "Settings.h"
 #include "results/ResultsFile.h"
 
@@ -91,23 +91,6 @@ QString makeSamples(const QString &scratch)
     return scratch;
 }
 
-void selectRow(Dupes *dupes, int row)
-{
-    ResultListView *top = dupes->mainList();
-    top->selectionModel()->select(top->model()->index(row, 0),
-                                  QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
-    // The focused list is drawn framed, with its selection in the strong colour.
-    dupes->activateWindow();
-    top->setFocus();
-}
-
-void save(Dupes *dupes, const QDir &output, const QString &name)
-{
-    settle(400); // thumbnails
-    dupes->grab().save(output.filePath(name));
-    delete dupes;
-}
-
 } // namespace
 
 void drawResultWindows(Settings &settings, const QString &corpus, const QString &scratch, const QDir &output)
@@ -143,6 +126,8 @@ void drawResultWindows(Settings &settings, const QString &corpus, const QString 
     attribute->togglePreview();
     save(attribute, output, QStringLiteral("results-attribute.png"));
     settings.remove(QStringLiteral("hidden columns"));
+
+    drawSimilarResultWindows(settings, scratch, output);
 
     Dupes *filtered = searchedWindow(settings, DetectionMode::Content, {photos, corpus}, {}, kWindowSize);
     auto *criterion = filtered->filterBar()->findChild<QComboBox *>(QStringLiteral("filterStringCriterion"));

@@ -1,6 +1,7 @@
 #include "SearchedWindow.h"
 
 #include "Dupes.h"
+#include "ResultListView.h"
 
 #include <QEventLoop>
 #include <QTimer>
@@ -31,6 +32,23 @@ Dupes *searchedWindow(Settings &settings, DetectionMode mode, const QStringList 
     dupes->searchInFolderURLs(request);
     loop.exec();
     return dupes;
+}
+
+void selectRow(Dupes *dupes, int row)
+{
+    ResultListView *top = dupes->mainList();
+    top->selectionModel()->select(top->model()->index(row, 0),
+                                  QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    // The focused list is drawn framed, with its selection in the strong colour.
+    dupes->activateWindow();
+    top->setFocus();
+}
+
+void save(Dupes *dupes, const QDir &output, const QString &name)
+{
+    settle(400); // thumbnails
+    dupes->grab().save(output.filePath(name));
+    delete dupes;
 }
 
 } // namespace selfsame

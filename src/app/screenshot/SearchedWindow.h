@@ -2,6 +2,7 @@
 
 #include "search/SearchRequest.h"
 
+#include <QDir>
 #include <QSize>
 #include <QStringList>
 
@@ -16,5 +17,10 @@ void settle(int ms);
 // search of `locations` in `mode` finished.
 Dupes *searchedWindow(Settings &settings, DetectionMode mode, const QStringList &locations,
                       const QString &attribute = {}, QSize size = {});
+
+// Selects one row of the top list and gives that list the focus.
+void selectRow(Dupes *dupes, int row);
+// Saves the window's picture once its thumbnails have come, and deletes the window.
+void save(Dupes *dupes, const QDir &output, const QString &name);
 
 } // namespace selfsame

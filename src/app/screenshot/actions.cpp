@@ -5,7 +5,7 @@
 #include "Settings.h"
 #include "fileops/CloneAlerts.h"
 
-#include "EnglishPlurals.h"
+#include "language/EnglishPlurals.h"
 
 #include <QApplication>
 #include <QButtonGroup>

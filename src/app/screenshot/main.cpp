@@ -8,7 +8,7 @@
 #include "Settings.h"
 #include "WelcomePanel.h"
 
-#include "EnglishPlurals.h"
+#include "language/EnglishPlurals.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -76,7 +76,8 @@ int main(int argc, char *argv[])
         std::fflush(stdout);
         auto *modes = static_cast<QComboBox *>(window.optionsPanel()->modeSelector());
         const QStringList names{QStringLiteral("content"), QStringLiteral("duration"),
-                                QStringLiteral("filename"), QStringLiteral("attribute")};
+                                QStringLiteral("filename"), QStringLiteral("attribute"),
+                                QStringLiteral("similar-images"), QStringLiteral("similar-audio")};
         for (int mode = 0; mode < names.size(); ++mode) {
             modes->setCurrentIndex(mode);
             Q_EMIT modes->activated(mode);

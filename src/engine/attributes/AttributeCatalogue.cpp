@@ -9,10 +9,9 @@ namespace selfsame
 namespace
 {
 
-QString additionText(const char *text)
-{
-    return QCoreApplication::translate("MDImporterAdditions", text);
-}
+struct AdditionText {
+    Q_DECLARE_TR_FUNCTIONS(MDImporterAdditions)
+};
 
 const char *const kMailKeys[] = {"com_apple_mail_attachmentNames",
                                  "com_apple_mail_attachmentTypes",
@@ -51,11 +50,14 @@ AttributeCatalogue::AttributeCatalogue(const AttributeSchema &schema, SettingsSt
 {
     const std::pair<const char *, AttributeRecord> additions[] = {
         {"kMDItemDownloadedDate",
-         {additionText("Downloaded date"), additionText("Date when the item was downloaded"), DateType}},
-        {"kMDItemStartDate", {additionText("Start date"), additionText("Start date of the item"), DateType}},
-        {"kMDItemEndDate", {additionText("End date"), additionText("End date of the item"), DateType}},
+         {AdditionText::tr("Downloaded date"), AdditionText::tr("Date when the item was downloaded"),
+          DateType}},
+        {"kMDItemStartDate",
+         {AdditionText::tr("Start date"), AdditionText::tr("Start date of the item"), DateType}},
+        {"kMDItemEndDate",
+         {AdditionText::tr("End date"), AdditionText::tr("End date of the item"), DateType}},
         {"kMDItemTextContentLength",
-         {additionText("Text content length"), additionText("Length of text content of this item"),
+         {AdditionText::tr("Text content length"), AdditionText::tr("Length of text content of this item"),
           NumberType}}};
     for (const auto &[key, record] : additions)
         if (!m_system.contains(QLatin1String(key))) m_system.insert(QLatin1String(key), record);

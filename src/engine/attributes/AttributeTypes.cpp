@@ -26,18 +26,25 @@ int attributeTypeOf(const QVariant &value)
     }
 }
 
+namespace {
+
+struct AttributeTypeText {
+    Q_DECLARE_TR_FUNCTIONS(SearchPanelController)
+};
+
+} // namespace
+
 QString attributeTypeName(int type)
 {
-    auto tr = [](const char *text) { return QCoreApplication::translate("SearchPanelController", text); };
     switch (type) {
     case DateType:
-        return tr("Date");
+        return AttributeTypeText::tr("Date");
     case NumberType:
-        return tr("Number");
+        return AttributeTypeText::tr("Number");
     case StringType:
-        return tr("String");
+        return AttributeTypeText::tr("String");
     case BooleanType:
-        return tr("Boolean");
+        return AttributeTypeText::tr("Boolean");
     default:
         return QStringLiteral("?");
     }

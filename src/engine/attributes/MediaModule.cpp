@@ -1,5 +1,7 @@
 #include "attributes/MetadataSources.h"
+#include "similar/MediaDecoding.h"
 
+#include <QCoreApplication>
 #include <QtGlobal>
 
 #include <cstring>
@@ -56,10 +58,14 @@ namespace
 {
 
 using ReadValues = void (*)(const QByteArray &, MetadataValues &);
+using DecodePicture = void (*)(const QByteArray &, bool, SmallPicture &, qint64 &, qint64 &, QString &);
+using FingerprintRecording = void (*)(const QByteArray &, AudioPrint &, QString &);
 
 struct MediaModule {
     ReadValues media = nullptr;
     ReadValues image = nullptr;
+    DecodePicture picture = nullptr;
+    FingerprintRecording recording = nullptr;
 };
 
 // The media libraries and the hundred-odd libraries behind them cost tens of megabytes the
@@ -87,7 +93,9 @@ MediaModule loadMediaModule()
     MediaModule module;
     module.media = reinterpret_cast<ReadValues>(dlsym(handle, "selfsameReadMediaValues"));
     module.image = reinterpret_cast<ReadValues>(dlsym(handle, "selfsameReadImageValues"));
-    if (module.media && module.image)
+    module.picture = reinterpret_cast<DecodePicture>(dlsym(handle, "selfsameDecodeSmallPicture"));
+    module.recording = reinterpret_cast<FingerprintRecording>(dlsym(handle, "selfsameFingerprintRecording"));
+    if (module.media && module.image && module.picture && module.recording)
         return module;
     qWarning("Selfsame: %s is not the media metadata module of this version", path);
     dlclose(handle);
@@ -112,6 +120,26 @@ void readImageValues(const QByteArray &localPath, MetadataValues &values)
 {
     if (const ReadValues read = mediaModule().image)
         read(localPath, values);
+}
+
+DecodedPicture decodePicture(const QByteArray &localPath, bool mayUseThumbnail)
+{
+    DecodedPicture decoded;
+    if (const DecodePicture decode = mediaModule().picture)
+        decode(localPath, mayUseThumbnail, decoded.picture, decoded.width, decoded.height, decoded.error);
+    else
+        decoded.error = QCoreApplication::translate("MediaDecoding", "Pictures cannot be decoded: the media module is missing.");
+    return decoded;
+}
+
+FingerprintedRecording fingerprintRecording(const QByteArray &localPath)
+{
+    FingerprintedRecording result;
+    if (const FingerprintRecording fingerprint = mediaModule().recording)
+        fingerprint(localPath, result.print, result.error);
+    else
+        result.error = QCoreApplication::translate("MediaDecoding", "Recordings cannot be decoded: the media module is missing.");
+    return result;
 }
 
 } // namespace selfsame

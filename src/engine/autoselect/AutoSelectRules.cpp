@@ -1,9 +1,11 @@
 #include "autoselect/AutoSelectRules.h"
 
 #include "results/ItemKeys.h"
+#include "results/ListSort.h"
 #include "results/NameCompare.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace selfsame
 {
@@ -17,6 +19,25 @@ struct NamedCopy {
     QString baseName;  // lower case, without extension
     QString extension; // lower case
 };
+
+// Keeps the present member of the group with the greatest key and selects the other present
+// members, unless no key tells them anything (`known` false for all).
+template <typename KeyOf, typename Known>
+void keepGreatest(AutoSelection &selection, const QList<ResultItem *> &from, qsizetype first, qsizetype last,
+                  KeyOf keyOf, Known known)
+{
+    QList<ResultItem *> present;
+    for (qsizetype i = first; i <= last; ++i)
+        if (!isGone(*from[i])) present.append(from[i]);
+    if (present.size() < 2 || std::none_of(present.begin(), present.end(), known)) return;
+    // The first of equals stays: the group's own order decides ties.
+    ResultItem *kept = present.first();
+    for (ResultItem *item : present)
+        if (keyOf(*kept) < keyOf(*item)) kept = item;
+    selection.skip(kept);
+    for (ResultItem *item : present)
+        if (item != kept) selection.select(item);
+}
 
 } // namespace
 
@@ -201,6 +222,38 @@ void automaticallySelectHavingTag(AutoSelection &selection, bool exceptHaving, c
         selection.select(item);
     for (ResultItem *item : kept)
         selection.skip(item);
+}
+
+bool hasLosslessAudio(const QString &codecs)
+{
+    // The decoder library's names; "pcm_…" covers WAV, AIFF and raw samples of every width.
+    static const QStringList lossless{QStringLiteral("flac"),    QStringLiteral("alac"),   QStringLiteral("ape"),
+                                      QStringLiteral("wavpack"), QStringLiteral("tta"),    QStringLiteral("tak"),
+                                      QStringLiteral("shorten"), QStringLiteral("mlp"),    QStringLiteral("truehd"),
+                                      QStringLiteral("wmalossless"), QStringLiteral("mp4als")};
+    for (const QString &codec : codecs.split(QLatin1Char(','), Qt::SkipEmptyParts)) {
+        const QString name = codec.trimmed().toLower();
+        if (name.startsWith(QLatin1String("pcm_")) || lossless.contains(name)) return true;
+    }
+    return false;
+}
+
+void automaticallySelectKeepingLargestPicture(AutoSelection &selection, const QList<ResultItem *> &from,
+                                              qsizetype first, qsizetype last)
+{
+    keepGreatest(
+        selection, from, first, last,
+        [](const ResultItem &item) { return std::make_tuple(pixelCount(item.pixelSize()).value_or(0), item.size); },
+        [](const ResultItem *item) { return pixelCount(item->pixelSize()).has_value(); });
+}
+
+void automaticallySelectKeepingBestRecording(AutoSelection &selection, const QList<ResultItem *> &from,
+                                             qsizetype first, qsizetype last)
+{
+    keepGreatest(
+        selection, from, first, last,
+        [](const ResultItem &item) { return std::make_tuple(item.bitrate(), hasLosslessAudio(item.codecs())); },
+        [](const ResultItem *item) { return item->bitrate() > 0 || hasLosslessAudio(item->codecs()); });
 }
 
 } // namespace selfsame

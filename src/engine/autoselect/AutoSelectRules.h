@@ -66,5 +66,15 @@ void automaticallySelectLocated(AutoSelection &selection, int located, const QSt
 // Copies having the tag (any tag when `tag` is empty), or with `exceptHaving` those lacking it.
 void automaticallySelectHavingTag(AutoSelection &selection, bool exceptHaving, const QString &tag,
                                   const QList<ResultItem *> &from, qsizetype first, qsizetype last);
+// Pictures alike: the one of the most pixels is kept, the largest file among equals; a group
+// where no picture has a known size is left alone.
+void automaticallySelectKeepingLargestPicture(AutoSelection &selection, const QList<ResultItem *> &from,
+                                              qsizetype first, qsizetype last);
+// One recording in several files: the highest bit rate is kept, a lossless format among
+// equals; a group where nothing tells them apart (no bit rate, no lossless codec) is left alone.
+void automaticallySelectKeepingBestRecording(AutoSelection &selection, const QList<ResultItem *> &from,
+                                             qsizetype first, qsizetype last);
+// Whether the "codecs" text ("flac", "h264, pcm_s16le") names a lossless audio codec.
+bool hasLosslessAudio(const QString &codecs);
 
 } // namespace selfsame

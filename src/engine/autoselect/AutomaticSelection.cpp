@@ -29,6 +29,8 @@ QVariantMap ruleSettings(const AutoSelectSettings &s)
 {
     switch (s.choice) {
     case SameFolderSameName:
+    case LargestPicture:
+    case BestRecording:
         return {{key(kChoice), s.choice}};
     case SameFolderWhateverName:
         return {{key(kChoice), s.choice}, {key(kOldest), s.oldest}, {key(kDate), s.date}};
@@ -66,12 +68,48 @@ void applyRule(AutoSelection &selection, const AutoSelectSettings &s, const QLis
                                      last);
         break;
     }
+    case LargestPicture:
+        automaticallySelectKeepingLargestPicture(selection, from, first, last);
+        break;
+    case BestRecording:
+        automaticallySelectKeepingBestRecording(selection, from, first, last);
+        break;
     default:
         break;
     }
 }
 
 } // namespace
+
+bool autoSelectRuleOffered(int rule, DetectionMode mode)
+{
+    switch (rule) {
+    case SameFolderSameName:
+    case SameFolderWhateverName:
+    case InsideFolder:
+    case ByTag:
+        return true;
+    case LargestPicture:
+        return mode == DetectionMode::SimilarImages;
+    case BestRecording:
+        return mode == DetectionMode::SimilarAudio || mode == DetectionMode::Duration;
+    default:
+        return false;
+    }
+}
+
+int autoSelectInitialRule(std::optional<int> storedChoice, DetectionMode mode)
+{
+    if (storedChoice && autoSelectRuleOffered(*storedChoice, mode)) return *storedChoice;
+    switch (mode) {
+    case DetectionMode::SimilarImages:
+        return LargestPicture;
+    case DetectionMode::SimilarAudio:
+        return BestRecording;
+    default:
+        return SameFolderSameName;
+    }
+}
 
 QVariantMap autoSelectRegisteredDefaults()
 {
@@ -114,7 +152,7 @@ std::optional<Alert> autoSelectWarning(DetectionMode mode, const QVariantMap &do
         what = QCoreApplication::translate("AutomaticSelection", "file name");
         break;
     case DetectionMode::Attribute:
-        what = QCoreApplication::translate("AutomaticSelection", "Spotlight attribute");
+        what = QCoreApplication::translate("AutomaticSelection", "attribute");
         break;
     default:
         return std::nullopt;

@@ -11,7 +11,20 @@ namespace selfsame
 {
 
 // The rules by the tags of their choices, as stored under "auto-select choice".
-enum AutoSelectRule : int { SameFolderSameName = 0, SameFolderWhateverName = 1, InsideFolder = 2, ByTag = 3 };
+enum AutoSelectRule : int {
+    SameFolderSameName = 0,
+    SameFolderWhateverName = 1,
+    InsideFolder = 2,
+    ByTag = 3,
+    LargestPicture = 4, // keep the picture of the most pixels, then the largest file
+    BestRecording = 5,  // keep the highest bit rate, then a lossless format
+};
+
+// Whether the sheet offers the rule after a search in that mode: the picture rule after
+// similar pictures, the recording rule after same recordings and durations; the others always.
+bool autoSelectRuleOffered(int rule, DetectionMode mode);
+// The rule the sheet starts with: the stored one where it is offered, else the mode's own.
+int autoSelectInitialRule(std::optional<int> storedChoice, DetectionMode mode);
 
 // The choices of the automatic selection, as the settings keep them.
 struct AutoSelectSettings {

@@ -30,10 +30,9 @@ namespace selfsame
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("CloneWorker", text);
-}
+struct CloneWorkerText {
+    Q_DECLARE_TR_FUNCTIONS(CloneWorker)
+};
 
 void clearInodeFlags(const QString &path)
 {
@@ -62,7 +61,8 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
 {
     const QString &path = duplicate.path;
     if (!duplicate.has(IsFolder) && !sameContent(reference.path, path))
-        return tr("“%1” no longer has the content of “%2”").arg(displayPath(path), displayPath(reference.path));
+        return CloneWorkerText::tr("“%1” no longer has the content of “%2”")
+            .arg(displayPath(path), displayPath(reference.path));
     const FSMetadata snapshot = captureFSMetadata(path);
     if (duplicate.has(ReadOnly)) liftWriteProtection(path, snapshot);
     const QString aside = besidePath(path);
@@ -73,12 +73,14 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
     journaled.step.kept = reference.path;
     journaled.step.away = aside;
     if (!journaled.begin())
-        return tr("The operations journal could not record the step: %1").arg(journal->error());
+        return CloneWorkerText::tr("The operations journal could not record the step: %1")
+            .arg(journal->error());
     if (const int error = steps.moveAside(path, aside)) {
         restoreFSMetadata(path, snapshot);
         recordCurrentState(duplicate);
         journaled.reach(Done);
-        return tr("“%1” could not be moved aside: %2").arg(displayPath(path), errorText(error));
+        return CloneWorkerText::tr("“%1” could not be moved aside: %2")
+            .arg(displayPath(path), errorText(error));
     }
     faultPoint("clone.moved-aside");
     journaled.reach(TakenAway);
@@ -99,7 +101,8 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
             removeItem(path); // a partial clone, if any
             rollBack();
         }
-        return tr("“%1” could not be cloned from “%2”: %3").arg(displayPath(path), displayPath(reference.path), errorText(error));
+        return CloneWorkerText::tr("“%1” could not be cloned from “%2”: %3")
+            .arg(displayPath(path), displayPath(reference.path), errorText(error));
     }
     faultPoint("clone.cloned");
     struct stat st {
@@ -112,7 +115,8 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
     if (failed && asideExists()) {
         removeItem(path);
         rollBack();
-        return tr("The metadata of “%1” could not be carried over to its clone; it was left as it was")
+        return CloneWorkerText::tr(
+                   "The metadata of “%1” could not be carried over to its clone; it was left as it was")
             .arg(displayPath(path));
     }
     journaled.reach(Replaced);
@@ -120,7 +124,7 @@ QString cloneByMovingAside(const ResultItem &reference, ResultItem &duplicate, b
     const int error = removeItem(aside);
     journaled.finish();
     if (error)
-        return tr("“%1” was cloned, but its former copy “%2” could not be removed: %3")
+        return CloneWorkerText::tr("“%1” was cloned, but its former copy “%2” could not be removed: %3")
             .arg(displayPath(path), displayPath(aside), errorText(error));
     restoreParentFolder(path, snapshot);
     return {};
@@ -217,7 +221,8 @@ QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool 
             return {};
         }
         if (shared == kContentDiffers)
-            return tr("“%1” no longer has the content of “%2”").arg(displayPath(duplicate.path), displayPath(reference.path));
+            return CloneWorkerText::tr("“%1” no longer has the content of “%2”")
+                .arg(displayPath(duplicate.path), displayPath(reference.path));
     }
     return cloneByMovingAside(reference, duplicate, changeOwner, steps, journal);
 }

@@ -22,6 +22,10 @@ namespace selfsame
 namespace
 {
 
+struct DeleteActionsText {
+    Q_DECLARE_TR_FUNCTIONS(DeleteActions)
+};
+
 // Removes the file with no replacement. Returns the error text, empty on success. A deletion
 // first moves the file aside, so that one killed halfway through a folder can be finished.
 QString removeOnly(DeleteKind kind, ResultItem &item, int mode, DeleteOutcome &outcome, JournaledStep &journaled)
@@ -84,11 +88,10 @@ struct Failure {
 Failure replaceOne(DeleteKind kind, int mode, ResultItem &item, const ResultItem &reference,
                    const FSMetadata &snapshot, JournaledStep &journaled, DeleteOutcome &outcome)
 {
-    auto text = [](const char *source) { return QCoreApplication::translate("DeleteActions", source); };
     const QString &staged = journaled.step.staged;
     if (const int e = makeReplacement(mode, reference.path, staged, reference.has(IsFolder))) {
         journaled.reach(Done);
-        return {text("The replacement could not be made: %1").arg(errorText(e))};
+        return {DeleteActionsText::tr("The replacement could not be made: %1").arg(errorText(e))};
     }
     faultPoint("replace.staged");
     journaled.reach(Staged);
@@ -108,7 +111,7 @@ Failure replaceOne(DeleteKind kind, int mode, ResultItem &item, const ResultItem
         recordCurrentState(item); // the same file back, its change time moved by the moves
         removeItem(staged);
         journaled.reach(Done);
-        return {text("The replacement could not be put in place: %1").arg(errorText(e))};
+        return {DeleteActionsText::tr("The replacement could not be put in place: %1").arg(errorText(e))};
     }
     faultPoint("replace.swapped");
     if (mode == ReplaceWithClone) restoreFSMetadata(item.path, snapshot);
@@ -116,7 +119,8 @@ Failure replaceOne(DeleteKind kind, int mode, ResultItem &item, const ResultItem
     faultPoint("replace.replaced");
     if (kind == DeleteKind::Delete) {
         if (const int e = removeItem(away))
-            outcome.error = text("“%1” could not be removed: %2").arg(displayPath(away), errorText(e));
+            outcome.error =
+                DeleteActionsText::tr("“%1” could not be removed: %2").arg(displayPath(away), errorText(e));
         item.set(Deleted);
         // Removing the original moved its folder's times: they come back last.
         if (mode == ReplaceWithClone) restoreParentFolder(item.path, snapshot);

@@ -16,10 +16,9 @@ namespace selfsame
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("DeleteChecks", text);
-}
+struct DeleteChecksText {
+    Q_DECLARE_TR_FUNCTIONS(DeleteChecks)
+};
 
 constexpr long kXfsMagic = 0x58465342;
 constexpr long kBcachefsMagic = 0xca451a4e;
@@ -37,8 +36,10 @@ QString withRefused(const QString &text, const DeleteReport &report)
     for (qsizetype i = 0; i < std::min(kNamed, report.refused.size()); ++i)
         names.append(displayPath(report.refused[i]));
     if (report.refused.size() > kNamed)
-        names.append(tr("and %1 more").arg(formatCount(report.refused.size() - kNamed)));
-    const QString refused = tr("Left alone because they changed since the search, or no unchanged copy of them remains:\n%1")
+        names.append(DeleteChecksText::tr("and %1 more").arg(formatCount(report.refused.size() - kNamed)));
+    const QString refused =
+        DeleteChecksText::tr(
+            "Left alone because they changed since the search, or no unchanged copy of them remains:\n%1")
             .arg(names.join(u'\n'));
     if (report.refused.size() == 1 && report.removalFailures == 1)
         return report.lastErrorText; // names the file and what changed
@@ -72,21 +73,23 @@ CheckOutcome checkReferenceItem(int mode, const ResultItem *reference,
 {
     CheckOutcome outcome;
     if (mode == ReplaceWithNone) return outcome;
-    const QString informative =
-        tr("To replace deleted duplicates, select the reference file to preserve in the top "
-           "list, and the duplicates to replace in the bottom list.");
+    const QString informative = DeleteChecksText::tr(
+        "To replace deleted duplicates, select the reference file to preserve in the top "
+        "list, and the duplicates to replace in the bottom list.");
     if (!reference) {
-        outcome.alert = Alert{tr("No item is selected in the bottom list"),
-                              informative,
-                              {tr("Delete Without Replacing"), tr("Cancel")},
-                              1,
-                              1};
+        outcome.alert =
+            Alert{DeleteChecksText::tr("No item is selected in the bottom list"),
+                  informative,
+                  {DeleteChecksText::tr("Delete Without Replacing"), DeleteChecksText::tr("Cancel")},
+                  1,
+                  1};
         outcome.proceedCode = kFirstButton;
     } else if (duplicatesToReplace.contains(reference)) {
         outcome.alert =
-            Alert{tr("Please make sure that the same item is not selected both in the top and bottom lists"),
+            Alert{DeleteChecksText::tr(
+                      "Please make sure that the same item is not selected both in the top and bottom lists"),
                   informative,
-                  {tr("Cancel")},
+                  {DeleteChecksText::tr("Cancel")},
                   0,
                   0};
     }
@@ -103,12 +106,13 @@ CheckOutcome doesItemsContainsAllDupesOfAnyItem(const QList<ResultItem *> &items
         const bool all = std::all_of(dupes.begin(), dupes.end(),
                                      [&](const ResultItem *d) { return chosen.contains(d->path); });
         if (all) {
-            outcome.alert = Alert{tr("Warning: you have selected ALL the dupes of at least one file"),
-                                  tr("You should probably keep one version of this file."),
-                                  {tr("Cancel"), tr("Continue Anyway")},
-                                  0,
-                                  0,
-                                  1};
+            outcome.alert =
+                Alert{DeleteChecksText::tr("Warning: you have selected ALL the dupes of at least one file"),
+                      DeleteChecksText::tr("You should probably keep one version of this file."),
+                      {DeleteChecksText::tr("Cancel"), DeleteChecksText::tr("Continue Anyway")},
+                      0,
+                      0,
+                      1};
             outcome.proceedCode = kFirstButton + 1;
             break;
         }
@@ -126,15 +130,22 @@ CheckOutcome checkFilesystemForDeleteAction(int mode, const QStringList &urls)
         if (statfs(pathBytes(url).constData(), &fs) != 0) continue;
         QString message, informative;
         if (mode == ReplaceWithClone && !isCloneCapableFileSystem(long(fs.f_type))) {
-            message = tr("Clones may be unsupported on this volume");
-            informative = tr("Only file systems that share storage between files, such as Btrfs, XFS or bcachefs, "
-                             "can make clones.");
+            message = DeleteChecksText::tr("Clones may be unsupported on this volume");
+            informative = DeleteChecksText::tr(
+                "Only file systems that share storage between files, such as Btrfs, XFS or bcachefs, "
+                "can make clones.");
         } else if (mode != ReplaceWithClone && !isLinkCapableFileSystem(long(fs.f_type))) {
-            message = tr("Hard links, desktop links or symbolic links may be unsupported on this volume");
-            informative = tr("Drives formatted as FAT, exFAT or NTFS, and network shares, may refuse links.");
+            message = DeleteChecksText::tr(
+                "Hard links, desktop links or symbolic links may be unsupported on this volume");
+            informative = DeleteChecksText::tr(
+                "Drives formatted as FAT, exFAT or NTFS, and network shares, may refuse links.");
         }
         if (!message.isEmpty()) {
-            outcome.alert = Alert{message, informative, {tr("Cancel"), tr("Continue Anyway")}, 0, 0};
+            outcome.alert = Alert{message,
+                                  informative,
+                                  {DeleteChecksText::tr("Cancel"), DeleteChecksText::tr("Continue Anyway")},
+                                  0,
+                                  0};
             outcome.proceedCode = kFirstButton + 1;
             break;
         }
@@ -146,43 +157,47 @@ std::optional<Alert> postDeleteActionFailedForCount(int failures, int mode, cons
                                                     const QString &lastDeleted)
 {
     if (failures < 1) return std::nullopt;
-    const QString object =
-        failures == 1
-            ? tr("“%1” in “%2”").arg(displayName(lastReference), displayName(parentFolder(lastDeleted)))
-            : tr("%1 files").arg(formatCount(failures));
+    const QString object = failures == 1
+                               ? DeleteChecksText::tr("“%1” in “%2”")
+                                     .arg(displayName(lastReference), displayName(parentFolder(lastDeleted)))
+                               : DeleteChecksText::tr("%1 files").arg(formatCount(failures));
     QString action;
     QString note;
     switch (mode) {
     case ReplaceWithAlias:
-        action = tr("Creating a desktop link");
+        action = DeleteChecksText::tr("Creating a desktop link");
         break;
     case ReplaceWithSymbolicLink:
     case ReplaceWithRelativeSymbolicLink:
-        action = tr("Creating a symbolic link");
+        action = DeleteChecksText::tr("Creating a symbolic link");
         break;
     case ReplaceWithHardLink:
-        action = tr("Creating a hard link");
-        note = tr("Note: hard links are only supported on the same volume.");
+        action = DeleteChecksText::tr("Creating a hard link");
+        note = DeleteChecksText::tr("Note: hard links are only supported on the same volume.");
         break;
     case ReplaceWithClone:
-        action = tr("Creating a clone");
-        note = tr("Note: clones can only be made on the same volume, on a file system that shares storage between files (Btrfs, XFS, bcachefs).");
+        action = DeleteChecksText::tr("Creating a clone");
+        note = DeleteChecksText::tr("Note: clones can only be made on the same volume, on a file system that "
+                                    "shares storage between files (Btrfs, XFS, bcachefs).");
         break;
     default:
         break;
     }
-    return Alert{tr("%1 of %2 failed").arg(action, object), note, {tr("OK")}};
+    return Alert{
+        DeleteChecksText::tr("%1 of %2 failed").arg(action, object), note, {DeleteChecksText::tr("OK")}};
 }
 
 std::optional<Alert> trashFailureAlert(const DeleteReport &report, const QList<ResultItem *> &targets)
 {
     if (report.removalFailures == 0 || targets.isEmpty()) return std::nullopt;
-    const QString message =
-        targets.size() == 1 ? tr("“%1” could not be moved to the Trash.").arg(displayName(targets.first()->path))
-                            : tr("%1 files could not be moved to the Trash.").arg(formatCount(report.removalFailures));
+    const QString message = targets.size() == 1
+                                ? DeleteChecksText::tr("“%1” could not be moved to the Trash.")
+                                      .arg(displayName(targets.first()->path))
+                                : DeleteChecksText::tr("%1 files could not be moved to the Trash.")
+                                      .arg(formatCount(report.removalFailures));
     return Alert{message,
                  withRefused(report.lastErrorText, report),
-                 {tr("OK"), tr("Delete Immediately…")},
+                 {DeleteChecksText::tr("OK"), DeleteChecksText::tr("Delete Immediately…")},
                  0,
                  0,
                  1};
@@ -191,31 +206,34 @@ std::optional<Alert> trashFailureAlert(const DeleteReport &report, const QList<R
 std::optional<Alert> deletionFailureAlert(const DeleteReport &report, const QList<ResultItem *> &targets)
 {
     if (report.removalFailures == 0 || targets.isEmpty()) return std::nullopt;
-    const QString message =
-        targets.size() == 1
-            ? tr("“%1” could not be deleted immediately.").arg(displayName(targets.first()->path))
-            : tr("%1 files could not be deleted immediately.").arg(formatCount(report.removalFailures));
-    return Alert{message, withRefused({}, report), {tr("OK")}};
+    const QString message = targets.size() == 1
+                                ? DeleteChecksText::tr("“%1” could not be deleted immediately.")
+                                      .arg(displayName(targets.first()->path))
+                                : DeleteChecksText::tr("%1 files could not be deleted immediately.")
+                                      .arg(formatCount(report.removalFailures));
+    return Alert{message, withRefused({}, report), {DeleteChecksText::tr("OK")}};
 }
 
 Alert deleteConfirmationAlert(const QList<ResultItem *> &targets)
 {
-    const QStringList buttons{tr("Delete Immediately"), tr("Cancel")};
+    const QStringList buttons{DeleteChecksText::tr("Delete Immediately"), DeleteChecksText::tr("Cancel")};
     if (targets.size() == 1)
         return Alert{
-            tr("Are you sure you want to delete “%1” immediately?").arg(displayName(targets.first()->path)),
-            tr("This item will be deleted immediately. You can’t undo this action."),
+            DeleteChecksText::tr("Are you sure you want to delete “%1” immediately?")
+                .arg(displayName(targets.first()->path)),
+            DeleteChecksText::tr("This item will be deleted immediately. You can’t undo this action."),
             buttons,
             1,
             1,
             0};
-    return Alert{
-        tr("Are you sure you want to delete the %1 selected items immediately?").arg(formatCount(targets.size())),
-        tr("%1 items will be deleted immediately. You can’t undo this action.").arg(formatCount(targets.size())),
-        buttons,
-        1,
-        1,
-        0};
+    return Alert{DeleteChecksText::tr("Are you sure you want to delete the %1 selected items immediately?")
+                     .arg(formatCount(targets.size())),
+                 DeleteChecksText::tr("%1 items will be deleted immediately. You can’t undo this action.")
+                     .arg(formatCount(targets.size())),
+                 buttons,
+                 1,
+                 1,
+                 0};
 }
 
 } // namespace selfsame

@@ -15,20 +15,21 @@ namespace selfsame {
 
 namespace {
 
-QString tr(const char *text, int n = -1)
-{
-    return QCoreApplication::translate("TrashAlerts", text, nullptr, n);
-}
+struct TrashAlertsText {
+    Q_DECLARE_TR_FUNCTIONS(TrashAlerts)
+};
 
 } // namespace
 
 Alert putBackNote()
 {
-    return Alert{tr("Items moved to the Trash by Selfsame can be put back where they were."),
-                 tr("Use Actions › Put Back from Trash while these results are open, or restore them from the "
-                    "Trash in the file manager. A file from the Trash opened with Selfsame (even after a "
-                    "restart) is offered to be put back too."),
-                 {tr("Good to Know!")}};
+    return Alert{
+        TrashAlertsText::tr("Items moved to the Trash by Selfsame can be put back where they were."),
+        TrashAlertsText::tr(
+            "Use Actions › Put Back from Trash while these results are open, or restore them from the "
+            "Trash in the file manager. A file from the Trash opened with Selfsame (even after a "
+            "restart) is offered to be put back too."),
+        {TrashAlertsText::tr("Good to Know!")}};
 }
 
 TrashFailureCause trashFailureCause(const QString &path)
@@ -48,20 +49,23 @@ std::optional<TrashFailureQuestion> trashFailureQuestion(const DeleteReport &rep
     if (!engine) return std::nullopt;
     TrashFailureQuestion question;
     Alert &alert = question.alert;
-    alert.message = targets.size() == 1
-                        ? tr("“%1” could not be moved to the Trash.").arg(displayName(targets.first()->path))
-                        : tr("%Ln file(s) could not be moved to the Trash.", report.removalFailures);
+    alert.message = targets.size() == 1 ? TrashAlertsText::tr("“%1” could not be moved to the Trash.")
+                                              .arg(displayName(targets.first()->path))
+                                        : TrashAlertsText::tr("%Ln file(s) could not be moved to the Trash.",
+                                                              nullptr, report.removalFailures);
     QString why;
     switch (cause) {
     case TrashFailureCause::NoTrashFolder:
-        why = tr("The drive “%1” has no trash folder that you may use. You can delete the files immediately "
-                 "instead, which cannot be undone.")
+        why = TrashAlertsText::tr(
+                  "The drive “%1” has no trash folder that you may use. You can delete the files immediately "
+                  "instead, which cannot be undone.")
                   .arg(displayPath(topDirectory(report.firstFailedPath)));
         question.offers = {TrashFailureOffer::DeleteImmediately};
         break;
     case TrashFailureCause::Permission:
-        why = tr("You do not have permission to change the folder “%1”, so nothing can be moved out of it. Its "
-                 "owner or an administrator can give you that permission.")
+        why = TrashAlertsText::tr("You do not have permission to change the folder “%1”, so nothing can be "
+                                  "moved out of it. Its "
+                                  "owner or an administrator can give you that permission.")
                   .arg(displayPath(parentFolder(report.firstFailedPath)));
         question.offers = {TrashFailureOffer::ShowInFileManager};
         break;
@@ -75,13 +79,13 @@ std::optional<TrashFailureQuestion> trashFailureQuestion(const DeleteReport &rep
     alert.informative = why.isEmpty() ? engine->informative
                         : engine->informative.isEmpty() ? why
                                                         : why + QStringLiteral("\n\n") + engine->informative;
-    alert.buttons = {tr("OK")};
+    alert.buttons = {TrashAlertsText::tr("OK")};
     for (TrashFailureOffer offer : std::as_const(question.offers)) {
         if (offer == TrashFailureOffer::DeleteImmediately) {
             alert.destructiveButton = int(alert.buttons.size());
-            alert.buttons.append(tr("Delete Immediately…"));
+            alert.buttons.append(TrashAlertsText::tr("Delete Immediately…"));
         } else {
-            alert.buttons.append(tr("Show in File Manager"));
+            alert.buttons.append(TrashAlertsText::tr("Show in File Manager"));
         }
     }
     alert.defaultButton = 0;
@@ -93,9 +97,11 @@ std::optional<Alert> putBackFromTrashFailure(const PutBackSummary &summary, cons
 {
     if (summary.failures == 0 || targets.isEmpty()) return std::nullopt;
     const QString message = targets.size() == 1
-                                ? tr("“%1” could not be put back from the Trash.").arg(displayName(targets.first()->path))
-                                : tr("%1 could not be put back from the Trash.").arg(formatCount(summary.failures));
-    return Alert{message, summary.lastErrorText, {tr("Cancel")}, 0, 0};
+                                ? TrashAlertsText::tr("“%1” could not be put back from the Trash.")
+                                      .arg(displayName(targets.first()->path))
+                                : TrashAlertsText::tr("%1 could not be put back from the Trash.")
+                                      .arg(formatCount(summary.failures));
+    return Alert{message, summary.lastErrorText, {TrashAlertsText::tr("Cancel")}, 0, 0};
 }
 
 } // namespace selfsame

@@ -22,10 +22,9 @@ namespace selfsame
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("ItemSafety", text);
-}
+struct ItemSafetyText {
+    Q_DECLARE_TR_FUNCTIONS(ItemSafety)
+};
 
 QByteArray bytes(const QString &path)
 {
@@ -135,23 +134,25 @@ QString changedSinceSearch(const ResultItem &item)
     struct stat st {
     };
     if (lstat(bytes(item.path).constData(), &st) != 0)
-        return tr("“%1” is gone: %2").arg(shown(item.path), errorText(errno));
+        return ItemSafetyText::tr("“%1” is gone: %2").arg(shown(item.path), errorText(errno));
     if (item.inode != 0 && (quint64(st.st_ino) != item.inode || quint64(st.st_dev) != item.device))
-        return tr("“%1” is no longer the file the search found: another file stands at its path")
+        return ItemSafetyText::tr(
+                   "“%1” is no longer the file the search found: another file stands at its path")
             .arg(shown(item.path));
     if (item.has(IsFolder) != S_ISDIR(st.st_mode))
-        return item.has(IsFolder) ? tr("“%1” is no longer a folder").arg(shown(item.path))
-                                  : tr("“%1” is now a folder").arg(shown(item.path));
+        return item.has(IsFolder) ? ItemSafetyText::tr("“%1” is no longer a folder").arg(shown(item.path))
+                                  : ItemSafetyText::tr("“%1” is now a folder").arg(shown(item.path));
     // A link or clone of ours may stand there, of another size: its inode and times tell.
     if (!item.has(IsFolder) && item.statusImage().isEmpty() && qint64(st.st_size) != item.size)
-        return tr("“%1” changed since the search: its size is no longer %2 bytes")
+        return ItemSafetyText::tr("“%1” changed since the search: its size is no longer %2 bytes")
             .arg(shown(item.path))
             .arg(item.size);
     if (!sameTime(st.st_mtim, item.modified, item.modifiedNsec))
-        return tr("“%1” was modified since the search").arg(shown(item.path));
+        return ItemSafetyText::tr("“%1” was modified since the search").arg(shown(item.path));
     if (!sameTime(st.st_ctim, item.attributes, item.changedNsec))
-        return tr("“%1” changed since the search (its change time moved, though its content may look the "
-                  "same)")
+        return ItemSafetyText::tr(
+                   "“%1” changed since the search (its change time moved, though its content may look the "
+                   "same)")
             .arg(shown(item.path));
     return {};
 }
@@ -164,14 +165,14 @@ bool sameFoundContent(const ResultItem &a, const ResultItem &b)
 QString keptCopyProblem(const ResultItem &item, const ResultItem &kept, bool compareBytes)
 {
     if (kept.has(Deleted) || !kept.trashedURL().isEmpty())
-        return tr("its kept copy “%1” is no longer there").arg(shown(kept.path));
+        return ItemSafetyText::tr("its kept copy “%1” is no longer there").arg(shown(kept.path));
     if (const QString changed = changedSinceSearch(kept); !changed.isEmpty())
-        return tr("its kept copy is not as the search found it: %1").arg(changed);
+        return ItemSafetyText::tr("its kept copy is not as the search found it: %1").arg(changed);
     const QByteArray itemPath = bytes(item.path), keptPath = bytes(kept.path);
     struct stat is {
     }, ks{}, kt{};
     if (lstat(itemPath.constData(), &is) != 0 || lstat(keptPath.constData(), &ks) != 0)
-        return tr("“%1” or its kept copy “%2” could not be looked at: %3")
+        return ItemSafetyText::tr("“%1” or its kept copy “%2” could not be looked at: %3")
             .arg(shown(item.path), shown(kept.path), errorText(errno));
     struct stat ip {
     }, kp{};
@@ -180,15 +181,17 @@ QString keptCopyProblem(const ResultItem &item, const ResultItem &kept, bool com
                                    sameFileAs(ip, kp) && nameOf(item.path) == nameOf(kept.path));
     // Two distinct entries of one file are hard links: removing one leaves the other.
     if (sameEntry || (sameFileAs(is, ks) && (is.st_nlink < 2 || S_ISDIR(is.st_mode))))
-        return tr("“%1” and its kept copy “%2” are one file reached through two paths")
+        return ItemSafetyText::tr("“%1” and its kept copy “%2” are one file reached through two paths")
             .arg(shown(item.path), shown(kept.path));
     if (S_ISLNK(ks.st_mode) && stat(keptPath.constData(), &kt) == 0 && sameFileAs(is, kt))
-        return tr("its kept copy “%1” is a link to “%2” itself").arg(shown(kept.path), shown(item.path));
+        return ItemSafetyText::tr("its kept copy “%1” is a link to “%2” itself")
+            .arg(shown(kept.path), shown(item.path));
     if (!compareBytes) return {};
     const bool same =
         S_ISDIR(is.st_mode) ? sameTree(item.path, kept.path) : sameContent(item.path, kept.path);
     return same ? QString()
-                : tr("“%1” no longer has the content of its kept copy “%2”").arg(shown(item.path), shown(kept.path));
+                : ItemSafetyText::tr("“%1” no longer has the content of its kept copy “%2”")
+                      .arg(shown(item.path), shown(kept.path));
 }
 
 void recordCurrentState(ResultItem &item)

@@ -21,10 +21,9 @@ namespace selfsame
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("PutBack", text);
-}
+struct PutBackText {
+    Q_DECLARE_TR_FUNCTIONS(PutBack)
+};
 
 PutBackResult moveBack(const QString &from, const QString &to)
 {
@@ -39,7 +38,7 @@ PutBackResult moveBack(const QString &from, const QString &to)
 PutBackResult putBackItem(ResultItem &item, Journal *journal)
 {
     if (item.trashedURL().isEmpty() || item.has(Deleted))
-        return {ENOENT, tr("“%1” is not in the Trash.").arg(displayName(item.path))};
+        return {ENOENT, PutBackText::tr("“%1” is not in the Trash.").arg(displayName(item.path))};
     PutBackResult result = putBackFile(item.trashedURL(), item.path, journal);
     if (result.ok()) {
         removePutBackAttribute(item.path);
@@ -60,7 +59,9 @@ PutBackResult putBackFile(const QString &trashedPath, const QString &destination
     journaled.step.away = trashedPath;
     journaled.step.undoes = undoes;
     if (!journaled.begin())
-        return {EIO, tr("The operations journal could not record the step: %1").arg(journal->error())};
+        return {
+            EIO,
+            PutBackText::tr("The operations journal could not record the step: %1").arg(journal->error())};
     PutBackResult result = moveBack(trashedPath, destination);
     if (result.ok()) {
         faultPoint("putback.moved");
@@ -95,17 +96,17 @@ std::optional<Alert> putBackFailureAlert(const PutBackSummary &summary, const QL
     if (summary.failures == 0 || targets.isEmpty()) return std::nullopt;
     const QString message =
         targets.size() == 1
-            ? tr("“%1” could not be put back from the Trash.").arg(displayName(targets.first()->path))
-            : tr("%1 could not be put back from the Trash.")
-                  .arg(formatCount(summary.failures));
-    return Alert{message, summary.lastErrorText, {tr("Cancel")}, 0, 0};
+            ? PutBackText::tr("“%1” could not be put back from the Trash.")
+                  .arg(displayName(targets.first()->path))
+            : PutBackText::tr("%1 could not be put back from the Trash.").arg(formatCount(summary.failures));
+    return Alert{message, summary.lastErrorText, {PutBackText::tr("Cancel")}, 0, 0};
 }
 
 Alert putBackQuestion(const QString &trashedPath, const QString &destination, int fileCount)
 {
-    QStringList buttons{tr("Put Back"), tr("Cancel")};
-    if (fileCount >= 2) buttons << tr("Put Back All");
-    return Alert{tr("Do you want to put back “%1” to its original location “%2”?")
+    QStringList buttons{PutBackText::tr("Put Back"), PutBackText::tr("Cancel")};
+    if (fileCount >= 2) buttons << PutBackText::tr("Put Back All");
+    return Alert{PutBackText::tr("Do you want to put back “%1” to its original location “%2”?")
                      .arg(displayName(trashedPath), displayPath(destination)),
                  {},
                  buttons,
@@ -116,9 +117,11 @@ Alert putBackQuestion(const QString &trashedPath, const QString &destination, in
 Alert putBackErrorAlert(const QString &trashedPath, const QString &destination, const QString &errorText,
                         bool firstAttempt)
 {
-    QStringList buttons{tr("Cancel")};
-    if (firstAttempt) buttons << tr("Grant Access to “%1”…").arg(displayName(parentFolder(destination)));
-    return Alert{tr("Error: “%1” could not be put back to “%2”").arg(displayName(trashedPath), displayPath(destination)),
+    QStringList buttons{PutBackText::tr("Cancel")};
+    if (firstAttempt)
+        buttons << PutBackText::tr("Grant Access to “%1”…").arg(displayName(parentFolder(destination)));
+    return Alert{PutBackText::tr("Error: “%1” could not be put back to “%2”")
+                     .arg(displayName(trashedPath), displayPath(destination)),
                  errorText, buttons, 0, 0};
 }
 

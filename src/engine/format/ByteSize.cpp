@@ -76,8 +76,11 @@ qint64 stringToBytes(const QString &text)
 
     const qint64 number = digitsToNumber(match.captured(1));
     const QString unit = match.captured(2).toLower();
+    // The English names are always understood too: sizes in scripts and habits do not change
+    // with the language of the session.
     for (const Unit &candidate : kParseUnits) {
-        if (unit.compare(unitName(candidate), Qt::CaseInsensitive) == 0) {
+        if (unit.compare(unitName(candidate), Qt::CaseInsensitive) == 0 ||
+            unit.compare(QLatin1String(candidate.name), Qt::CaseInsensitive) == 0) {
             // Wraps on overflow instead of being undefined.
             return static_cast<qint64>(static_cast<quint64>(number) * static_cast<quint64>(candidate.value));
         }

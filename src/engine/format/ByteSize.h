@@ -4,9 +4,10 @@
 
 namespace selfsame {
 
-// Reads a size typed by the user, such as "10 MB", "4KiB" or "500". Only the first run of
-// digits counts (so "1.5 GB" is 1 byte); an unknown or missing unit means bytes; text
-// without digits gives 0. Overflow of number × unit is not checked.
+// Reads a size typed by the user, such as "10 MB", "4KiB" or "500"; units are read in the
+// session's language and in English. Only the first run of digits counts (so "1.5 GB" is
+// 1 byte); an unknown or missing unit means bytes; text without digits gives 0. Overflow of
+// number × unit is not checked.
 qint64 stringToBytes(const QString &text);
 
 // The canonical text of a size: the largest unit that divides it exactly, binary units

@@ -25,10 +25,9 @@ namespace selfsame
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Undo", text);
-}
+struct UndoText {
+    Q_DECLARE_TR_FUNCTIONS(Undo)
+};
 
 bool exists(const QString &path)
 {
@@ -63,25 +62,27 @@ bool needsCopy(Way way)
 
 QString journalError(const Journal &journal)
 {
-    return tr("the operations journal could not record the step: %1").arg(journal.error());
+    return UndoText::tr("the operations journal could not record the step: %1").arg(journal.error());
 }
 
 // Why the step cannot be undone as things stand; empty when it can.
 QString whyNot(const JournalStep &step, Way way)
 {
     if (way == Way::PutBack) {
-        if (!exists(step.away)) return tr("it is no longer in the trash");
-        if (fileStateOf(step.away, Links::AsThemselves) != step.result) return tr("it changed in the trash since");
-        if (exists(step.path)) return tr("another file now stands at its path");
+        if (!exists(step.away)) return UndoText::tr("it is no longer in the trash");
+        if (fileStateOf(step.away, Links::AsThemselves) != step.result)
+            return UndoText::tr("it changed in the trash since");
+        if (exists(step.path)) return UndoText::tr("another file now stands at its path");
         return {};
     }
     if (!step.result.known() || fileStateOf(step.path, Links::AsThemselves) != step.result)
-        return tr("it changed since");
-    if (way == Way::OriginalBack && !exists(step.away)) return tr("its original is no longer in the trash");
+        return UndoText::tr("it changed since");
+    if (way == Way::OriginalBack && !exists(step.away))
+        return UndoText::tr("its original is no longer in the trash");
     if (way == Way::CopyOfKept) {
         if (!step.keptResult.known() || fileStateOf(step.kept, Links::Follow) != step.keptResult)
-            return tr("its kept copy “%1” changed since").arg(displayPath(step.kept));
-        if (!decodeFSMetadata(step.metadata)) return tr("its metadata was not recorded");
+            return UndoText::tr("its kept copy “%1” changed since").arg(displayPath(step.kept));
+        if (!decodeFSMetadata(step.metadata)) return UndoText::tr("its metadata was not recorded");
     }
     return {};
 }
@@ -110,14 +111,14 @@ QString copyBack(Journal &journal, const JournalStep &undone, const QString &sou
                                                                          : 0644;
     if (const int error = copyWithoutSharing(source, staged, mode)) {
         journaled.reach(Done);
-        return tr("an independent copy could not be made: %1").arg(errorText(error));
+        return UndoText::tr("an independent copy could not be made: %1").arg(errorText(error));
     }
     faultPoint("undo.copied");
     journaled.reach(Staged);
     if (const int error = renameNoReplace(path, aside)) {
         removeItem(staged);
         journaled.reach(Done);
-        return tr("it could not be moved aside: %1").arg(errorText(error));
+        return UndoText::tr("it could not be moved aside: %1").arg(errorText(error));
     }
     faultPoint("undo.moved-aside");
     journaled.reach(TakenAway);
@@ -125,7 +126,7 @@ QString copyBack(Journal &journal, const JournalStep &undone, const QString &sou
         renameNoReplace(aside, path);
         removeItem(staged);
         journaled.reach(Done);
-        return tr("the copy could not be put in its place: %1").arg(errorText(error));
+        return UndoText::tr("the copy could not be put in its place: %1").arg(errorText(error));
     }
     faultPoint("undo.swapped");
     restoreFSMetadata(path, metadata);
@@ -152,14 +153,14 @@ QString originalBack(Journal &journal, const JournalStep &undone)
     const QString &aside = journaled.step.away;
     if (const int error = renameNoReplace(path, aside)) {
         journaled.reach(Done);
-        return tr("it could not be moved aside: %1").arg(errorText(error));
+        return UndoText::tr("it could not be moved aside: %1").arg(errorText(error));
     }
     faultPoint("undo.moved-aside");
     journaled.reach(TakenAway);
     if (const int error = renameNoReplace(trashed, path)) {
         renameNoReplace(aside, path);
         journaled.reach(Done);
-        return tr("its original could not be moved back: %1").arg(errorText(error));
+        return UndoText::tr("its original could not be moved back: %1").arg(errorText(error));
     }
     faultPoint("undo.swapped");
     journaled.reach(Replaced);
@@ -210,8 +211,9 @@ QString missingSpace(const QList<JournalStep> &steps, const FreeSpace &freeSpace
     for (const Need &need : std::as_const(needs)) {
         const qint64 free = freeSpace(need.folder);
         if (need.bytes > free)
-            return tr("Undoing needs %1 free on the drive holding “%2”, which has %3 free. Nothing was changed.")
-                .arg(formatByteCount(need.bytes), displayPath(need.folder), formatByteCount(free));
+            return UndoText::
+                tr("Undoing needs %1 free on the drive holding “%2”, which has %3 free. Nothing was changed.")
+                    .arg(formatByteCount(need.bytes), displayPath(need.folder), formatByteCount(free));
     }
     return {};
 }
@@ -231,31 +233,33 @@ QString describeBatch(const JournalBatch &batch)
     QString replacedWith;
     switch (batch.mode) {
     case ReplaceWithAlias:
-        replacedWith = tr("desktop links");
+        replacedWith = UndoText::tr("desktop links");
         break;
     case ReplaceWithSymbolicLink:
-        replacedWith = tr("symbolic links");
+        replacedWith = UndoText::tr("symbolic links");
         break;
     case ReplaceWithRelativeSymbolicLink:
-        replacedWith = tr("relative symbolic links");
+        replacedWith = UndoText::tr("relative symbolic links");
         break;
     case ReplaceWithHardLink:
-        replacedWith = tr("hard links");
+        replacedWith = UndoText::tr("hard links");
         break;
     case ReplaceWithClone:
-        replacedWith = tr("clones");
+        replacedWith = UndoText::tr("clones");
         break;
     default:
         break;
     }
     if (batch.action == u"trash")
-        return replacedWith.isEmpty() ? tr("Moved to the trash")
-                                      : tr("Moved to the trash and replaced with %1").arg(replacedWith);
+        return replacedWith.isEmpty()
+                   ? UndoText::tr("Moved to the trash")
+                   : UndoText::tr("Moved to the trash and replaced with %1").arg(replacedWith);
     if (batch.action == u"delete")
-        return replacedWith.isEmpty() ? tr("Deleted") : tr("Deleted and replaced with %1").arg(replacedWith);
-    if (batch.action == u"clone") return tr("Replaced with clones");
-    if (batch.action == u"put back") return tr("Put back from the trash");
-    if (batch.action.startsWith(u"undo ")) return tr("Undid action %1").arg(batch.action.mid(5));
+        return replacedWith.isEmpty() ? UndoText::tr("Deleted")
+                                      : UndoText::tr("Deleted and replaced with %1").arg(replacedWith);
+    if (batch.action == u"clone") return UndoText::tr("Replaced with clones");
+    if (batch.action == u"put back") return UndoText::tr("Put back from the trash");
+    if (batch.action.startsWith(u"undo ")) return UndoText::tr("Undid action %1").arg(batch.action.mid(5));
     return batch.action;
 }
 
@@ -268,9 +272,10 @@ bool isUndoable(const JournalBatch &batch)
 QString batchState(const JournalBatch &batch)
 {
     if (batch.action != u"trash" && batch.action != u"delete" && batch.action != u"clone") return {};
-    if (batch.deletedForGood == batch.files) return tr("cannot be undone");
-    if (batch.undone == 0) return tr("can be undone");
-    return batch.undone + batch.deletedForGood == batch.files ? tr("undone") : tr("partly undone");
+    if (batch.deletedForGood == batch.files) return UndoText::tr("cannot be undone");
+    if (batch.undone == 0) return UndoText::tr("can be undone");
+    return batch.undone + batch.deletedForGood == batch.files ? UndoText::tr("undone")
+                                                              : UndoText::tr("partly undone");
 }
 
 namespace
@@ -278,7 +283,7 @@ namespace
 
 QString fileCount(int n)
 {
-    return n == 1 ? tr("1 file") : tr("%1 files").arg(n);
+    return n == 1 ? UndoText::tr("1 file") : UndoText::tr("%1 files").arg(n);
 }
 
 } // namespace
@@ -294,27 +299,31 @@ UndoSummary summarizeUndo(const JournalBatch &batch, const UndoReport &report)
     UndoSummary summary;
     const QString what = describeBatch(batch);
     if (!report.error.isEmpty()) {
-        summary.title = tr("“%1” could not be undone").arg(what);
+        summary.title = UndoText::tr("“%1” could not be undone").arg(what);
         summary.message = report.error;
         return summary;
     }
     summary.complete = report.refused.isEmpty();
     const int given = int(report.undone.size());
-    summary.title = summary.complete ? tr("“%1” was undone").arg(what) : tr("“%1” was undone in part").arg(what);
+    summary.title = summary.complete ? UndoText::tr("“%1” was undone").arg(what)
+                                     : UndoText::tr("“%1” was undone in part").arg(what);
     QStringList parts;
-    parts << (given == 1 ? tr("1 file was given back.") : tr("%1 files were given back.").arg(given));
+    parts << (given == 1 ? UndoText::tr("1 file was given back.")
+                         : UndoText::tr("%1 files were given back.").arg(given));
     if (!report.refused.isEmpty())
-        parts << (report.refused.size() == 1 ? tr("1 file was left as it is, because it changed since.")
-                                             : tr("%1 files were left as they are, because they changed since.")
-                                                   .arg(report.refused.size()));
+        parts << (report.refused.size() == 1
+                      ? UndoText::tr("1 file was left as it is, because it changed since.")
+                      : UndoText::tr("%1 files were left as they are, because they changed since.")
+                            .arg(report.refused.size()));
     if (!report.deletedForGood.isEmpty())
         parts << (report.deletedForGood.size() == 1
-                      ? tr("1 file was deleted for good and cannot be given back.")
-                      : tr("%1 files were deleted for good and cannot be given back.").arg(report.deletedForGood.size()));
+                      ? UndoText::tr("1 file was deleted for good and cannot be given back.")
+                      : UndoText::tr("%1 files were deleted for good and cannot be given back.")
+                            .arg(report.deletedForGood.size()));
     summary.message = parts.join(u' ');
     QStringList details = report.refused;
     for (const QString &path : report.deletedForGood)
-        details << tr("%1: deleted for good").arg(displayPath(path));
+        details << UndoText::tr("%1: deleted for good").arg(displayPath(path));
     summary.details = details.join(u'\n');
     return summary;
 }
@@ -331,12 +340,13 @@ UndoReport undoBatch(Journal &journal, qint64 batchId, const FreeSpace &freeSpac
     UndoReport report;
     const std::optional<JournalBatch> batch = journal.batch(batchId);
     if (!batch) {
-        report.error = tr("There is no action %1 in the journal.").arg(batchId);
+        report.error = UndoText::tr("There is no action %1 in the journal.").arg(batchId);
         return report;
     }
     if (!isUndoable(*batch)) {
-        report.error = batch->undone > 0 ? tr("Action %1 was undone already.").arg(batchId)
-                                         : tr("Action %1 (%2) cannot be undone.").arg(QString::number(batchId), describeBatch(*batch));
+        report.error = batch->undone > 0 ? UndoText::tr("Action %1 was undone already.").arg(batchId)
+                                         : UndoText::tr("Action %1 (%2) cannot be undone.")
+                                               .arg(QString::number(batchId), describeBatch(*batch));
         return report;
     }
     QList<JournalStep> steps = journal.actedSteps(batchId);

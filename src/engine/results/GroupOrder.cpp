@@ -94,7 +94,7 @@ GroupOrder::GroupOrder(const SearchRequest &request)
 
 bool GroupOrder::isOrdered() const
 {
-    return int(m_mode) >= 0 && int(m_mode) <= int(DetectionMode::Attribute);
+    return int(m_mode) >= 0 && int(m_mode) <= int(kLastDetectionMode);
 }
 
 QString GroupOrder::nameKey(const ResultItem &item) const
@@ -113,6 +113,11 @@ int GroupOrder::compare(const ResultItem &a, const ResultItem &b) const
         return order(nameKey(a), nameKey(b));
     case DetectionMode::Attribute:
         return compareAttributeValues(a.spotlight(), b.spotlight());
+    case DetectionMode::SimilarImages:
+    case DetectionMode::SimilarAudio:
+        // Likeness is no equivalence (a is like b, b like c, a not like c): the search's
+        // group number is the only key that puts exactly one group together.
+        return order(a.group, b.group);
     }
     return 0;
 }
@@ -134,6 +139,10 @@ void GroupOrder::sort(QList<ResultItem *> &items) const
     case DetectionMode::Attribute:
         std::stable_sort(items.begin(), items.end(),
                          [this](const ResultItem *a, const ResultItem *b) { return compare(*a, *b) < 0; });
+        break;
+    case DetectionMode::SimilarImages:
+    case DetectionMode::SimilarAudio:
+        sortByKey(items, [](const ResultItem *item) { return item->group; });
         break;
     }
 }
@@ -158,6 +167,8 @@ QList<ResultItem *> GroupOrder::duplicatesFor(const QList<ResultItem *> &sorted,
     Range range{0, 0};
     switch (m_mode) {
     case DetectionMode::Content:
+    case DetectionMode::SimilarImages:
+    case DetectionMode::SimilarAudio:
         range = equalRange(sorted, item, item, true);
         break;
     case DetectionMode::FileName:
@@ -178,7 +189,10 @@ QList<ResultItem *> GroupOrder::duplicatesFor(const QList<ResultItem *> &sorted,
         break;
     }
     }
-    return sorted.mid(range.begin, range.end - range.begin);
+    QList<ResultItem *> members = sorted.mid(range.begin, range.end - range.begin);
+    // An item the similar search placed in no group is like nothing: it stands alone.
+    if (isSimilarityMode(m_mode) && item.group < 0) members.removeIf([&item](const ResultItem *x) { return x != &item; });
+    return members;
 }
 
 } // namespace selfsame

@@ -10,7 +10,7 @@ namespace selfsame
 {
 
 // The order of a detection mode's group key, which both the sorted look-up array and the
-// binary searches over it use. Modes beyond the attribute mode have no order.
+// binary searches over it use. The similar modes order by the search's group number.
 class GroupOrder
 {
 public:
@@ -21,7 +21,8 @@ public:
     // Sorts ascending by the group key.
     void sort(QList<ResultItem *> &items) const;
     // The members of `item`'s group in `sorted` (ascending by the group key), the item
-    // included; in the duration and attribute modes the items within ± tolerance of it.
+    // included; in the duration and attribute modes the items within ± tolerance of it; in the
+    // similar modes exactly the members of its group.
     QList<ResultItem *> duplicatesFor(const QList<ResultItem *> &sorted, const ResultItem &item) const;
 
     // The file-name mode's comparable text of an item.

@@ -131,6 +131,8 @@ const std::array kKeys = {
     STRING_KEY("pixelSize", pixelSize()),
     STRING_KEY("codecs", codecs()),
     NUMBER_KEY("bitrate", bitrate()),
+    ItemKey{"similarity", [](const ResultItem &i) { return optionalNumber(i.similarity()); },
+            [](const ResultItem &a, const ResultItem &b) { return compareOptional(a.similarity(), b.similarity()); }},
     FLAG_KEY("read-only", ReadOnly),
     FLAG_KEY("other owner", OtherOwner),
     FLAG_KEY("isSymlink", IsSymlink),

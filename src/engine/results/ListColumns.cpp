@@ -19,10 +19,9 @@ namespace selfsame
 namespace
 {
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("Dupes", text);
-}
+struct DupesText {
+    Q_DECLARE_TR_FUNCTIONS(Dupes)
+};
 
 const QLatin1String kLatitude("kMDItemLatitude");
 const QLatin1String kLongitude("kMDItemLongitude");
@@ -67,26 +66,33 @@ const QStringList &listColumnIdentifiers()
         QStringLiteral("pixelSize"), QStringLiteral("codecs"),    QStringLiteral("bitrate"),
         QStringLiteral("modified"), QStringLiteral("created"),    QStringLiteral("lastUsed"),
         QStringLiteral("addedDate"), QStringLiteral("attributes"), QStringLiteral("tags"),
-        QStringLiteral("dupes"),    QStringLiteral("clone")};
+        QStringLiteral("dupes"),    QStringLiteral("clone"),      QStringLiteral("similarity")};
     return columns;
 }
 
 QStringList modeHiddenColumns(DetectionMode mode, const QString &spotlightAttribute)
 {
+    const QString similarity = QStringLiteral("similarity");
     switch (mode) {
     case DetectionMode::Duration:
-        return {QStringLiteral("spotlight"), QStringLiteral("latitude"), QStringLiteral("longitude")};
+        return {QStringLiteral("spotlight"), QStringLiteral("latitude"), QStringLiteral("longitude"), similarity};
     case DetectionMode::Attribute:
-        if (spotlightAttribute == kLatitude) return {QStringLiteral("latitude")};
-        if (spotlightAttribute == kLongitude) return {QStringLiteral("longitude")};
-        return {QStringLiteral("latitude"), QStringLiteral("longitude")};
+        if (spotlightAttribute == kLatitude) return {QStringLiteral("latitude"), similarity};
+        if (spotlightAttribute == kLongitude) return {QStringLiteral("longitude"), similarity};
+        return {QStringLiteral("latitude"), QStringLiteral("longitude"), similarity};
+    case DetectionMode::SimilarImages:
+        return {QStringLiteral("spotlight"), QStringLiteral("latitude"), QStringLiteral("longitude"),
+                QStringLiteral("duration"),  QStringLiteral("codecs"),   QStringLiteral("bitrate")};
+    case DetectionMode::SimilarAudio:
+        return {QStringLiteral("spotlight"), QStringLiteral("latitude"), QStringLiteral("longitude"),
+                QStringLiteral("pixelSize")};
     case DetectionMode::Content:
     case DetectionMode::FileName:
         break;
     }
     return {QStringLiteral("spotlight"), QStringLiteral("latitude"), QStringLiteral("longitude"),
             QStringLiteral("duration"),  QStringLiteral("pixelSize"), QStringLiteral("codecs"),
-            QStringLiteral("bitrate")};
+            QStringLiteral("bitrate"),   similarity};
 }
 
 QString columnSortKey(const QString &column)
@@ -130,7 +136,7 @@ QString cellText(const ResultItem &item, const QString &column, const QString &s
     }
     if (column == QLatin1String("path")) return item.parentPath();
     if (column == QLatin1String("extension")) {
-        if (item.has(IsFolder) && !item.has(IsPackage)) return tr("folder");
+        if (item.has(IsFolder) && !item.has(IsPackage)) return DupesText::tr("folder");
         return pathExtension(item.nameView()).toString().toLower();
     }
     if (column == QLatin1String("size")) return formatByteCount(item.size);
@@ -146,6 +152,7 @@ QString cellText(const ResultItem &item, const QString &column, const QString &s
     if (column == QLatin1String("bitrate")) return bitrateText(item.bitrate());
     if (column == QLatin1String("tags")) return item.tagList().join(u' ');
     if (column == QLatin1String("dupes")) return formatCount(item.dupes);
+    if (column == QLatin1String("similarity")) return similarityText(item.similarity());
     if (column == QLatin1String("clone")) return cloneStatusWord(item.clone);
     return {};
 }
@@ -154,24 +161,32 @@ QString bitrateText(double bitsPerSecond)
 {
     const qint64 n = qint64(bitsPerSecond);
     if (n < 1) return {};
-    if (n < 1024) return tr("%1 bps").arg(n);
-    if (n < 1'048'576) return tr("%1 kbps").arg(n / 1024);
-    return tr("%1 Mbps").arg(QLocale().toString(double(n) / 1'048'576.0, 'f', 1));
+    if (n < 1024) return DupesText::tr("%1 bps").arg(n);
+    if (n < 1'048'576) return DupesText::tr("%1 kbps").arg(n / 1024);
+    return DupesText::tr("%1 Mbps").arg(QLocale().toString(double(n) / 1'048'576.0, 'f', 1));
+}
+
+QString similarityText(double percent)
+{
+    if (std::isnan(percent)) return {};
+    // Rounded down below 100: "100 %" stays for what the prints cannot tell apart.
+    const int shown = percent >= 100.0 ? 100 : std::clamp(int(std::floor(percent)), 0, 99);
+    return DupesText::tr("%1 %").arg(QLocale().toString(shown));
 }
 
 QString cloneStatusWord(int status)
 {
     switch (status) {
     case SelectedItself:
-        return tr("selected");
+        return DupesText::tr("selected");
     case HardLink:
-        return tr("hard link");
+        return DupesText::tr("hard link");
     case AlreadyClone:
-        return tr("clone");
+        return DupesText::tr("clone");
     case OtherVolume:
-        return tr("other volume");
+        return DupesText::tr("other volume");
     case ProvenDuplicate:
-        return tr("duplicate");
+        return DupesText::tr("duplicate");
     default:
         return {};
     }

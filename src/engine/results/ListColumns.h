@@ -32,6 +32,8 @@ QString cellText(const ResultItem &item, const QString &column, const QString &s
 
 // "1023 bps", "1 kbps", "1.0 Mbps"; empty below 1.
 QString bitrateText(double bitsPerSecond);
+// A similarity of 0–100 as the lists show it, "97 %"; empty when there is none (NaN).
+QString similarityText(double percent);
 // The word of the status column: "selected", "hard link", "clone", "other volume", "duplicate".
 QString cloneStatusWord(int status);
 

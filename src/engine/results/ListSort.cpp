@@ -43,14 +43,21 @@ int compareExtensions(const ResultItem &a, const ResultItem &b, bool ascending)
     return ascending ? result : -result;
 }
 
+std::optional<qint64> pixelCount(const QString &pixelSize)
+{
+    const QStringList sides = pixelSize.split(QStringLiteral(" \u00d7 "));
+    if (sides.size() != 2) return std::nullopt;
+    bool wide = false, high = false;
+    const qint64 width = sides[0].toLongLong(&wide), height = sides[1].toLongLong(&high);
+    if (!wide || !high) return std::nullopt;
+    return width * height;
+}
+
 int comparePixelSizes(const QString &a, const QString &b)
 {
-    const QString separator = QStringLiteral(" \u00d7 ");
-    const QStringList x = a.split(separator), y = b.split(separator);
-    if (x.size() != 2 || y.size() != 2) return 0;
-    const qint64 pixelsA = x[0].toLongLong() * x[1].toLongLong();
-    const qint64 pixelsB = y[0].toLongLong() * y[1].toLongLong();
-    return pixelsA < pixelsB ? -1 : (pixelsA > pixelsB ? 1 : 0);
+    const std::optional<qint64> pixelsA = pixelCount(a), pixelsB = pixelCount(b);
+    if (!pixelsA || !pixelsB) return 0;
+    return *pixelsA < *pixelsB ? -1 : (*pixelsA > *pixelsB ? 1 : 0);
 }
 
 QString groupColumnKey(DetectionMode mode)
@@ -64,6 +71,9 @@ QString groupColumnKey(DetectionMode mode)
         return kSortByNameKeyPath;
     case DetectionMode::Attribute:
         return QStringLiteral("spotlight");
+    case DetectionMode::SimilarImages:
+    case DetectionMode::SimilarAudio:
+        return QStringLiteral("dupes");
     }
     return {};
 }
@@ -79,6 +89,9 @@ QList<SortDescriptor> sortDescriptorsFor(const SortDescriptor &clicked, Detectio
     if (mode == DetectionMode::FileName && dupes) return {clicked, {name, true}, {folder, true}};
     if (mode == DetectionMode::Duration && dupes) return {clicked, {QStringLiteral("duration"), true}};
     if (mode == DetectionMode::Attribute && dupes) return {clicked, {QStringLiteral("spotlight"), true}};
+    // Each group together, its first item (the one the others are measured against) on top.
+    if (isSimilarityMode(mode) && dupes)
+        return {clicked, {QStringLiteral("group"), true}, {QStringLiteral("similarity"), false}};
     if (key.startsWith(QLatin1String("URL.path.lastPathComponent")))
         return {clicked, {folder, clicked.ascending}};
     if (key.startsWith(QLatin1String("URL.path.stringByDeletingLastPathComponent")))

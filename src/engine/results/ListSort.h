@@ -5,6 +5,7 @@
 
 #include <QList>
 #include <QString>
+#include <optional>
 
 namespace selfsame
 {
@@ -19,6 +20,9 @@ struct SortDescriptor {
 // Folders first (that are not packages), then extensions in plain order, items without
 // one last; equal extensions by lower-cased name. Negated as a whole for a descending sort.
 int compareExtensions(const ResultItem &a, const ResultItem &b, bool ascending);
+
+// The pixels of a pixel size "W × H"; none for a text of another form.
+std::optional<qint64> pixelCount(const QString &pixelSize);
 
 // Pixel sizes "W × H" by their pixel count; texts of another form are equal to everything.
 // The list sort itself orders "pixelSize" as text, as the column has always done.

@@ -23,6 +23,7 @@ namespace
 const QString kNoText;
 const QStringList kNoTags;
 const QVariant kNoValue;
+const QByteArray kNoBytes;
 } // namespace
 
 const QStringList &ResultItem::tagList() const { return m_extra ? m_extra->tagList : kNoTags; }
@@ -31,6 +32,7 @@ const QString &ResultItem::pixelSize() const { return m_extra ? m_extra->pixelSi
 const QString &ResultItem::codecs() const { return m_extra ? m_extra->codecs : kNoText; }
 const QString &ResultItem::trashedURL() const { return m_extra ? m_extra->trashedURL : kNoText; }
 const QString &ResultItem::statusImage() const { return m_extra ? m_extra->statusImage : kNoText; }
+const QByteArray &ResultItem::mediaPrint() const { return m_extra ? m_extra->mediaPrint : kNoBytes; }
 
 ResultItem::Extra &ResultItem::extra()
 {
@@ -86,6 +88,16 @@ void ResultItem::setItemCount(qint64 count)
 void ResultItem::setAddedDate(qint64 date)
 {
     if (date != kNoDate || m_extra) extra().addedDate = date;
+}
+
+void ResultItem::setSimilarity(double percent)
+{
+    if (!std::isnan(percent) || m_extra) extra().similarity = percent;
+}
+
+void ResultItem::setMediaPrint(const QByteArray &print)
+{
+    if (!print.isEmpty() || m_extra) extra().mediaPrint = print;
 }
 
 void ResultItem::setTrashedURL(const QString &trashed)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 #include <QVariant>
@@ -97,6 +98,11 @@ struct ResultItem {
     double bitrate() const { return m_extra ? m_extra->bitrate : 0.0; }      // "bitrate"
     qint64 itemCount() const { return m_extra ? m_extra->itemCount : 0; }    // "itemCount": files in a folder
     qint64 addedDate() const { return m_extra ? m_extra->addedDate : kNoDate; } // "addedDate"
+    // "similarity": 0–100, how alike the item is to its group's first item in the similar
+    // modes; NaN elsewhere.
+    double similarity() const { return m_extra ? m_extra->similarity : kNaN; }
+    // "mediaPrint": the perceptual hash or acoustic fingerprint the similar modes compared.
+    const QByteArray &mediaPrint() const;
     const QString &trashedURL() const;                                     // "trashedURL": path in the Bin
     // "icon": what a file operation made of the item ("trashed", "deleted", "aliased",
     // "hard linked", "cloned"); empty while the file is as found.
@@ -113,6 +119,8 @@ struct ResultItem {
     void setBitrate(double bitsPerSecond);
     void setItemCount(qint64 count);
     void setAddedDate(qint64 date);
+    void setSimilarity(double percent);
+    void setMediaPrint(const QByteArray &print);
     void setTrashedURL(const QString &path);
     void setStatusImage(const QString &name);
 
@@ -125,12 +133,14 @@ private:
         QString codecs;
         QString trashedURL;
         QString statusImage;
+        QByteArray mediaPrint;
         double duration = 0.0;
         double latitude = kNaN;
         double longitude = kNaN;
         double bitrate = 0.0;
         qint64 itemCount = 0;
         qint64 addedDate = kNoDate;
+        double similarity = kNaN;
     };
     // A pointer that copies what it points to, so that items stay plain values.
     struct ExtraPtr : std::unique_ptr<Extra> {

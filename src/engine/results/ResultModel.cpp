@@ -2,8 +2,14 @@
 
 #include "results/CloneStatusPass.h"
 #include "results/PathPrefix.h"
+#include "similar/Similarity.h"
 
 #include <QSet>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <vector>
 
 namespace selfsame
 {
@@ -13,7 +19,7 @@ namespace
 
 bool isKnownMode(DetectionMode mode)
 {
-    return int(mode) >= 0 && int(mode) <= int(DetectionMode::Attribute);
+    return int(mode) >= 0 && int(mode) <= int(kLastDetectionMode);
 }
 
 // The top list's order right after a search: the mode's key, largest first.
@@ -26,6 +32,10 @@ SortDescriptor defaultTopSort(DetectionMode mode)
         return {QStringLiteral("dupes"), false};
     case DetectionMode::Attribute:
         return {QStringLiteral("spotlight"), false};
+    case DetectionMode::SimilarImages:
+    case DetectionMode::SimilarAudio:
+        // Likeness has no order across groups: the biggest groups first, each from its first item.
+        return {QStringLiteral("dupes"), false};
     case DetectionMode::Content:
         break;
     }
@@ -90,6 +100,7 @@ void ResultModel::reset()
     m_mainItemsHidden.clear();
     m_hiddenArrayExists = false;
     m_hiddenBecauseOfAutomaticallySelect = false;
+    m_partial = false;
     m_mainItemsSorted.clear();
     m_mainItemsIncludingHiddenSorted.clear();
     m_selected[0].clear();
@@ -129,6 +140,14 @@ void ResultModel::updateCloneList()
     if (!m_cloneItems.isEmpty()) m_selected[index(ResultList::Bottom)] = {m_cloneItems.first()};
 }
 
+double ResultModel::similarityToSelection(const ResultItem &item) const
+{
+    const QList<ResultItem *> &selected = m_selected[index(ResultList::Top)];
+    if (!isSimilarityMode(detectionMode()) || selected.size() != 1) return std::numeric_limits<double>::quiet_NaN();
+    if (selected.first() == &item) return 100.0;
+    return similarityOf(detectionMode(), *selected.first(), item);
+}
+
 void ResultModel::setSortDescriptor(ResultList list, std::optional<SortDescriptor> descriptor)
 {
     m_sort[index(list)] = std::move(descriptor);
@@ -139,9 +158,31 @@ void ResultModel::sortDescriptorsDidChange(ResultList list)
 {
     QList<ResultItem *> &items = list == ResultList::Top ? m_mainItems : m_cloneItems;
     const std::optional<SortDescriptor> &clicked = m_sort[index(list)];
-    if (clicked) sortItems(items, *clicked, detectionMode());
+    if (clicked && list == ResultList::Bottom && clicked->key == QLatin1String("similarity"))
+        sortBySimilarityToSelection(items, clicked->ascending);
+    else if (clicked)
+        sortItems(items, *clicked, detectionMode());
     if (list == ResultList::Top) updateShowGroups();
     m_selected[index(list)] = inListOrder(items, m_selected[index(list)]);
+}
+
+void ResultModel::sortBySimilarityToSelection(QList<ResultItem *> &items, bool ascending) const
+{
+    // The bottom list shows each row's likeness to the selection, not to the group's first
+    // item: it sorts by what it shows. The selected item itself counts as more alike than any
+    // copy, and items without a value go last either way.
+    const QList<ResultItem *> &selected = m_selected[index(ResultList::Top)];
+    const ResultItem *itself = selected.size() == 1 ? selected.first() : nullptr;
+    std::vector<std::pair<double, ResultItem *>> keyed;
+    keyed.reserve(std::size_t(items.size()));
+    for (ResultItem *item : items)
+        keyed.emplace_back(item == itself ? std::numeric_limits<double>::infinity() : similarityToSelection(*item), item);
+    std::stable_sort(keyed.begin(), keyed.end(), [ascending](const auto &a, const auto &b) {
+        if (std::isnan(a.first) || std::isnan(b.first)) return !std::isnan(a.first) && std::isnan(b.first);
+        return ascending ? a.first < b.first : a.first > b.first;
+    });
+    for (std::size_t i = 0; i < keyed.size(); ++i)
+        items[qsizetype(i)] = keyed[i].second;
 }
 
 void ResultModel::updateShowGroups()

@@ -36,6 +36,10 @@ public:
                         std::optional<SortDescriptor> topSort, bool hiddenByAutomaticSelection);
     // Before a new search: no items in either list.
     void reset();
+    // Results of a search stopped before its end: true groups, but not every group. Set after
+    // setResults or restoreResults, which clear it.
+    void setPartial(bool partial) { m_partial = partial; }
+    bool partial() const { return m_partial; }
 
     const SearchRequest &request() const { return m_request; }
     DetectionMode detectionMode() const { return m_request.detectionMode; }
@@ -64,6 +68,11 @@ public:
     // Rebuilds the bottom list for the top selection, with every row's "clone" status, and
     // selects its first row.
     void updateCloneList();
+    // What the bottom list's similarity column shows: how alike `item` is to the one item
+    // selected in the top list, 0–100 (100 for that item itself); NaN outside the similar
+    // modes or without a single selection. Members of a group are each like the group's first
+    // item, not necessarily like one another, so this is measured afresh.
+    double similarityToSelection(const ResultItem &item) const;
 
     // Sorting by a clicked column (nullopt: unsorted), and re-sorting with the current one.
     void setSortDescriptor(ResultList list, std::optional<SortDescriptor> descriptor);
@@ -97,6 +106,7 @@ public:
 private:
     static int index(ResultList list) { return list == ResultList::Top ? 0 : 1; }
     void updateShowGroups();
+    void sortBySimilarityToSelection(QList<ResultItem *> &items, bool ascending) const;
     void updateAlternateColors();
 
     SearchRequest m_request;
@@ -106,6 +116,7 @@ private:
     QList<ResultItem *> m_mainItemsHidden;
     bool m_hiddenArrayExists = false;
     bool m_hiddenBecauseOfAutomaticallySelect = false;
+    bool m_partial = false;
     QList<ResultItem *> m_mainItemsSorted;
     QList<ResultItem *> m_mainItemsIncludingHiddenSorted;
     QList<ResultItem *> m_cloneItems;

@@ -33,29 +33,33 @@ namespace ResultsFile {
 
 namespace {
 
-QString tr(const char *text) { return QCoreApplication::translate("ResultsFile", text); }
+struct ResultsFileText {
+    Q_DECLARE_TR_FUNCTIONS(ResultsFile)
+};
 
 // The reasons a file is refused, each naming the file.
 QString notResults(const QString &name)
 {
-    return tr("“%1” is not a Selfsame results file.").arg(name);
+    return ResultsFileText::tr("“%1” is not a Selfsame results file.").arg(name);
 }
 QString incomplete(const QString &name)
 {
-    return tr("“%1” is incomplete: it ends before its end. It may have been cut short while it was saved or copied.")
+    return ResultsFileText::tr("“%1” is incomplete: it ends before its end. It may have been cut short while "
+                               "it was saved or copied.")
         .arg(name);
 }
 QString damaged(const QString &name, const QString &why)
 {
-    return tr("“%1” is damaged: %2.").arg(name, why);
+    return ResultsFileText::tr("“%1” is damaged: %2.").arg(name, why);
 }
 QString newer(const QString &name, qint64 version)
 {
-    return tr("“%1” was saved by a newer version of Selfsame (results format %2); this version reads format %3 "
-              "and older.")
-        .arg(name)
-        .arg(version)
-        .arg(kFormatVersion);
+    return ResultsFileText::
+        tr("“%1” was saved by a newer version of Selfsame (results format %2); this version reads format %3 "
+           "and older.")
+            .arg(name)
+            .arg(version)
+            .arg(kFormatVersion);
 }
 
 // Whether JSON text ends inside a string or with objects or arrays still open: a file cut short.
@@ -204,14 +208,16 @@ QString notJson(const QByteArray &bytes, const QString &name)
 {
     if (endsOpen(bytes)) return incomplete(name);
     const auto bad = firstBadNumber(std::string_view(bytes.constData(), std::size_t(bytes.size())));
-    if (!bad) return damaged(name, tr("it is not valid JSON"));
+    if (!bad) return damaged(name, ResultsFileText::tr("it is not valid JSON"));
     const auto &[fault, key] = *bad;
     if (key.empty())
-        return damaged(name, fault == NumberFault::OutOfRange ? tr("it holds a number out of range")
-                                                              : tr("it holds a number that is not valid"));
-    return damaged(name, fault == NumberFault::OutOfRange
-                             ? json::refusal(json::kOutOfRange, key)
-                             : tr("the value of “%1” is not a valid number").arg(json::text(key)));
+        return damaged(name, fault == NumberFault::OutOfRange
+                                 ? ResultsFileText::tr("it holds a number out of range")
+                                 : ResultsFileText::tr("it holds a number that is not valid"));
+    return damaged(name,
+                   fault == NumberFault::OutOfRange
+                       ? json::refusal(json::kOutOfRange, key)
+                       : ResultsFileText::tr("the value of “%1” is not a valid number").arg(json::text(key)));
 }
 
 } // namespace
@@ -228,6 +234,7 @@ Content contentOf(const ResultModel &model)
     content.topList.emplace(model.mainItems().begin(), model.mainItems().end());
     content.topSort = model.sortDescriptor(ResultList::Top);
     content.hiddenByAutomaticSelection = model.hiddenBecauseOfAutomaticallySelect();
+    content.partial = model.partial();
     return content;
 }
 
@@ -244,6 +251,8 @@ void write(const Content &content, const std::function<void(const QByteArray &)>
     json.begin('{');
     json.field("format", QByteArray(kFormatName.data(), kFormatName.size()));
     json.field("version", kFormatVersion);
+    if (content.partial)
+        json.field("partial", true);
     json.newline();
     json.key("request");
     writeRequest(json, *content.request);
@@ -307,7 +316,8 @@ QString save(const ResultModel &model, const QString &path)
     if (text.size() > kCompressAbove) text = gzipCompress(text);
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit())
-        return tr("The results could not be saved to “%1”: %2").arg(path, file.errorString());
+        return ResultsFileText::tr("The results could not be saved to “%1”: %2")
+            .arg(path, file.errorString());
     return {};
 }
 
@@ -319,7 +329,8 @@ Loaded load(const QString &path)
     if (fd < 0 || !file.open(fd, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         const QString why = QString::fromLocal8Bit(std::strerror(errno));
         if (fd >= 0) close(fd);
-        return {std::nullopt, tr("“%1” could not be opened: %2").arg(displayPath(path), why)};
+        return {std::nullopt,
+                ResultsFileText::tr("“%1” could not be opened: %2").arg(displayPath(path), why)};
     }
     return fromBytes(file.readAll(), displayPath(QFileInfo(path).fileName()));
 }
@@ -339,16 +350,25 @@ Loaded fromBytes(QByteArray bytes, const QString &name)
     if (!format || json::string(*format) != kFormatName) return {std::nullopt, notResults(name)};
     const std::optional<json::Element> versionValue = json::member(root, "version");
     const qint64 version = versionValue ? json::integer(*versionValue).value_or(0) : 0;
-    if (version < 1) return {std::nullopt, damaged(name, tr("it has no valid format version"))};
+    if (version < 1)
+        return {std::nullopt, damaged(name, ResultsFileText::tr("it has no valid format version"))};
     if (version > kFormatVersion) return {std::nullopt, newer(name, version)};
 
     QString why;
     const std::optional<json::Element> requestValue = json::member(root, "request");
-    if (!requestValue) return {std::nullopt, damaged(name, tr("it holds no search request"))};
+    if (!requestValue)
+        return {std::nullopt, damaged(name, ResultsFileText::tr("it holds no search request"))};
     std::optional<SearchRequest> request = readRequest(*requestValue, &why);
     if (!request) return {std::nullopt, damaged(name, why)};
+    bool partial = false; // files written before searches could stop part-way are complete
+    if (const std::optional<json::Element> partialValue = json::member(root, "partial")) {
+        const std::optional<bool> flag = json::flag(*partialValue);
+        if (!flag) return {std::nullopt, damaged(name, json::refusal(json::kNotValid, "partial"))};
+        partial = *flag;
+    }
     simdjson::dom::array groups;
-    if (root["groups"].get(groups)) return {std::nullopt, damaged(name, tr("it holds no list of groups"))};
+    if (root["groups"].get(groups))
+        return {std::nullopt, damaged(name, ResultsFileText::tr("it holds no list of groups"))};
     constexpr qint64 kLargest = std::numeric_limits<qint64>::max();
     const auto refused = [&](json::Why fault, std::string_view key) {
         return Loaded{std::nullopt, damaged(name, json::refusal(fault, key))};
@@ -382,7 +402,8 @@ Loaded fromBytes(QByteArray bytes, const QString &name)
         const std::optional<json::Element> dupesValue = json::member(group, "dupes");
         const std::optional<json::Element> membersValue = json::member(group, "items");
         if (!numberValue || !dupesValue || !membersValue)
-            return {std::nullopt, damaged(name, tr("a group has no number, count or items"))};
+            return {std::nullopt,
+                    damaged(name, ResultsFileText::tr("a group has no number, count or items"))};
         qint64 number = 0, dupes = 0, size = 0;
         if (const json::Why fault = json::wholeNumber(*numberValue, 0, INT_MAX, number))
             return refused(fault, "group");
@@ -395,7 +416,8 @@ Loaded fromBytes(QByteArray bytes, const QString &name)
         simdjson::dom::array members;
         if (membersValue->get(members)) return refused(json::kNotValid, "items");
         if (numbers.contains(number))
-            return {std::nullopt, damaged(name, tr("two groups share the number %1").arg(number))};
+            return {std::nullopt,
+                    damaged(name, ResultsFileText::tr("two groups share the number %1").arg(number))};
         numbers.insert(number);
         for (json::Element member : members) {
             simdjson::dom::object object;
@@ -416,7 +438,8 @@ Loaded fromBytes(QByteArray bytes, const QString &name)
                 hidden = *flag;
             }
             if (topList && !rowValue && !hidden)
-                return {std::nullopt, damaged(name, tr("an item is neither in the top list nor hidden"))};
+                return {std::nullopt,
+                        damaged(name, ResultsFileText::tr("an item is neither in the top list nor hidden"))};
             rowOf.append(row);
             items.append(std::move(item));
         }
@@ -427,8 +450,10 @@ Loaded fromBytes(QByteArray bytes, const QString &name)
     for (qsizetype i = 0; i < rowOf.size(); ++i) {
         const qsizetype row = rowOf[i];
         if (row < 0) continue;
-        if (row >= topRows.size()) return {std::nullopt, damaged(name, tr("the top list has gaps"))};
-        if (topRows[row] != -1) return {std::nullopt, damaged(name, tr("two items share one row"))};
+        if (row >= topRows.size())
+            return {std::nullopt, damaged(name, ResultsFileText::tr("the top list has gaps"))};
+        if (topRows[row] != -1)
+            return {std::nullopt, damaged(name, ResultsFileText::tr("two items share one row"))};
         topRows[row] = i;
     }
 
@@ -439,6 +464,7 @@ Loaded fromBytes(QByteArray bytes, const QString &name)
         model.restoreResults(std::move(items), *request, topRows, sort, byAutomaticSelection);
     else
         model.setResults(std::move(items), *request);
+    model.setPartial(partial);
     return loaded;
 }
 

@@ -33,6 +33,7 @@ struct Content {
     std::optional<QList<const ResultItem *>> topList;
     std::optional<SortDescriptor> topSort;
     bool hiddenByAutomaticSelection = false;
+    bool partial = false; // the search was stopped before its end; written only when true
     // Extra keys of an item or of the whole file (the command line's selection and counts).
     std::function<void(JsonWriter &, const ResultItem &)> writeItemExtras;
     std::function<void(JsonWriter &)> writeFileExtras;

@@ -79,7 +79,8 @@ template <std::size_t N> bool readHex(json::Element value, std::array<std::uint8
 enum class Key {
     Path, Size, PhysicalSize, Modified, ModifiedNsec, LastUsed, Attributes, AttributesNsec, Created,
     AddedDate, Device, Inode, TagList, Duration, Latitude, Longitude, Spotlight, PixelSize, Codecs, Bitrate,
-    ItemCount, Digest, AllocDigest, TrashedURL, StatusImage, Flag, PathBytes, TrashedURLBytes,
+    ItemCount, Digest, AllocDigest, TrashedURL, StatusImage, Flag, PathBytes, TrashedURLBytes, Similarity,
+    MediaPrint,
 };
 
 std::optional<Key> keyNamed(std::string_view name)
@@ -95,7 +96,8 @@ std::optional<Key> keyNamed(std::string_view name)
             {"itemCount", Key::ItemCount}, {"digest", Key::Digest},     {"allocDigest", Key::AllocDigest},
             {"trashedURL", Key::TrashedURL}, {"statusImage", Key::StatusImage},
             {"pathBytes", Key::PathBytes}, {"trashedURLBytes", Key::TrashedURLBytes},
-            {"modifiedNanoseconds", Key::ModifiedNsec}, {"attributesNanoseconds", Key::AttributesNsec}};
+            {"modifiedNanoseconds", Key::ModifiedNsec}, {"attributesNanoseconds", Key::AttributesNsec},
+            {"similarity", Key::Similarity}, {"mediaPrint", Key::MediaPrint}};
         for (const auto &[name, flag] : kFlags)
             t.emplace(name, Key::Flag);
         return t;
@@ -183,6 +185,18 @@ json::Why readStatusImage(json::Element value, ResultItem &item)
 
 constexpr json::Why kNotBase64 = QT_TRANSLATE_NOOP("ResultsFile", "the value of “%1” is not base64");
 
+// A print of the similar modes, in base64.
+json::Why readMediaPrint(json::Element value, ResultItem &item)
+{
+    std::string_view text;
+    if (value.get_string().get(text)) return json::kNotValid;
+    const auto decoded = QByteArray::fromBase64Encoding(QByteArray(text.data(), qsizetype(text.size())),
+                                                        QByteArray::AbortOnBase64DecodingErrors);
+    if (!decoded) return kNotBase64;
+    item.setMediaPrint(decoded.decoded);
+    return nullptr;
+}
+
 // The exact bytes of a path that is not UTF-8, in base64; they take the place of its text.
 json::Why readPathBytes(json::Element value, std::optional<QString> &into)
 {
@@ -226,6 +240,8 @@ json::Why readValue(Key key, std::string_view name, json::Element value, ResultI
     case Key::Latitude: return readReal(value, -90, 90, [&](double d) { item.setLatitude(d); });
     case Key::Longitude: return readReal(value, -180, 180, [&](double d) { item.setLongitude(d); });
     case Key::Bitrate: return readReal(value, 0, kUnbounded, [&](double d) { item.setBitrate(d); });
+    case Key::Similarity: return readReal(value, 0, 100, [&](double d) { item.setSimilarity(d); });
+    case Key::MediaPrint: return readMediaPrint(value, item);
     case Key::Spotlight:
         item.setSpotlight(readSpotlight(value));
         return item.spotlight().isValid() ? nullptr : json::kNotValid;
@@ -299,6 +315,8 @@ void writeItem(JsonWriter &json, const ResultItem &item)
     if (!item.pixelSize().isEmpty()) json.field("pixelSize", item.pixelSize());
     if (!item.codecs().isEmpty()) json.field("codecs", item.codecs());
     if (item.bitrate() != 0.0) json.field("bitrate", item.bitrate());
+    if (!std::isnan(item.similarity())) json.field("similarity", item.similarity());
+    if (!item.mediaPrint().isEmpty()) json.field("mediaPrint", item.mediaPrint().toBase64());
     if (!item.trashedURL().isEmpty()) json.field("trashedURL", displayPath(item.trashedURL()));
     if (hasInvalidBytes(item.trashedURL())) json.field("trashedURLBytes", pathBytes(item.trashedURL()).toBase64());
     if (!item.statusImage().isEmpty()) json.field("statusImage", item.statusImage());

@@ -90,6 +90,7 @@ public:
         return true;
     }
     bool has(const char *name) const { return value(name) && !value(name)->is_null(); }
+    bool contains(const char *name) const { return value(name).has_value(); }
     const QString &error() const { return m_error; }
 
 private:
@@ -161,6 +162,8 @@ void writeRequest(JsonWriter &json, const SearchRequest &request)
     json.field("spotlightAttribute", request.spotlightAttribute);
     json.field("spotlightTolerance", request.spotlightTolerance);
     json.field("filenameIgnoreExtension", request.filenameIgnoreExtension);
+    json.field("similarity", qint64(request.similarity));
+    json.field("distinguishGreyscale", request.distinguishGreyscale);
     json.key("filenameIgnoreCommonSuffixRegexes");
     if (request.filenameIgnoreCommonSuffixRegexes)
         writeExpressions(json, *request.filenameIgnoreCommonSuffixRegexes);
@@ -188,11 +191,16 @@ std::optional<SearchRequest> readRequest(json::Element object, QString *error)
               r.wholeNumber("maxFileSize", 0, kLargest, request.maxFileSize) &&
               r.flag("ignoreNonWritable", request.ignoreNonWritable) &&
               r.flag("ignoreOtherOwner", request.ignoreOtherOwner) &&
-              r.wholeNumber("detectionMode", 0, int(DetectionMode::Attribute), detectionMode) &&
+              r.wholeNumber("detectionMode", 0, int(kLastDetectionMode), detectionMode) &&
               r.tolerance("durationTolerance", request.durationTolerance) &&
               r.text("spotlightAttribute", request.spotlightAttribute) &&
               r.tolerance("spotlightTolerance", request.spotlightTolerance) &&
               r.flag("filenameIgnoreExtension", request.filenameIgnoreExtension);
+    // Results saved before the similar modes existed have no similarity.
+    qint64 similarity = kDefaultSimilarity;
+    if (ok && r.contains("similarity")) ok = r.wholeNumber("similarity", 0, 100, similarity);
+    request.similarity = int(similarity);
+    if (ok && r.contains("distinguishGreyscale")) ok = r.flag("distinguishGreyscale", request.distinguishGreyscale);
     if (ok && r.has("filenameIgnoreCommonSuffixRegexes"))
         ok = r.expressions("filenameIgnoreCommonSuffixRegexes", request.filenameIgnoreCommonSuffixRegexes.emplace());
     if (!ok) {

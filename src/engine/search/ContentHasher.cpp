@@ -1,7 +1,7 @@
 #include "search/ContentHasher.h"
 
-#include "format/ByteSize.h"
 #include "results/FileAttributes.h"
+#include "search/ContentHasherWorker.h"
 #include "search/Digest.h"
 
 #include <QCoreApplication>
@@ -33,27 +33,6 @@ constexpr std::size_t kMaxOpenFiles = 128;
 
 } // namespace
 
-// What one hashing thread owns: its buffers and its counts.
-struct ContentHasher::Worker {
-    ReadBuffer buffer;
-    // Side-by-side chunks of one bucket; never zero-filled, every byte used is read first.
-    std::unique_ptr<char[]> chunks;
-    std::size_t chunksSize = 0;
-    char *chunkSpace(std::size_t bytes)
-    {
-        if (bytes > chunksSize) {
-            chunks.reset(new char[bytes]);
-            chunksSize = bytes;
-        }
-        return chunks.get();
-    }
-    std::vector<qint64> allocStorage;
-    SearchStatistics statistics;
-    KnownDigests::Batch learnt;
-    std::vector<std::pair<std::size_t, Fingerprint>> fingerprints; // learnt in the current size job
-    std::vector<std::pair<std::size_t, QStringList>> placed; // allocation digest and tags read, with the tags
-};
-
 ContentHasher::ContentHasher(const EntryTable &entries, RunContext &context, bool ignoreMp4Header, bool sampleFirst,
                              qint64 walkStartedNs)
     : m_entries(entries), m_folders(entries), m_context(context), m_ignoreMp4Header(ignoreMp4Header),
@@ -69,16 +48,35 @@ qint64 ContentHasher::hashedLength(const ContentNode &node) const
     return node.size - (skip ? kMp4HeaderSize : 0);
 }
 
-void ContentHasher::reportProgress(const ContentNode &node)
+qint64 ContentHasher::plannedBytes(const ContentNodes &nodes, const std::vector<std::size_t> &files) const
 {
-    const qint64 handled = ++m_handled;
+    qint64 bytes = 0;
+    for (std::size_t i : files) {
+        const std::optional<CachedDigest> known = m_known.known(i);
+        if (known && known->digest)
+            continue;
+        const qint64 length = hashedLength(nodes[i]);
+        bytes += length + (m_sampleFirst && length > 4 * kSampleSize ? 2 * kSampleSize : 0);
+    }
+    return bytes;
+}
+
+void ContentHasher::countRead(Worker &worker, qint64 bytes)
+{
+    worker.statistics.bytesRead += bytes;
+    m_context.reading.read(bytes);
+    reportProgress();
+}
+
+void ContentHasher::reportProgress()
+{
+    ReadProgress &reading = m_context.reading;
     m_context.status(
         [&] {
-            return QCoreApplication::translate("DuplicateSearch", "Hashing files of %1:")
-                       .arg(formatByteCount(node.size)) +
-                   QLatin1Char(' ') + m_entries.qPath(m_entries[node.entry]);
+            return QCoreApplication::translate("DuplicateSearch", "Comparing files… %1")
+                .arg(reading.text(m_context.throttle.now()));
         },
-        m_total > 0 ? double(handled) / double(m_total) : 0.0);
+        reading.fraction());
 }
 
 template <typename Job> void ContentHasher::parallel(std::size_t count, Job job)
@@ -116,19 +114,17 @@ void ContentHasher::hash(ContentNodes &nodes, const std::vector<SizeRun> &runs)
     std::vector<std::vector<std::size_t>> candidates; // per run: the first path of every inode
     std::unordered_map<InodeKey, std::size_t, InodeHash> firstOfInode;
     for (const SizeRun &run : runs) {
-        m_total += qint64(run.end - run.begin);
         firstOfInode.clear();
         std::vector<std::size_t> files;
         for (std::size_t i = run.begin; i < run.end; ++i) {
             ContentNode &node = nodes[i];
             const FileEntry &entry = m_entries[node.entry];
             if (node.has(IsFolder)) {
-                ++m_handled;
+                continue;
             } else if (node.has(IsSymlink)) {
                 symlinks.push_back(i);
             } else if (node.size == 0) {
                 node.setDigest(emptyDigest());
-                ++m_handled;
             } else if (auto [first, isNew] = firstOfInode.try_emplace(InodeKey{entry.device, entry.inode}, i);
                        !isNew) {
                 followers.emplace_back(i, first->second);
@@ -156,13 +152,24 @@ void ContentHasher::hash(ContentNodes &nodes, const std::vector<SizeRun> &runs)
         ContentNode &node = nodes[symlinks[i]];
         if (auto digest = symlinkDigest(m_entries.path(m_entries[node.entry]).c_str()))
             node.setDigest(*digest);
-        reportProgress(node);
+        reportProgress();
     });
     // Each size is one job, the largest first so that no long job starts last.
     auto bytes = [&](const std::vector<std::size_t> &files) { return qint64(files.size()) * nodes[files[0]].size; };
     std::stable_sort(candidates.begin(), candidates.end(),
                      [&](const auto &a, const auto &b) { return bytes(a) > bytes(b); });
-    parallel(candidates.size(), [&](std::size_t i, Worker &worker) { hashSize(nodes, candidates[i], worker); });
+    // What a job did not read of its plan is given up when it ends, so the bytes to read only shrink.
+    std::vector<qint64> planned(candidates.size());
+    for (std::size_t i = 0; i < candidates.size(); ++i) {
+        planned[i] = plannedBytes(nodes, candidates[i]);
+        m_context.reading.plan(planned[i]);
+    }
+    parallel(candidates.size(), [&](std::size_t i, Worker &worker) {
+        const qint64 readBefore = worker.statistics.bytesRead;
+        hashSize(nodes, candidates[i], worker);
+        m_context.reading.release(planned[i] - (worker.statistics.bytesRead - readBefore));
+        reportProgress();
+    });
 
     std::unordered_map<std::size_t, QStringList> tagsOf(m_tags.begin(), m_tags.end());
     for (const auto &[link, first] : followers) {
@@ -172,7 +179,6 @@ void ContentHasher::hash(ContentNodes &nodes, const std::vector<SizeRun> &runs)
             nodes[link].setDigest(nodes[first].digest());
         if (nodes[first].has(HasAllocDigest))
             nodes[link].setAllocDigest(nodes[first].allocDigest());
-        ++m_handled;
     }
 }
 
@@ -208,7 +214,7 @@ void ContentHasher::hashWhole(ContentNodes &nodes, const std::vector<std::size_t
         if (known && known->digest) {
             nodes[i].setDigest(*known->digest);
             ++worker.statistics.filesFromCache;
-            reportProgress(nodes[i]);
+            reportProgress();
         } else if (known && known->fingerprint) {
             fingerprinted.push_back(i);
         } else {
@@ -220,53 +226,10 @@ void ContentHasher::hashWhole(ContentNodes &nodes, const std::vector<std::size_t
         for (std::size_t i : unknown)
             m_needsDigest[i] = 1;
     if (unknown.size() == 1 && !m_needsDigest[unknown.front()])
-        reportProgress(nodes[unknown.front()]); // alone in its size: cannot have a duplicate
+        reportProgress(); // alone in its size: cannot have a duplicate
     else if (!unknown.empty())
         hashBucket(nodes, unknown, {}, worker);
     readUnlessUnique(nodes, files, fingerprinted, false, worker);
-}
-
-void ContentHasher::readUnlessUnique(ContentNodes &nodes, const std::vector<std::size_t> &group,
-                                     const std::vector<std::size_t> &fingerprinted, bool othersUnknown,
-                                     Worker &worker)
-{
-    if (fingerprinted.empty())
-        return;
-    std::sort(worker.fingerprints.begin(), worker.fingerprints.end());
-    auto fresh = [&](std::size_t i) -> std::optional<Fingerprint> {
-        const auto at = std::lower_bound(worker.fingerprints.begin(), worker.fingerprints.end(),
-                                         std::make_pair(i, Fingerprint{}));
-        if (at != worker.fingerprints.end() && at->first == i)
-            return at->second;
-        return std::nullopt;
-    };
-    // The fingerprints of the whole group; a digest without one could equal anything.
-    std::vector<Fingerprint> all;
-    bool wildcard = othersUnknown;
-    for (std::size_t i : group) {
-        const std::optional<CachedDigest> known = m_known.known(i);
-        if (known && known->fingerprint)
-            all.push_back(*known->fingerprint);
-        else if (const auto learnt = fresh(i))
-            all.push_back(*learnt);
-        else if (nodes[i].has(HasDigest))
-            wildcard = true;
-    }
-    std::sort(all.begin(), all.end());
-    std::vector<std::size_t> shared;
-    for (std::size_t i : fingerprinted) {
-        const Fingerprint own = *m_known.known(i)->fingerprint;
-        const auto [from, to] = std::equal_range(all.begin(), all.end(), own);
-        if (wildcard || to - from > 1) {
-            m_needsDigest[i] = 1;
-            shared.push_back(i);
-        } else {
-            ++worker.statistics.filesFromCache; // unique: no file of its size has its bytes
-            reportProgress(nodes[i]);
-        }
-    }
-    if (!shared.empty())
-        hashBucket(nodes, shared, {}, worker);
 }
 
 void ContentHasher::hashSampled(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker,
@@ -286,13 +249,15 @@ void ContentHasher::hashSampled(ContentNodes &nodes, const std::vector<std::size
     std::vector<Sample> samples;
     bool knownWithoutSample = false; // then no unknown file can be proved different by its sample
     for (std::size_t i : files) {
+        if (m_context.aborted())
+            break; // the files sampled so far are still compared; the others have no sample
         ContentNode &node = nodes[i];
         const bool skip = hashedLength(node) != node.size;
         const std::optional<CachedDigest> known = m_known.known(i);
         if (known && known->digest) {
             node.setDigest(*known->digest);
             ++worker.statistics.filesFromCache;
-            reportProgress(node);
+            reportProgress();
             if (known->sample)
                 samples.push_back({*known->sample ^ quint64(skip), i, -1, ByDigest});
             else
@@ -305,9 +270,10 @@ void ContentHasher::hashSampled(ContentNodes &nodes, const std::vector<std::size
         }
         int fd = m_folders.openFile(m_entries[node.entry]);
         std::optional<quint64> fingerprint;
+        qint64 sampled = 0;
         if (fd >= 0)
-            fingerprint =
-                sampleFingerprint(fd, node.size, skip, worker.buffer, kSampleSize, &worker.statistics.bytesRead);
+            fingerprint = sampleFingerprint(fd, node.size, skip, worker.buffer, kSampleSize, &sampled);
+        countRead(worker, sampled);
         if (fd >= 0 && (!fingerprint || !keepOpen)) {
             close(fd);
             fd = -1;
@@ -318,7 +284,7 @@ void ContentHasher::hashSampled(ContentNodes &nodes, const std::vector<std::size
                 freshSamples.emplace_back(i, *fingerprint);
         } else {
             ++worker.statistics.unreadableFiles;
-            reportProgress(node);
+            reportProgress();
         }
     }
     std::sort(samples.begin(), samples.end(), [](const Sample &a, const Sample &b) {
@@ -351,101 +317,11 @@ void ContentHasher::hashSampled(ContentNodes &nodes, const std::vector<std::size
             if (fds.front() >= 0)
                 close(fds.front());
             ++worker.statistics.filesSampled;
-            reportProgress(nodes[bucket.front()]);
+            reportProgress();
         }
         // Files of other samples differ from these; those without one could equal them.
         readUnlessUnique(nodes, group, fingerprinted, knownWithoutSample, worker);
         begin = end;
-    }
-}
-
-void ContentHasher::completeKnown(ContentNodes &nodes, const std::vector<std::size_t> &files, Worker &worker)
-{
-    std::vector<std::size_t> digested;
-    for (std::size_t i : files)
-        if (nodes[i].has(HasDigest))
-            digested.push_back(i);
-    std::sort(digested.begin(), digested.end(), [&](std::size_t a, std::size_t b) {
-        return compareDigests(nodes[a].digest(), nodes[b].digest()) < 0;
-    });
-    for (std::size_t k = 0; k < digested.size(); ++k) {
-        const std::size_t i = digested[k];
-        const std::optional<CachedDigest> known = m_known.known(i);
-        if (!known || !known->digest)
-            continue;
-        // Folders sum their children's allocation digests; hard links share this one.
-        const bool mayGroup = !m_sampleFirst || m_needsDigest[i] ||
-                              (k > 0 && nodes[digested[k - 1]].digest() == nodes[i].digest()) ||
-                              (k + 1 < digested.size() && nodes[digested[k + 1]].digest() == nodes[i].digest());
-        if (!mayGroup)
-            continue;
-        QStringList tags;
-        if (known->attributes) {
-            if (known->attributes->allocDigest)
-                nodes[i].setAllocDigest(*known->attributes->allocDigest);
-            tags = known->attributes->tags;
-        } else {
-            const int fd = m_folders.openFile(m_entries[nodes[i].entry]);
-            if (fd < 0)
-                continue;
-            if (auto alloc = computeAllocDigest(fd, worker.allocStorage))
-                nodes[i].setAllocDigest(*alloc);
-            tags = readUserTags(fd);
-            close(fd);
-            worker.placed.emplace_back(i, tags);
-        }
-        if (!tags.isEmpty()) {
-            std::lock_guard lock(m_tagsMutex);
-            m_tags.emplace_back(i, std::move(tags));
-        }
-    }
-}
-
-void ContentHasher::recordLearnt(const ContentNodes &nodes, const std::vector<std::size_t> &files,
-                                 const std::vector<std::pair<std::size_t, quint64>> &freshSamples,
-                                 Worker &worker)
-{
-    std::sort(worker.fingerprints.begin(), worker.fingerprints.end());
-    std::stable_sort(worker.placed.begin(), worker.placed.end(),
-                     [](const auto &a, const auto &b) { return a.first < b.first; });
-    auto fresh = freshSamples.begin();
-    for (std::size_t i : files) {
-        while (fresh != freshSamples.end() && fresh->first < i)
-            ++fresh;
-        CachedDigest value;
-        if (fresh != freshSamples.end() && fresh->first == i)
-            value.sample = fresh->second;
-        const std::optional<CachedDigest> known = m_known.known(i);
-        const auto placed = std::lower_bound(worker.placed.begin(), worker.placed.end(), i,
-                                             [](const auto &p, std::size_t node) { return p.first < node; });
-        if (placed != worker.placed.end() && placed->first == i) {
-            value.attributes.emplace();
-            if (nodes[i].has(HasAllocDigest))
-                value.attributes->allocDigest = nodes[i].allocDigest();
-            value.attributes->tags = placed->second;
-        }
-        if (known && known->digest) {
-            if (value.attributes) { // the digest was known, its placement is learnt
-                value.sample = known->sample;
-                value.digest = known->digest;
-                value.fingerprint = known->fingerprint;
-                m_known.learnt(worker.learnt, nodes[i], m_headerSkipped[i], std::move(value));
-            }
-            continue;
-        }
-        const auto learnt = std::lower_bound(worker.fingerprints.begin(), worker.fingerprints.end(),
-                                             std::make_pair(i, Fingerprint{}));
-        if (learnt != worker.fingerprints.end() && learnt->first == i)
-            value.fingerprint = learnt->second;
-        if (m_complete[i])
-            value.digest = nodes[i].digest();
-        const bool news = value.digest || value.fingerprint || (value.sample && !known);
-        if (known) {
-            value.sample = value.sample ? value.sample : known->sample;
-            value.fingerprint = value.fingerprint ? value.fingerprint : known->fingerprint;
-        }
-        if (news)
-            m_known.learnt(worker.learnt, nodes[i], m_headerSkipped[i], std::move(value));
     }
 }
 
@@ -456,7 +332,9 @@ void ContentHasher::hashAlone(ContentNodes &nodes, std::size_t index, Worker &wo
     const DigestResult result = computeDigest(path.c_str(), node.size,
                                               m_ignoreMp4Header, worker.buffer, worker.allocStorage,
                                               &m_context.searchingState, m_known.enabled());
-    worker.statistics.bytesRead += result.bytesRead;
+    countRead(worker, result.bytesRead);
+    if (result.stopped)
+        return;
     if (result.digest) {
         node.setDigest(*result.digest);
         ++worker.statistics.filesHashed;
@@ -476,7 +354,7 @@ void ContentHasher::hashAlone(ContentNodes &nodes, std::size_t index, Worker &wo
         std::lock_guard lock(m_tagsMutex);
         m_tags.emplace_back(index, std::move(tags));
     }
-    reportProgress(node);
+    reportProgress();
 }
 
 bool ContentHasher::readRest(int fd, qint64 offset, qint64 size, Fingerprinter &fingerprint, Worker &worker)
@@ -487,7 +365,7 @@ bool ContentHasher::readRest(int fd, qint64 offset, qint64 size, Fingerprinter &
         const std::size_t want = std::size_t(std::min<qint64>(qint64(worker.buffer.size()), size - offset));
         const ssize_t got = readAt(fd, worker.buffer.data(), want, offset);
         if (got > 0) {
-            worker.statistics.bytesRead += got;
+            countRead(worker, got);
             fingerprint.update(worker.buffer.data(), std::size_t(got));
         }
         if (got != ssize_t(want))
@@ -533,13 +411,13 @@ void ContentHasher::hashBucket(ContentNodes &nodes, const std::vector<std::size_
                                                      : openFiles[k];
         if (fd < 0) {
             ++worker.statistics.unreadableFiles;
-            reportProgress(nodes[node]);
+            reportProgress();
             continue;
         }
         Member member{node, fd};
         if (readAtOnce) {
             member.got = std::max<ssize_t>(readAt(fd, bytesOf(members.size()), chunk, start), 0);
-            worker.statistics.bytesRead += member.got;
+            countRead(worker, member.got);
             close(fd);
             member.fd = -1;
         }
@@ -584,13 +462,13 @@ void ContentHasher::hashBucket(ContentNodes &nodes, const std::vector<std::size_
             }
             ++worker.statistics.filesHashed;
             members[m].done = true;
-            reportProgress(node);
+            reportProgress();
         }
     };
     auto drop = [&](std::size_t m) { // a file no other shares: it needs no digest
         members[m].done = true;
         ++worker.statistics.filesSampled;
-        reportProgress(nodes[members[m].node]);
+        reportProgress();
     };
 
     qint64 offset = start;
@@ -604,7 +482,7 @@ void ContentHasher::hashBucket(ContentNodes &nodes, const std::vector<std::size_
                     continue;
                 const ssize_t n = readAt(members[m].fd, bytesOf(m), want, offset);
                 members[m].got = std::max<ssize_t>(n, 0);
-                worker.statistics.bytesRead += members[m].got;
+                countRead(worker, members[m].got);
             }
         std::vector<Class> next;
         for (Class &c : classes) {
@@ -643,11 +521,14 @@ void ContentHasher::hashBucket(ContentNodes &nodes, const std::vector<std::size_
         }
         classes = std::move(next);
     }
-    for (Class &c : classes)
-        finish(c, offset >= size);
+    // Classes still open were cut short by an abort: a digest of part of the bytes could make
+    // files that differ further on look equal, so they get none.
+    if (offset >= size)
+        for (Class &c : classes)
+            finish(c, true);
     for (Member &member : members) {
         if (!member.done)
-            reportProgress(nodes[member.node]);
+            reportProgress();
         if (member.fd >= 0)
             close(member.fd);
     }

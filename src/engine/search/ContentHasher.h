@@ -70,7 +70,10 @@ private:
     void hashAlone(ContentNodes &nodes, std::size_t index, Worker &worker);
     template <typename Job> void parallel(std::size_t count, Job job);
     qint64 hashedLength(const ContentNode &node) const;
-    void reportProgress(const ContentNode &node);
+    // The most a size job reads: the samples and every byte hashed of the files it may open.
+    qint64 plannedBytes(const ContentNodes &nodes, const std::vector<std::size_t> &files) const;
+    void countRead(Worker &worker, qint64 bytes);
+    void reportProgress();
 
     const EntryTable &m_entries;
     FolderHandles m_folders;
@@ -81,8 +84,6 @@ private:
     std::vector<char> m_headerSkipped; // per node: its digest leaves out the MP4 header
     std::vector<char> m_complete;      // per node: digested over every byte, worth keeping
     KnownDigests m_known;
-    qint64 m_total = 0;
-    std::atomic<qint64> m_handled{0};
     std::mutex m_tagsMutex;
     std::vector<std::pair<std::size_t, QStringList>> m_tags;
 };

@@ -13,7 +13,9 @@ namespace selfsame {
 
 namespace {
 
-QString text(const char *source) { return QCoreApplication::translate("DuplicateSearch", source); }
+struct SearchStatusText {
+    Q_DECLARE_TR_FUNCTIONS(DuplicateSearch)
+};
 
 std::string_view parentPath(std::string_view path)
 {
@@ -48,9 +50,15 @@ ContentSearch::ContentSearch(const SearchRequest &request, EnumerationResult &en
 
 QList<ResultItem> ContentSearch::run()
 {
+    // Groups from part of the files would miss members that were never listed, and folders
+    // not listed to their end would look equal to others.
+    if (m_context.aborted()) {
+        m_context.statistics.stopped = true;
+        return {};
+    }
     const int steps = stepCount();
     m_context.beginStep(2, steps, true);
-    m_context.status([] { return text("Sorting files…"); }, -1);
+    m_context.status([] { return SearchStatusText::tr("Sorting files…"); }, -1);
     const std::vector<SizeRun> runs = sortAndDropRepeats();
 
     m_context.beginStep(3, steps, true);
@@ -63,19 +71,24 @@ QList<ResultItem> ContentSearch::run()
             m_tags.emplace(node, std::move(tags));
     }
     malloc_trim(0); // the hashing threads' buffers, kept by their heaps
+    // Stopped while reading, the files digested so far are grouped all the same: a digest is
+    // only ever made of every byte of a file, so no group is false, though some are missing.
+    // The steps after the reading work in memory and see no abort.
+    m_context.statistics.stopped = m_context.aborted();
 
     if (m_request.compareFolders) {
-        m_context.beginStep(4, steps, true);
-        m_context.status([] { return text("Hashing folders…"); }, 0);
+        m_context.beginStep(4, steps, true, true);
+        m_context.status([] { return SearchStatusText::tr("Hashing folders…"); }, 0);
         hashFolders();
     }
-    m_context.beginStep(m_request.compareFolders ? 5 : 4, steps, true);
-    m_context.status([] { return text("Comparing file hashes…"); }, 0);
+    m_context.beginStep(m_request.compareFolders ? 5 : 4, steps, true, true);
+    m_context.status([] { return SearchStatusText::tr("Comparing file hashes…"); }, 0);
     std::vector<Member> members = compareDigests();
 
     if (m_request.compareFolders && members.size() >= 2) {
-        m_context.beginStep(6, steps, true);
-        m_context.status([] { return text("Filtering out contents of duplicate folders…"); }, 0);
+        m_context.beginStep(6, steps, true, true);
+        m_context.status([] { return SearchStatusText::tr("Filtering out contents of duplicate folders…"); },
+                         0);
         members = filterDuplicateFolderContents(members);
     }
     // Empty files and folders are never worth listing, and links only count inside folders.
@@ -186,8 +199,8 @@ void ContentSearch::hashFolders()
     // does any folder around it, so none of them can be taken for a copy of another.
     std::vector<std::string> notListed = m_enumeration.foldersNotListed;
     std::sort(notListed.begin(), notListed.end());
-    for (std::size_t k = 0; k < n && !m_context.aborted(); ++k) {
-        m_context.status([] { return text("Hashing folders…"); }, double(k) / double(2 * n));
+    for (std::size_t k = 0; k < n; ++k) {
+        m_context.status([] { return SearchStatusText::tr("Hashing folders…"); }, double(k) / double(2 * n));
         ContentNode &node = m_nodes[byPath[k]];
         if (!node.has(IsFolder) || std::binary_search(notListed.begin(), notListed.end(), m_paths[byPath[k]]))
             continue;
@@ -203,12 +216,13 @@ void ContentSearch::hashFolders()
     std::stable_sort(byParent.begin(), byParent.end(), [&](std::size_t a, std::size_t b) {
         return parentPath(m_paths[a]) > parentPath(m_paths[b]);
     });
-    for (std::size_t begin = 0; begin < n && !m_context.aborted();) {
+    for (std::size_t begin = 0; begin < n;) {
         const std::string_view parent = parentPath(m_paths[byParent[begin]]);
         std::size_t end = begin + 1;
         while (end < n && parentPath(m_paths[byParent[end]]) == parent)
             ++end;
-        m_context.status([] { return text("Hashing folders…"); }, 0.5 + double(begin) / double(2 * n));
+        m_context.status([] { return SearchStatusText::tr("Hashing folders…"); },
+                         0.5 + double(begin) / double(2 * n));
         const bool complete = std::all_of(byParent.begin() + qsizetype(begin), byParent.begin() + qsizetype(end),
                                           [&](std::size_t i) { return m_nodes[i].has(HasDigest); });
         const auto found = std::lower_bound(byPath.begin(), byPath.end(), parent,
@@ -260,9 +274,8 @@ std::vector<ContentSearch::Member> ContentSearch::compareDigests()
     int group = 0;
     const std::size_t n = order.size();
     for (std::size_t anchor = 0; anchor + 1 < n; ) {
-        if (m_context.aborted())
-            break;
-        m_context.status([] { return text("Comparing file hashes…"); }, double(anchor) / double(n));
+        m_context.status([] { return SearchStatusText::tr("Comparing file hashes…"); },
+                         double(anchor) / double(n));
         const ContentNode &first = m_nodes[order[anchor]];
         std::size_t end = anchor + 1;
         while (end < n && m_nodes[order[end]].size == first.size && m_nodes[order[end]].digest() == first.digest())
@@ -292,9 +305,7 @@ std::vector<ContentSearch::Member> ContentSearch::filterDuplicateFolderContents(
     const std::vector<std::string> packages = outermost(m_enumeration.packages);
     std::vector<Member> kept;
     for (std::size_t i = 0; i < members.size(); ++i) {
-        if (m_context.aborted())
-            break;
-        m_context.status([] { return text("Filtering out contents of duplicate folders…"); },
+        m_context.status([] { return SearchStatusText::tr("Filtering out contents of duplicate folders…"); },
                          double(i) / double(members.size()));
         std::string path = nodePath(members[i].node);
         if (m_nodes[members[i].node].has(IsFolder))

@@ -1,5 +1,7 @@
 #include "search/Digest.h"
 
+#include "search/SearchState.h"
+
 #include <QtGlobal>
 
 // The digest functions themselves rather than the EVP interface: the same code, without
@@ -163,7 +165,7 @@ ssize_t readAt(int fd, char *buffer, std::size_t length, off_t offset)
 }
 
 DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Header, ReadBuffer &buffer,
-                           std::vector<qint64> &allocStorage, const std::atomic<int> *abortFlag,
+                           std::vector<qint64> &allocStorage, const std::atomic<int> *searchState,
                            bool withFingerprint)
 {
     DigestResult result;
@@ -185,8 +187,11 @@ DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Head
     if (fileSize - offset > qint64(buffer.size()))
         posix_fadvise(fd, offset, fileSize - offset, POSIX_FADV_SEQUENTIAL);
     while (offset < fileSize) {
-        if (abortFlag && abortFlag->load(std::memory_order_relaxed) == 1)
-            break;
+        if (searchState && stopRequested(*searchState)) {
+            close(fd);
+            result.stopped = true;
+            return result;
+        }
         const std::size_t wanted = std::size_t(std::min<qint64>(fileSize - offset, qint64(buffer.size())));
         const ssize_t n = readAt(fd, buffer.data(), wanted, offset);
         if (n > 0) {

@@ -110,13 +110,14 @@ struct DigestResult {
     std::optional<Fingerprint> fingerprint; // when asked for
     std::optional<Digest> allocDigest;
     qint64 bytesRead = 0;
+    bool stopped = false; // the search was aborted before the end of the file: no digest
 };
 
 // Content digest of a file (and its allocation digest when the file system reports a
-// physical extent map). fileSize < 0: looked up with lstat. The loop stops early when
-// abortFlag holds 1 (an abort request); the digest then covers the bytes read so far.
+// physical extent map). fileSize < 0: looked up with lstat. `searchState`: the reading waits
+// while it says the search is paused, and stops early, without a digest, on an abort.
 DigestResult computeDigest(const char *path, qint64 fileSize, bool ignoreMp4Header, ReadBuffer &buffer,
-                           std::vector<qint64> &allocStorage, const std::atomic<int> *abortFlag = nullptr,
+                           std::vector<qint64> &allocStorage, const std::atomic<int> *searchState = nullptr,
                            bool withFingerprint = false);
 
 // Allocation digest of an open regular file: device id, then physical offset and length of

@@ -192,7 +192,7 @@ bool DigestCache::openOnce(QString *problem)
                         "PRAGMA journal_mode = WAL; PRAGMA synchronous = NORMAL; PRAGMA cache_size = -32768; "
                         "PRAGMA wal_autocheckpoint = 8192; PRAGMA mmap_size = 67108864;",
                         nullptr, nullptr, nullptr);
-    if (code != SQLITE_OK) {
+    if (code != SQLITE_OK || !createPrintsTable()) {
         *problem = QString::fromUtf8(sqlite3_errmsg(m_db));
         return false;
     }
@@ -518,8 +518,11 @@ void DigestCache::evictIfOverLimit()
     if (!evict)
         return;
     sqlite3_bind_int64(evict.handle, 1, rows - keep);
-    if (!failed(sqlite3_step(evict.handle), "evicting"))
-        sqlite3_exec(m_db, "PRAGMA incremental_vacuum", nullptr, nullptr, nullptr);
+    if (failed(sqlite3_step(evict.handle), "evicting"))
+        return;
+    // Prints go with the digests of their days.
+    sqlite3_exec(m_db, "DELETE FROM prints WHERE used < (SELECT min(used) FROM digests)", nullptr, nullptr, nullptr);
+    sqlite3_exec(m_db, "PRAGMA incremental_vacuum", nullptr, nullptr, nullptr);
 }
 
 } // namespace selfsame

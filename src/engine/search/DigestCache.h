@@ -2,6 +2,7 @@
 
 #include "search/Digest.h"
 
+#include <QByteArray>
 #include <QString>
 #include <QStringList>
 
@@ -45,6 +46,14 @@ struct CachedDigest {
     std::optional<Attributes> attributes;
 };
 
+// What the similar modes computed for a file: its perceptual hash or acoustic fingerprint,
+// and the few values of its own the search shows (size in pixels, duration, bit rate…).
+struct CachedPrint {
+    QByteArray print;
+    QByteArray details;
+};
+enum class PrintKind : int { Picture = 1, Recording = 2 };
+
 // Digests of files kept between searches, in an SQLite database that several processes may
 // use at once. Results never depend on it: a record is used only when the file's key is
 // unchanged and the record's own check value is intact; a database that cannot be used is
@@ -86,6 +95,11 @@ public:
     // Returns once every queued record is written (or dropped on a database error).
     void flush();
 
+    // Prints of the similar modes, kept by the same keys as digests; written at once.
+    void lookupPrints(PrintKind kind, const std::vector<DigestKey> &keys,
+                      const std::function<void(std::size_t, CachedPrint)> &found);
+    void storePrints(PrintKind kind, const std::vector<std::pair<DigestKey, CachedPrint>> &records);
+
 private:
     struct Pending;
     bool open();
@@ -95,6 +109,7 @@ private:
     void writeLoop();
     void write(const Pending &batch);
     void evictIfOverLimit();
+    bool createPrintsTable();
     bool failed(int code, const char *what);
 
     QString m_path;

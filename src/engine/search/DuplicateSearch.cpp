@@ -13,16 +13,24 @@ namespace selfsame {
 
 EmptyResultMessage emptyResultMessage(DetectionMode mode, const SearchStatistics &statistics)
 {
-    auto tr = [](const char *text) { return QCoreApplication::translate("DuplicateSearch", text); };
     if (mode == DetectionMode::Attribute && !statistics.someSpotlightValueFound)
-        return {tr("No file has been found with the specified spotlight attribute."),
-                tr("Make sure the folder you are searching contains some files with this attribute, and that "
-                   "your Spotlight index is not disabled.")};
+        return {DuplicateSearch::tr("No file has been found with the specified spotlight attribute."),
+                DuplicateSearch::tr("Make sure the folder you are searching contains some files with this "
+                                    "attribute in a format whose metadata can be read.")};
     if (mode == DetectionMode::Duration && !statistics.someDurationFound)
-        return {tr("No time-based file has been found."),
-                tr("Make sure the folder you are searching contains some audio or video files, and that your "
-                   "Spotlight index is not disabled.")};
-    return {tr("No duplicate files were found."), {}};
+        return {DuplicateSearch::tr("No time-based file has been found."),
+                DuplicateSearch::tr("Make sure the folder you are searching contains some audio or video files.")};
+    const bool undecodable = statistics.unreadableFiles > 0;
+    if (mode == DetectionMode::SimilarImages)
+        return {DuplicateSearch::tr("No similar pictures were found."),
+                undecodable ? DuplicateSearch::tr("Some pictures could not be decoded; they are listed as unreadable.")
+                            : QString()};
+    if (mode == DetectionMode::SimilarAudio)
+        return {DuplicateSearch::tr("No recordings were found twice."),
+                undecodable
+                    ? DuplicateSearch::tr("Some recordings could not be decoded; they are listed as unreadable.")
+                    : QString()};
+    return {DuplicateSearch::tr("No duplicate files were found."), {}};
 }
 
 namespace {
@@ -70,11 +78,30 @@ void DuplicateSearch::searchInFolderURLs(const SearchRequest &request)
 void DuplicateSearch::abortAndWait(bool wait)
 {
     int expected = Running;
-    if (!m_searchingState.compare_exchange_strong(expected, AbortRequested))
+    if (!m_searchingState.compare_exchange_strong(expected, AbortRequested) &&
+        !(expected == Paused && m_searchingState.compare_exchange_strong(expected, AbortRequested)))
         return;
     m_aborted = true;
+    // Paused threads see the abort within their wait's time; a signal handler must not wake them.
+    if (wait)
+        wakePausedSearches();
     while (wait && m_searchingState.load() == AbortRequested)
         std::this_thread::sleep_for(std::chrono::milliseconds(100));
+}
+
+bool DuplicateSearch::pause()
+{
+    int expected = Running;
+    return m_searchingState.compare_exchange_strong(expected, Paused);
+}
+
+bool DuplicateSearch::resume()
+{
+    int expected = Paused;
+    if (!m_searchingState.compare_exchange_strong(expected, Running))
+        return false;
+    wakePausedSearches();
+    return true;
 }
 
 void DuplicateSearch::searchInFolderURLsInBackground()
@@ -89,9 +116,11 @@ void DuplicateSearch::searchInFolderURLsInBackground()
     // Finding a volume looks at every parent folder: done here, never on the caller's thread.
     context.singleFileScope =
         m_singleFileVolumesOf.isEmpty() ? m_singleFileScope : volumeRoots(m_singleFileVolumesOf);
-    // Only content digests are kept; the cache writes what it still holds after searchDone.
+    // Only content digests and the similar modes' prints are kept; the cache writes what it
+    // still holds after searchDone.
     std::optional<DigestCache> cache;
-    if (const QString path = digestCachePath(); !path.isEmpty() && m_request.detectionMode == DetectionMode::Content) {
+    if (const QString path = digestCachePath(); !path.isEmpty() && (m_request.detectionMode == DetectionMode::Content ||
+                                                       isSimilarityMode(m_request.detectionMode))) {
         cache.emplace(path);
         context.digestCache = &*cache;
     }

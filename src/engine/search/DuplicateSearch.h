@@ -42,9 +42,15 @@ public:
     void setSingleFileScopeVolumesOf(const QStringList &locations) { m_singleFileVolumesOf = locations; }
 
     void abort() { abortAndWait(false); }
-    // Requests an abort when the search is running; with `wait`, returns once it has stopped.
-    // Safe to call from a signal handler when `wait` is false.
+    // Requests an abort when the search is running or paused; with `wait`, returns once it has
+    // stopped. Safe to call from a signal handler when `wait` is false. What was grouped
+    // until then is kept (see SearchStatistics::stopped).
     void abortAndWait(bool wait);
+    // A paused search holds its threads where they are: reading stops after the block each
+    // is at. False when the search was not running.
+    bool pause();
+    bool resume();
+    bool paused() const { return m_searchingState.load() == Paused; }
 
     int searchingState() const { return m_searchingState.load(); }
     bool aborted() const { return m_aborted.load(); }

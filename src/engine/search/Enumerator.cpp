@@ -2,6 +2,7 @@
 
 #include "names/FileNames.h"
 #include "search/AliasFiles.h"
+#include "search/SearchState.h"
 
 #include <QDir>
 
@@ -163,7 +164,7 @@ private:
                bool unknownType, int level, bool inFolderEnumeration, EntryBatch &batch,
                std::vector<std::string> &packages);
     void list(const Job &job);
-    bool aborted() const { return m_owner.m_searchingState.load(std::memory_order_relaxed) == 1; }
+    bool aborted() const { return stopRequested(m_owner.m_searchingState); }
     void flush(quint32 folder, EntryBatch &batch, std::vector<Child> &children, std::vector<std::string> &packages);
 
     const Enumerator &m_owner;
@@ -457,7 +458,7 @@ void Enumerator::readMetadata(EntryTable &entries)
     std::atomic<std::size_t> next{0};
     auto work = [&] {
         for (std::size_t i; (i = next++) < entries.size();) {
-            if (m_searchingState.load(std::memory_order_relaxed) == 1)
+            if (stopRequested(m_searchingState))
                 return;
             metadata[i] = m_metadataFilter->read(entries.qPath(entries[i]));
         }

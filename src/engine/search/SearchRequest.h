@@ -10,7 +10,24 @@
 
 namespace selfsame {
 
-enum class DetectionMode : int { Content = 0, Duration = 1, FileName = 2, Attribute = 3 };
+enum class DetectionMode : int {
+    Content = 0,
+    Duration = 1,
+    FileName = 2,
+    Attribute = 3,
+    SimilarImages = 4, // pictures that look alike: perceptual hashes
+    SimilarAudio = 5,  // the same recording in any format: acoustic fingerprints
+};
+inline constexpr DetectionMode kLastDetectionMode = DetectionMode::SimilarAudio;
+inline bool isSimilarityMode(DetectionMode mode)
+{
+    return mode == DetectionMode::SimilarImages || mode == DetectionMode::SimilarAudio;
+}
+
+// 0 to 100: how alike two pictures or recordings must be to share a group. The default is
+// what a person calls "very similar": a picture scaled, recompressed or slightly cropped, a
+// recording at another bit rate or in another format.
+inline constexpr int kDefaultSimilarity = 90;
 enum class ExtensionsMode : int { All = 0, Only = 1, AllBut = 2 };
 
 // The parameters of one search, in their fixed order.
@@ -36,6 +53,8 @@ struct SearchRequest {
     double spotlightTolerance = 0.0;
     bool filenameIgnoreExtension = false;
     std::optional<QList<QRegularExpression>> filenameIgnoreCommonSuffixRegexes;
+    int similarity = kDefaultSimilarity;     // the similar modes' threshold, 0–100
+    bool distinguishGreyscale = false;       // similar pictures: a grey copy is not like its colour original
 };
 
 // The request as the search keeps it: folder comparison only in the content mode, and

@@ -9,6 +9,7 @@
 #include "search/ExactSizeIndex.h"
 #include "search/SingleFileDuplicates.h"
 #include "search/SweepSearch.h"
+#include "similar/SimilarSearch.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -77,11 +78,17 @@ QList<ResultItem> SearchRun::run()
         m_context.statistics.unreadableFolderPaths.append(pathFromBytes(path));
 
     QList<ResultItem> items;
-    if (content)
+    if (content) {
         items = ContentSearch(request, enumeration, m_context).run();
-    else
-        items = SweepSearch(request, enumeration).run();
+    } else {
+        // What the other modes find in part of the files is true of those files.
+        items = isSimilarityMode(request.detectionMode) ? SimilarSearch(request, enumeration, m_context).run()
+                                                        : SweepSearch(request, enumeration).run();
+        m_context.statistics.stopped = m_context.aborted();
+    }
     removeCommonPathPrefix(request.searchInFolderURLs, items);
+    if (!m_context.statistics.stopped)
+        m_context.finished();
     return items;
 }
 

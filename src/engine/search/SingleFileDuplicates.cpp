@@ -117,7 +117,8 @@ std::optional<Digest> SingleFileDuplicates::digestOf(const QString &path, qint64
                                               m_allocStorage, &m_context.searchingState, key.has_value());
     m_context.statistics.bytesRead += result.bytesRead;
     if (!result.digest) {
-        ++m_context.statistics.unreadableFiles;
+        if (!result.stopped)
+            ++m_context.statistics.unreadableFiles;
         return std::nullopt;
     }
     ++m_context.statistics.filesHashed;

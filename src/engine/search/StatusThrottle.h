@@ -18,6 +18,8 @@ public:
     bool admit();
     // At the start of every step, so that the step's first message is always shown.
     void reset() { m_last.store(0, std::memory_order_relaxed); }
+    // The time on the throttle's clock, for rates shown with the messages.
+    qint64 now() const { return m_clock(); }
 
     static qint64 wallClockMicroseconds();
 

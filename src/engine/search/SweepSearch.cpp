@@ -186,6 +186,8 @@ QList<ResultItem> SweepSearch::run()
         sorted = sortedByAttribute(runs);
         break;
     case DetectionMode::Content:
+    case DetectionMode::SimilarImages:
+    case DetectionMode::SimilarAudio:
         return {};
     }
     QList<ResultItem> items;

@@ -67,18 +67,20 @@ TEST(ListColumns, EachModeHidesTheColumnsItHasNoValuesFor)
                             QStringLiteral("bitrate")};
     for (DetectionMode mode : {DetectionMode::Content, DetectionMode::FileName}) {
         const QStringList hidden = modeHiddenColumns(mode, {});
-        EXPECT_EQ(hidden.size(), 7);
+        EXPECT_EQ(hidden.size(), 8);
         for (const QString &column : media)
             EXPECT_TRUE(hidden.contains(column));
     }
+    const QString similarity = QStringLiteral("similarity");
     EXPECT_EQ(modeHiddenColumns(DetectionMode::Duration, {}),
-              (QStringList{QStringLiteral("spotlight"), QStringLiteral("latitude"), QStringLiteral("longitude")}));
+              (QStringList{QStringLiteral("spotlight"), QStringLiteral("latitude"), QStringLiteral("longitude"),
+                           similarity}));
     EXPECT_EQ(modeHiddenColumns(DetectionMode::Attribute, QStringLiteral("kMDItemLatitude")),
-              QStringList{QStringLiteral("latitude")});
+              (QStringList{QStringLiteral("latitude"), similarity}));
     EXPECT_EQ(modeHiddenColumns(DetectionMode::Attribute, QStringLiteral("kMDItemLongitude")),
-              QStringList{QStringLiteral("longitude")});
+              (QStringList{QStringLiteral("longitude"), similarity}));
     EXPECT_EQ(modeHiddenColumns(DetectionMode::Attribute, QStringLiteral("kMDItemPixelHeight")),
-              (QStringList{QStringLiteral("latitude"), QStringLiteral("longitude")}));
+              (QStringList{QStringLiteral("latitude"), QStringLiteral("longitude"), similarity}));
     for (const QString &column : modeHiddenColumns(DetectionMode::Content, {}))
         EXPECT_TRUE(listColumnIdentifiers().contains(column));
 }

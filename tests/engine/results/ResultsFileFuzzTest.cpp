@@ -50,6 +50,8 @@ QByteArray savedResults(const TempTree &tree)
     items[1].setBitrate(320000);
     items[1].setPixelSize(QStringLiteral("640 × 480"));
     items[1].setCodecs(QStringLiteral("H.264"));
+    items[1].setSimilarity(97.5);
+    items[1].setMediaPrint(QByteArray("\x01\x02\x03\xff", 4));
     items[2].setSpotlight(12.5);
     items[3].set(IsFolder);
     items[3].set(IsPackage);
@@ -78,6 +80,7 @@ QByteArray savedResults(const TempTree &tree)
     QList<ResultItem *> visible = model.mainItems();
     ResultItem *const hidden = visible.takeLast();
     model.hide(visible, {hidden}, true);
+    model.setPartial(true);
     QByteArray plain;
     ResultsFile::write(ResultsFile::contentOf(model), [&](const QByteArray &piece) { plain += piece; });
     return plain;
@@ -189,7 +192,7 @@ TEST(ResultsFileFuzz, EveryKeyWithAValueOfEachKindIsReadOrRefused)
     // The replacements each key may take; all others must be refused.
     const std::set<std::string> none, flag = {"true"}, count = {"1"}, text = {"\"x\""}, list = {"[]"};
     const std::map<std::string, std::set<std::string>> allowed = {
-        {"format", none}, {"version", count}, {"request", none}, {"searchInFolderURLs", list},
+        {"format", none}, {"version", count}, {"partial", flag}, {"request", none}, {"searchInFolderURLs", list},
         {"findAllDupesForSingleFiles", flag}, {"skipHiddenFiles", flag}, {"ignoreMp4Header", flag},
         {"ignoreClones", flag}, {"limitFolderDepth", {"1", "-1"}}, {"skipFilenameRegexes", list},
         {"pattern", text}, {"caseInsensitive", flag}, {"extensionsMode", count}, {"extensions", list},
@@ -197,6 +200,7 @@ TEST(ResultsFileFuzz, EveryKeyWithAValueOfEachKindIsReadOrRefused)
         {"ignoreNonWritable", flag}, {"ignoreOtherOwner", flag}, {"detectionMode", count},
         {"durationTolerance", count}, {"spotlightAttribute", text}, {"spotlightTolerance", count},
         {"filenameIgnoreExtension", flag}, {"filenameIgnoreCommonSuffixRegexes", {"null", "[]"}},
+        {"similarity", count}, {"distinguishGreyscale", flag}, {"mediaPrint", text},
         {"topList", {"{}"}}, {"sort", {"null"}}, {"key", text}, {"ascending", flag},
         {"hiddenByAutomaticSelection", flag}, {"groups", list}, {"group", count}, {"dupes", count},
         {"size", count}, {"items", list}, {"path", none}, {"physicalSize", count}, {"modified", none},

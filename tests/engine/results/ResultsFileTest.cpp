@@ -200,6 +200,27 @@ TEST(ResultsFile, TopListOrderSortAndHiddenItemsComeBackAsShown)
     EXPECT_TRUE(reopened.mainItemsHidden().isEmpty());
 }
 
+TEST(ResultsFile, PartialResultsSaySoAndOtherFilesAreComplete)
+{
+    TempTree tree;
+    ResultModel model;
+    model.setResults(filesIn(tree, 2), requestFor(tree));
+    ResultsFile::Loaded loaded;
+    ASSERT_EQ(saveAndReload(model, tree, &loaded), QString());
+    EXPECT_FALSE(loaded.model->partial());
+    QFile saved(tree.path(QStringLiteral("saved.selfsame")));
+    ASSERT_TRUE(saved.open(QIODevice::ReadOnly));
+    EXPECT_FALSE(saved.readAll().contains("\"partial\"")) << "complete results are written as before";
+
+    model.setPartial(true);
+    ASSERT_EQ(saveAndReload(model, tree, &loaded), QString());
+    EXPECT_TRUE(loaded.model->partial());
+    EXPECT_EQ(paths(loaded.model->mainItems()), paths(model.mainItems()));
+    // A new search in the same model starts complete.
+    model.setResults(filesIn(tree, 2), requestFor(tree));
+    EXPECT_FALSE(model.partial());
+}
+
 TEST(ResultsFile, ResultsSavedAfterActionsReopenWithTheSameMarks)
 {
     TempTree tree;
@@ -391,7 +412,9 @@ TEST(ResultsFile, ValuesOfTheWrongKindOrOutOfRangeAreRefusedNamingTheKey)
         {group, "\"group\":-1", "the value of “group” is negative"},
         {group, "\"group\":2147483648", "the value of “group” is out of range"},
         {group, "\"size\":-1", "the value of “size” is negative"},
-        {request, "\"detectionMode\":4", "the value of “detectionMode” is out of range"},
+        {request, "\"detectionMode\":6", "the value of “detectionMode” is out of range"},
+        {request, "\"similarity\":101", "the value of “similarity” is out of range"},
+        {item, "\"mediaPrint\":\"*\"", "the value of “mediaPrint” is not base64"},
         {request, "\"extensionsMode\":-1", "the value of “extensionsMode” is negative"},
         {request, "\"minFileSize\":-1", "the value of “minFileSize” is negative"},
         {request, "\"durationTolerance\":-0.1", "the value of “durationTolerance” is negative"},

@@ -1,4 +1,4 @@
-#include "EnglishPlurals.h"
+#include "language/EnglishPlurals.h"
 
 namespace selfsame {
 
