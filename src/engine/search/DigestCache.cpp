@@ -1,4 +1,5 @@
 #include "search/DigestCache.h"
+#include "search/DigestCacheSql.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -21,15 +22,12 @@ namespace selfsame {
 
 namespace {
 
+using namespace cacheSql;
+
 constexpr int kApplicationId = 0x53454c46; // "SELF"
 constexpr int kSchemaVersion = 1;
 // Point look-ups for a few files of a device, one ordered walk over its inode range for many.
 constexpr std::size_t kRangeWalkFrom = 256;
-
-// SQLite integers are signed: flipping the top bit keeps unsigned order.
-qint64 ordered(quint64 value) { return qint64(value ^ (quint64(1) << 63)); }
-
-qint64 today() { return QDateTime::currentSecsSinceEpoch() / 86400; }
 
 // Tags are kept as one text; no tag holds this separator.
 constexpr QChar kTagSeparator(0x1f);
@@ -55,13 +53,6 @@ quint64 checkValue(const DigestKey &key, quint64 volume, const CachedDigest &val
     const QByteArray tags = tagsText(value);
     return XXH3_64bits_withSeed(tags.constData(), std::size_t(tags.size()), XXH3_64bits(&bytes, sizeof(bytes)));
 }
-
-struct Statement {
-    sqlite3_stmt *handle = nullptr;
-    Statement(sqlite3 *db, const char *sql) { sqlite3_prepare_v2(db, sql, -1, &handle, nullptr); }
-    ~Statement() { sqlite3_finalize(handle); }
-    explicit operator bool() const { return handle != nullptr; }
-};
 
 bool isDamage(int code)
 {

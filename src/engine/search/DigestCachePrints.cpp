@@ -2,9 +2,8 @@
 // keyed alike, so that a second search decodes nothing that did not change.
 
 #include "search/DigestCache.h"
+#include "search/DigestCacheSql.h"
 
-#include <QDateTime>
-#include <sqlite3.h>
 #include <xxhash.h>
 
 namespace selfsame
@@ -13,22 +12,7 @@ namespace selfsame
 namespace
 {
 
-qint64 ordered(quint64 value)
-{
-    return qint64(value ^ (quint64(1) << 63));
-}
-
-qint64 today()
-{
-    return QDateTime::currentSecsSinceEpoch() / 86400;
-}
-
-struct Statement {
-    sqlite3_stmt *handle = nullptr;
-    Statement(sqlite3 *db, const char *sql) { sqlite3_prepare_v2(db, sql, -1, &handle, nullptr); }
-    ~Statement() { sqlite3_finalize(handle); }
-    explicit operator bool() const { return handle != nullptr; }
-};
+using namespace cacheSql;
 
 quint64 printCheckValue(const DigestKey &key, quint64 volume, PrintKind kind, const CachedPrint &value)
 {
@@ -37,12 +21,6 @@ quint64 printCheckValue(const DigestKey &key, quint64 volume, PrintKind kind, co
     const QByteArray bytes = value.print + value.details;
     return XXH3_64bits_withSeed(bytes.constData(), std::size_t(bytes.size()),
                                 XXH3_64bits(fields, sizeof(fields)));
-}
-
-QByteArray blob(sqlite3_stmt *row, int column)
-{
-    return QByteArray(static_cast<const char *>(sqlite3_column_blob(row, column)),
-                      sqlite3_column_bytes(row, column));
 }
 
 } // namespace
@@ -81,7 +59,7 @@ void DigestCache::lookupPrints(PrintKind kind, const std::vector<DigestKey> &key
             sqlite3_column_int64(select.handle, 1) != key.modifiedNs ||
             sqlite3_column_int64(select.handle, 2) != key.changedNs)
             continue;
-        CachedPrint value{blob(select.handle, 3), blob(select.handle, 4)};
+        CachedPrint value{select.blobAt(3), select.blobAt(4)};
         if (quint64(sqlite3_column_int64(select.handle, 5)) != printCheckValue(key, volume, kind, value))
             continue;
         if (sqlite3_column_int64(select.handle, 6) < now) {
