@@ -64,6 +64,393 @@
     </message>
 </context>
 <context>
+    <name>AttributeCatalogue</name>
+    <message>
+        <source>File size</source>
+        <translation>Dateigröße</translation>
+    </message>
+    <message>
+        <source>Size of the file in bytes</source>
+        <translation>Größe der Datei in Bytes</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Dateiname</translation>
+    </message>
+    <message>
+        <source>Name of the file on disk</source>
+        <translation>Name der Datei auf dem Datenträger</translation>
+    </message>
+    <message>
+        <source>Display name</source>
+        <translation>Anzeigename</translation>
+    </message>
+    <message>
+        <source>Name of the item as it is displayed</source>
+        <translation>Name des Objekts, wie er angezeigt wird</translation>
+    </message>
+    <message>
+        <source>File created</source>
+        <translation>Datei erstellt</translation>
+    </message>
+    <message>
+        <source>Date when the file was created, where the file system records it</source>
+        <translation>Datum, an dem die Datei erstellt wurde, sofern das Dateisystem es festhält</translation>
+    </message>
+    <message>
+        <source>File modified</source>
+        <translation>Datei geändert</translation>
+    </message>
+    <message>
+        <source>Date when the file&apos;s content last changed on disk</source>
+        <translation>Datum, an dem sich der Inhalt der Datei auf dem Datenträger zuletzt geändert hat</translation>
+    </message>
+    <message>
+        <source>Content modified</source>
+        <translation>Inhalt geändert</translation>
+    </message>
+    <message>
+        <source>Date when the item&apos;s content was last modified</source>
+        <translation>Datum, an dem der Inhalt des Objekts zuletzt geändert wurde</translation>
+    </message>
+    <message>
+        <source>Content type</source>
+        <translation>Inhaltstyp</translation>
+    </message>
+    <message>
+        <source>Type of the item&apos;s content, as a MIME type</source>
+        <translation>Typ des Inhalts des Objekts, als MIME-Typ</translation>
+    </message>
+    <message>
+        <source>Content type tree</source>
+        <translation>Inhaltstyp-Hierarchie</translation>
+    </message>
+    <message>
+        <source>Type of the item&apos;s content and the types it derives from</source>
+        <translation>Typ des Inhalts des Objekts und die Typen, von denen er abgeleitet ist</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Description of the kind of item</source>
+        <translation>Beschreibung der Art des Objekts</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Tags</translation>
+    </message>
+    <message>
+        <source>Tags that the user gave the item</source>
+        <translation>Tags, die der Benutzer dem Objekt gegeben hat</translation>
+    </message>
+    <message>
+        <source>Where from</source>
+        <translation>Herkunft</translation>
+    </message>
+    <message>
+        <source>Addresses the item was downloaded from</source>
+        <translation>Adressen, von denen das Objekt heruntergeladen wurde</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Dauer</translation>
+    </message>
+    <message>
+        <source>Duration of the audio or video, in seconds</source>
+        <translation>Dauer der Audio- oder Videoaufnahme, in Sekunden</translation>
+    </message>
+    <message>
+        <source>Total bit rate</source>
+        <translation>Gesamtbitrate</translation>
+    </message>
+    <message>
+        <source>Bit rate of all audio and video streams together, in bits per second</source>
+        <translation>Bitrate aller Audio- und Videospuren zusammen, in Bit pro Sekunde</translation>
+    </message>
+    <message>
+        <source>Codecs</source>
+        <translation>Codecs</translation>
+    </message>
+    <message>
+        <source>Codecs of the audio and video streams</source>
+        <translation>Codecs der Audio- und Videospuren</translation>
+    </message>
+    <message>
+        <source>Audio bit rate</source>
+        <translation>Audio-Bitrate</translation>
+    </message>
+    <message>
+        <source>Bit rate of the audio, in bits per second</source>
+        <translation>Bitrate der Audiospur, in Bit pro Sekunde</translation>
+    </message>
+    <message>
+        <source>Video bit rate</source>
+        <translation>Video-Bitrate</translation>
+    </message>
+    <message>
+        <source>Bit rate of the video, in bits per second</source>
+        <translation>Bitrate des Videos, in Bit pro Sekunde</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation>Abtastrate</translation>
+    </message>
+    <message>
+        <source>Sample rate of the audio, in samples per second</source>
+        <translation>Abtastrate der Audiospur, in Abtastwerten pro Sekunde</translation>
+    </message>
+    <message>
+        <source>Audio channels</source>
+        <translation>Audiokanäle</translation>
+    </message>
+    <message>
+        <source>Number of audio channels</source>
+        <translation>Anzahl der Audiokanäle</translation>
+    </message>
+    <message>
+        <source>Pixel width</source>
+        <translation>Breite in Pixeln</translation>
+    </message>
+    <message>
+        <source>Width of the image or video, in pixels</source>
+        <translation>Breite des Bildes oder Videos, in Pixeln</translation>
+    </message>
+    <message>
+        <source>Pixel height</source>
+        <translation>Höhe in Pixeln</translation>
+    </message>
+    <message>
+        <source>Height of the image or video, in pixels</source>
+        <translation>Höhe des Bildes oder Videos, in Pixeln</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Title of the item</source>
+        <translation>Titel des Objekts</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Album that the recording belongs to</source>
+        <translation>Album, zu dem die Aufnahme gehört</translation>
+    </message>
+    <message>
+        <source>Authors</source>
+        <translation>Autoren</translation>
+    </message>
+    <message>
+        <source>Authors, artists or performers of the item</source>
+        <translation>Autoren, Künstler oder Interpreten des Objekts</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Komponist</translation>
+    </message>
+    <message>
+        <source>Composer of the music</source>
+        <translation>Komponist der Musik</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Musical genre of the recording</source>
+        <translation>Musikgenre der Aufnahme</translation>
+    </message>
+    <message>
+        <source>Year recorded</source>
+        <translation>Aufnahmejahr</translation>
+    </message>
+    <message>
+        <source>Year when the recording was made</source>
+        <translation>Jahr, in dem die Aufnahme entstand</translation>
+    </message>
+    <message>
+        <source>Recording date</source>
+        <translation>Aufnahmedatum</translation>
+    </message>
+    <message>
+        <source>Date when the recording was made</source>
+        <translation>Datum, an dem die Aufnahme entstand</translation>
+    </message>
+    <message>
+        <source>Content created</source>
+        <translation>Inhalt erstellt</translation>
+    </message>
+    <message>
+        <source>Date when the content was created: when a photo was taken or a video recorded</source>
+        <translation>Datum, an dem der Inhalt entstand: wann ein Foto aufgenommen oder ein Video gedreht wurde</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Titelnummer</translation>
+    </message>
+    <message>
+        <source>Number of the track on its album</source>
+        <translation>Nummer des Titels auf seinem Album</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Breitengrad</translation>
+    </message>
+    <message>
+        <source>Latitude where the item was made, in degrees (north positive)</source>
+        <translation>Breitengrad des Orts, an dem das Objekt entstand, in Grad (Norden positiv)</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Längengrad</translation>
+    </message>
+    <message>
+        <source>Longitude where the item was made, in degrees (east positive)</source>
+        <translation>Längengrad des Orts, an dem das Objekt entstand, in Grad (Osten positiv)</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Meereshöhe</translation>
+    </message>
+    <message>
+        <source>Altitude where the item was made, in metres above sea level</source>
+        <translation>Höhe des Orts, an dem das Objekt entstand, in Metern über dem Meeresspiegel</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Ausrichtung</translation>
+    </message>
+    <message>
+        <source>Orientation of the image as displayed: 0 landscape, 1 portrait</source>
+        <translation>Ausrichtung des Bildes in der Anzeige: 0 Querformat, 1 Hochformat</translation>
+    </message>
+    <message>
+        <source>Device make</source>
+        <translation>Gerätehersteller</translation>
+    </message>
+    <message>
+        <source>Manufacturer of the camera or device that made the item</source>
+        <translation>Hersteller der Kamera oder des Geräts, mit dem das Objekt entstand</translation>
+    </message>
+    <message>
+        <source>Device model</source>
+        <translation>Gerätemodell</translation>
+    </message>
+    <message>
+        <source>Model of the camera or device that made the item</source>
+        <translation>Modell der Kamera oder des Geräts, mit dem das Objekt entstand</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation>Belichtungszeit</translation>
+    </message>
+    <message>
+        <source>Exposure time of the photo, in seconds</source>
+        <translation>Belichtungszeit des Fotos, in Sekunden</translation>
+    </message>
+    <message>
+        <source>F number</source>
+        <translation>Blendenzahl</translation>
+    </message>
+    <message>
+        <source>Aperture of the lens as an f-number</source>
+        <translation>Blende des Objektivs als Blendenzahl</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Brennweite</translation>
+    </message>
+    <message>
+        <source>Focal length of the lens, in millimetres</source>
+        <translation>Brennweite des Objektivs, in Millimetern</translation>
+    </message>
+    <message>
+        <source>ISO speed</source>
+        <translation>ISO-Empfindlichkeit</translation>
+    </message>
+    <message>
+        <source>ISO speed of the photo</source>
+        <translation>ISO-Empfindlichkeit des Fotos</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>Blitz</translation>
+    </message>
+    <message>
+        <source>Whether the flash fired</source>
+        <translation>Ob der Blitz ausgelöst hat</translation>
+    </message>
+    <message>
+        <source>Lens model</source>
+        <translation>Objektivmodell</translation>
+    </message>
+    <message>
+        <source>Model of the lens</source>
+        <translation>Modell des Objektivs</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Beschreibung</translation>
+    </message>
+    <message>
+        <source>Description of the item&apos;s content</source>
+        <translation>Beschreibung des Inhalts des Objekts</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Überschrift</translation>
+    </message>
+    <message>
+        <source>Short summary of the item&apos;s content</source>
+        <translation>Kurze Zusammenfassung des Inhalts des Objekts</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Stichwörter</translation>
+    </message>
+    <message>
+        <source>Keywords that describe the item</source>
+        <translation>Stichwörter, die das Objekt beschreiben</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Copyright notice of the item</source>
+        <translation>Urheberrechtsvermerk des Objekts</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Ersteller</translation>
+    </message>
+    <message>
+        <source>Application that created the content</source>
+        <translation>Programm, das den Inhalt erstellt hat</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Kennung</translation>
+    </message>
+    <message>
+        <source>Identifier of the item, such as a photo&apos;s unique ID</source>
+        <translation>Kennung des Objekts, etwa die eindeutige ID eines Fotos</translation>
+    </message>
+    <message>
+        <source>Original source</source>
+        <translation>Ursprüngliche Quelle</translation>
+    </message>
+    <message>
+        <source>Original source of the content, such as the supplier of a photo</source>
+        <translation>Ursprüngliche Quelle des Inhalts, etwa der Lieferant eines Fotos</translation>
+    </message>
+</context>
+<context>
     <name>AttributeTolerance</name>
     <message>
         <source>seconds</source>
@@ -214,20 +601,8 @@ The files should have write permission, they should not already be clones, and t
 Die Dateien müssen beschreibbar sein, dürfen noch keine Klone sein und müssen auf demselben Datenträger liegen, auf einem Dateisystem, das Speicher zwischen Dateien teilen kann (Btrfs, XFS, bcachefs).</translation>
     </message>
     <message>
-        <source>1 duplicate among the selected files</source>
-        <translation>1 Duplikat unter den ausgewählten Dateien</translation>
-    </message>
-    <message>
         <source>“%1”</source>
         <translation>„%1“</translation>
-    </message>
-    <message>
-        <source>%1 duplicates among all found files</source>
-        <translation>%1 Duplikate unter allen gefundenen Dateien</translation>
-    </message>
-    <message>
-        <source>%1 duplicates among the selected files</source>
-        <translation>%1 Duplikate unter den ausgewählten Dateien</translation>
     </message>
     <message>
         <source>a clone</source>
@@ -308,6 +683,20 @@ Möchten Sie sie trotzdem klonen?</translation>
     <message>
         <source>Abort</source>
         <translation>Abbrechen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 duplicate(s) among all found files</source>
+        <translation>
+            <numerusform>%1 Duplikat unter allen gefundenen Dateien</numerusform>
+            <numerusform>%1 Duplikate unter allen gefundenen Dateien</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 duplicate(s) among the selected files</source>
+        <translation>
+            <numerusform>%1 Duplikat unter den ausgewählten Dateien</numerusform>
+            <numerusform>%1 Duplikate unter den ausgewählten Dateien</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -480,20 +869,12 @@ Möchten Sie sie trotzdem klonen?</translation>
         <translation>„%1“ konnte nicht in den Papierkorb verschoben werden.</translation>
     </message>
     <message>
-        <source>%1 files could not be moved to the Trash.</source>
-        <translation>%1 Dateien konnten nicht in den Papierkorb verschoben werden.</translation>
-    </message>
-    <message>
         <source>Delete Immediately…</source>
         <translation>Sofort löschen …</translation>
     </message>
     <message>
         <source>“%1” could not be deleted immediately.</source>
         <translation>„%1“ konnte nicht sofort gelöscht werden.</translation>
-    </message>
-    <message>
-        <source>%1 files could not be deleted immediately.</source>
-        <translation>%1 Dateien konnten nicht sofort gelöscht werden.</translation>
     </message>
     <message>
         <source>Delete Immediately</source>
@@ -514,6 +895,20 @@ Möchten Sie sie trotzdem klonen?</translation>
     <message>
         <source>%1 items will be deleted immediately. You can’t undo this action.</source>
         <translation>%1 Objekte werden sofort gelöscht. Dies kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) could not be moved to the Trash.</source>
+        <translation>
+            <numerusform>%Ln Datei konnte nicht in den Papierkorb verschoben werden.</numerusform>
+            <numerusform>%Ln Dateien konnten nicht in den Papierkorb verschoben werden.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) could not be deleted immediately.</source>
+        <translation>
+            <numerusform>%Ln Datei konnte nicht sofort gelöscht werden.</numerusform>
+            <numerusform>%Ln Dateien konnten nicht sofort gelöscht werden.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -582,6 +977,22 @@ Möchten Sie sie trotzdem klonen?</translation>
         <source>%1 %</source>
         <translation>%1&#xa0;%</translation>
     </message>
+    <message>
+        <source>contained</source>
+        <translation>enthalten</translation>
+    </message>
+    <message>
+        <source>container</source>
+        <translation>umfassend</translation>
+    </message>
+    <message>
+        <source>holds its files</source>
+        <translation>enthält seine Dateien</translation>
+    </message>
+    <message>
+        <source>contained in it</source>
+        <translation>darin enthalten</translation>
+    </message>
 </context>
 <context>
     <name>DuplicateSearch</name>
@@ -624,6 +1035,10 @@ Möchten Sie sie trotzdem klonen?</translation>
     <message>
         <source>%1 of %2, %3</source>
         <translation>%1 von %2, %3</translation>
+    </message>
+    <message>
+        <source>Finding folders contained in others…</source>
+        <translation>In anderen enthaltene Ordner werden gesucht …</translation>
     </message>
 </context>
 <context>
@@ -720,6 +1135,10 @@ Möchten Sie sie trotzdem klonen?</translation>
     <message>
         <source>“%1” no longer has the content of its kept copy “%2”</source>
         <translation>„%1“ hat nicht mehr den Inhalt der behaltenen Kopie „%2“</translation>
+    </message>
+    <message>
+        <source>“%1” holds copies of files of “%2” under other names: it can be moved to the trash or deleted, not replaced by a link or clone</source>
+        <translation>„%1“ enthält Kopien von Dateien aus „%2“ unter anderen Namen: Der Ordner kann in den Papierkorb verschoben oder gelöscht, aber nicht durch einen Link oder Klon ersetzt werden</translation>
     </message>
 </context>
 <context>
@@ -1131,6 +1550,10 @@ Möchten Sie sie trotzdem klonen?</translation>
         <source>Partial results: the search was stopped. %1</source>
         <translation>Unvollständige Ergebnisse: Die Suche wurde angehalten. %1</translation>
     </message>
+    <message>
+        <source>“%1” has copies of all its files in “%2” · %3 reclaimable</source>
+        <translation>„%1“ hat Kopien aller seiner Dateien in „%2“ · %3 freigebbar</translation>
+    </message>
 </context>
 <context>
     <name>SearchPanelController</name>
@@ -1350,12 +1773,6 @@ abgelehnt.
         <source>recovery failed: %1
 </source>
         <translation>Wiederherstellung fehlgeschlagen: %1
-</translation>
-    </message>
-    <message>
-        <source>recovered: removed %1 temporary folders of interrupted cloning plans
-</source>
-        <translation>wiederhergestellt: %1 temporäre Ordner unterbrochener Klonpläne entfernt
 </translation>
     </message>
     <message>
@@ -1690,43 +2107,35 @@ Aufruf: selfsame-cli put-back DATEI...
         <translation>freigebbare Bytes: %1</translation>
     </message>
     <message>
-        <source>unknown rule for --select: &apos;%1&apos; (same-folder-name, same-folder, folder, tag, largest-picture or highest-bitrate)</source>
-        <translation>unbekannte Regel für --select: „%1“ (same-folder-name, same-folder, folder, tag, largest-picture oder highest-bitrate)</translation>
+        <source>--mode takes content, duration, name, attribute, similar-images or similar-audio, not &apos;%1&apos;</source>
+        <translation>--mode nimmt content, duration, name, attribute, similar-images oder similar-audio an, nicht „%1“</translation>
     </message>
     <message>
-        <source>Automatic selection (files are never touched; each path line starts with
-&quot;select &quot; or &quot;keep &quot;, or two blanks where the rule decided nothing):
-  --select same-folder-name  in each folder, keep &quot;name.ext&quot; and select &quot;name copy.ext&quot;,
-                             &quot;name 2.ext&quot;…
-  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]
-                             in each folder keep the oldest (or newest) copy, select the rest
-  --select folder DIR [--inside|--inside-any-depth|--outside|--outside-any-depth]
-                  [--if-newer|--if-older|--if-same-date [--date …]]
-                             select the copies located so relative to DIR (only those
-                             newer, older or as old as a copy elsewhere), keep the others
-  --select tag NAME [--having|--not-having]   or   --select tag --any-tag|--no-tag
-                             select the copies having (or lacking) the tag, keep the others
-  --select largest-picture   similar pictures: keep the most pixels, then the largest file
-  --select highest-bitrate   same recordings: keep the highest bit rate, then a lossless format
+        <source>--similarity needs a whole number from 0 to 100, not &apos;%1&apos;</source>
+        <translation>--similarity braucht eine ganze Zahl von 0 bis 100, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--similarity applies to the similar-images and similar-audio modes only</source>
+        <translation>--similarity gilt nur in den Modi similar-images und similar-audio</translation>
+    </message>
+    <message>
+        <source>--distinguish-greyscale applies to the similar-images mode only</source>
+        <translation>--distinguish-greyscale gilt nur im Modus similar-images</translation>
+    </message>
+    <message>
+        <source>selfsame-cli: cannot decode %1</source>
+        <translation>selfsame-cli: %1 kann nicht dekodiert werden</translation>
+    </message>
+    <message>
+        <source>selfsame-cli: interrupted: the output is partial, it holds only the groups found so far
 </source>
-        <translation>Automatische Auswahl (Dateien werden nie verändert; jede Pfadzeile beginnt mit
-&quot;select &quot; oder &quot;keep &quot; oder mit zwei Leerzeichen, wo die Regel nichts entschieden hat):
-  --select same-folder-name  in jedem Ordner &quot;name.ext&quot; behalten und &quot;name copy.ext&quot;,
-                             &quot;name 2.ext&quot;… auswählen
-  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]
-                             in jedem Ordner die älteste (oder neueste) Kopie behalten,
-                             den Rest auswählen
-  --select folder ORDNER [--inside|--inside-any-depth|--outside|--outside-any-depth]
-                  [--if-newer|--if-older|--if-same-date [--date …]]
-                             die Kopien auswählen, die so zu ORDNER liegen (nur die, die
-                             neuer, älter oder so alt wie eine Kopie anderswo sind), die
-                             anderen behalten
-  --select tag NAME [--having|--not-having]   oder   --select tag --any-tag|--no-tag
-                             die Kopien auswählen, die das Schlagwort haben (oder nicht
-                             haben), die anderen behalten
-  --select largest-picture   ähnliche Bilder: die meisten Pixel behalten, dann die größte Datei
-  --select highest-bitrate   gleiche Aufnahmen: die höchste Bitrate behalten, dann ein
-                             verlustfreies Format
+        <translation>selfsame-cli: unterbrochen: Die Ausgabe ist unvollständig, sie enthält nur die bisher gefundenen Gruppen
+</translation>
+    </message>
+    <message>
+        <source>selfsame-cli: --replace-with needs copies of the same content; the similar modes find files that only look or sound alike
+</source>
+        <translation>selfsame-cli: --replace-with braucht Kopien mit demselben Inhalt; die Ähnlichkeitsmodi finden Dateien, die nur gleich aussehen oder gleich klingen
 </translation>
     </message>
     <message>
@@ -1749,6 +2158,8 @@ name or metadata attribute.
   --skip PATTERN             skip names matching a glob or /regex/ (repeatable)
   --depth N                  levels below each location (1 = its direct children only)
   --compare-folders          also find folders of equal content
+  --contained-folders        also find folders whose files all have copies inside one other
+                             searched folder, whatever their names and layout
   --ignore-mp4-header        compare MP4 files without their first 16 KiB
   --ignore-clones            leave out groups whose files already share their storage
   --include-read-only        also search items you may not modify or delete
@@ -1802,6 +2213,8 @@ gleichem Namen oder gleichem Metadaten-Attribut.
                              (mehrfach möglich)
   --depth N                  Ebenen unterhalb jedes Orts (1 = nur sein direkter Inhalt)
   --compare-folders          auch Ordner mit gleichem Inhalt finden
+  --contained-folders        auch Ordner finden, deren Dateien alle Kopien in einem anderen
+                             durchsuchten Ordner haben, gleich unter welchen Namen und wo
   --ignore-mp4-header        MP4-Dateien ohne ihre ersten 16 KiB vergleichen
   --ignore-clones            Gruppen weglassen, deren Dateien ihren Speicher schon teilen
   --include-read-only        auch Objekte durchsuchen, die Sie nicht ändern oder löschen dürfen
@@ -1839,35 +2252,61 @@ gleichem Namen oder gleichem Metadaten-Attribut.
 </translation>
     </message>
     <message>
-        <source>--mode takes content, duration, name, attribute, similar-images or similar-audio, not &apos;%1&apos;</source>
-        <translation>--mode nimmt content, duration, name, attribute, similar-images oder similar-audio an, nicht „%1“</translation>
+        <source>--contained-folders applies to the content mode only</source>
+        <translation>--contained-folders gilt nur für den Inhaltsmodus</translation>
     </message>
-    <message>
-        <source>--similarity needs a whole number from 0 to 100, not &apos;%1&apos;</source>
-        <translation>--similarity braucht eine ganze Zahl von 0 bis 100, nicht „%1“</translation>
-    </message>
-    <message>
-        <source>--similarity applies to the similar-images and similar-audio modes only</source>
-        <translation>--similarity gilt nur in den Modi similar-images und similar-audio</translation>
-    </message>
-    <message>
-        <source>--distinguish-greyscale applies to the similar-images mode only</source>
-        <translation>--distinguish-greyscale gilt nur im Modus similar-images</translation>
-    </message>
-    <message>
-        <source>selfsame-cli: cannot decode %1</source>
-        <translation>selfsame-cli: %1 kann nicht dekodiert werden</translation>
-    </message>
-    <message>
-        <source>selfsame-cli: interrupted: the output is partial, it holds only the groups found so far
+    <message numerus="yes">
+        <source>recovered: removed %Ln temporary folder(s) of interrupted cloning plans
 </source>
-        <translation>selfsame-cli: unterbrochen: Die Ausgabe ist unvollständig, sie enthält nur die bisher gefundenen Gruppen
-</translation>
+        <translation>
+            <numerusform>wiederhergestellt: %Ln temporärer Ordner eines unterbrochenen Klonplans entfernt
+</numerusform>
+            <numerusform>wiederhergestellt: %Ln temporäre Ordner unterbrochener Klonpläne entfernt
+</numerusform>
+        </translation>
     </message>
     <message>
-        <source>selfsame-cli: --replace-with needs copies of the same content; the similar modes find files that only look or sound alike
+        <source>unknown rule for --select: &apos;%1&apos; (same-folder-name, same-folder, folder, tag, largest-picture, highest-bitrate or contained-folders)</source>
+        <translation>unbekannte Regel für --select: „%1“ (same-folder-name, same-folder, folder, tag, largest-picture, highest-bitrate oder contained-folders)</translation>
+    </message>
+    <message>
+        <source>Automatic selection (files are never touched; each path line starts with
+&quot;select &quot; or &quot;keep &quot;, or two blanks where the rule decided nothing):
+  --select same-folder-name  in each folder, keep &quot;name.ext&quot; and select &quot;name copy.ext&quot;,
+                             &quot;name 2.ext&quot;…
+  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]
+                             in each folder keep the oldest (or newest) copy, select the rest
+  --select folder DIR [--inside|--inside-any-depth|--outside|--outside-any-depth]
+                  [--if-newer|--if-older|--if-same-date [--date …]]
+                             select the copies located so relative to DIR (only those
+                             newer, older or as old as a copy elsewhere), keep the others
+  --select tag NAME [--having|--not-having]   or   --select tag --any-tag|--no-tag
+                             select the copies having (or lacking) the tag, keep the others
+  --select largest-picture   similar pictures: keep the most pixels, then the largest file
+  --select highest-bitrate   same recordings: keep the highest bit rate, then a lossless format
+  --select contained-folders with --contained-folders: select each folder whose files all have
+                             copies in another, keep that other folder
 </source>
-        <translation>selfsame-cli: --replace-with braucht Kopien mit demselben Inhalt; die Ähnlichkeitsmodi finden Dateien, die nur gleich aussehen oder gleich klingen
+        <translation>Automatische Auswahl (Dateien werden nie verändert; jede Pfadzeile beginnt mit
+&quot;select &quot; oder &quot;keep &quot; oder mit zwei Leerzeichen, wo die Regel nichts entschieden hat):
+  --select same-folder-name  in jedem Ordner &quot;name.ext&quot; behalten und &quot;name copy.ext&quot;,
+                             &quot;name 2.ext&quot;… auswählen
+  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]
+                             in jedem Ordner die älteste (oder neueste) Kopie behalten,
+                             den Rest auswählen
+  --select folder ORDNER [--inside|--inside-any-depth|--outside|--outside-any-depth]
+                  [--if-newer|--if-older|--if-same-date [--date …]]
+                             die Kopien auswählen, die so zu ORDNER liegen (nur die, die
+                             neuer, älter oder so alt wie eine Kopie anderswo sind), die
+                             anderen behalten
+  --select tag NAME [--having|--not-having]   oder   --select tag --any-tag|--no-tag
+                             die Kopien auswählen, die das Schlagwort haben (oder nicht
+                             haben), die anderen behalten
+  --select largest-picture   ähnliche Bilder: die meisten Pixel behalten, dann die größte Datei
+  --select highest-bitrate   gleiche Aufnahmen: die höchste Bitrate behalten, dann ein
+                             verlustfreies Format
+  --select contained-folders mit --contained-folders: jeden Ordner auswählen, dessen Dateien
+                             alle Kopien in einem anderen haben, diesen anderen behalten
 </translation>
     </message>
 </context>
@@ -2106,14 +2545,6 @@ gleichem Namen oder gleichem Metadaten-Attribut.
         <translation>teilweise rückgängig gemacht</translation>
     </message>
     <message>
-        <source>1 file</source>
-        <translation>1 Datei</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 Dateien</translation>
-    </message>
-    <message>
         <source>“%1” could not be undone</source>
         <translation>„%1“ konnte nicht rückgängig gemacht werden</translation>
     </message>
@@ -2124,30 +2555,6 @@ gleichem Namen oder gleichem Metadaten-Attribut.
     <message>
         <source>“%1” was undone in part</source>
         <translation>„%1“ wurde teilweise rückgängig gemacht</translation>
-    </message>
-    <message>
-        <source>1 file was given back.</source>
-        <translation>1 Datei wurde zurückgegeben.</translation>
-    </message>
-    <message>
-        <source>%1 files were given back.</source>
-        <translation>%1 Dateien wurden zurückgegeben.</translation>
-    </message>
-    <message>
-        <source>1 file was left as it is, because it changed since.</source>
-        <translation>1 Datei wurde belassen, wie sie ist, weil sie sich seither geändert hat.</translation>
-    </message>
-    <message>
-        <source>%1 files were left as they are, because they changed since.</source>
-        <translation>%1 Dateien wurden belassen, wie sie sind, weil sie sich seither geändert haben.</translation>
-    </message>
-    <message>
-        <source>1 file was deleted for good and cannot be given back.</source>
-        <translation>1 Datei wurde endgültig gelöscht und kann nicht zurückgegeben werden.</translation>
-    </message>
-    <message>
-        <source>%1 files were deleted for good and cannot be given back.</source>
-        <translation>%1 Dateien wurden endgültig gelöscht und können nicht zurückgegeben werden.</translation>
     </message>
     <message>
         <source>%1: deleted for good</source>
@@ -2164,6 +2571,34 @@ gleichem Namen oder gleichem Metadaten-Attribut.
     <message>
         <source>Action %1 (%2) cannot be undone.</source>
         <translation>Aktion %1 (%2) kann nicht rückgängig gemacht werden.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s)</source>
+        <translation>
+            <numerusform>%Ln Datei</numerusform>
+            <numerusform>%Ln Dateien</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) (was|were) given back.</source>
+        <translation>
+            <numerusform>%Ln Datei wurde zurückgegeben.</numerusform>
+            <numerusform>%Ln Dateien wurden zurückgegeben.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) (was|were) left as (it is|they are), because (it|they) changed since.</source>
+        <translation>
+            <numerusform>%Ln Datei wurde belassen, wie sie ist, weil sie sich seither geändert hat.</numerusform>
+            <numerusform>%Ln Dateien wurden belassen, wie sie sind, weil sie sich seither geändert haben.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) (was|were) deleted for good and cannot be given back.</source>
+        <translation>
+            <numerusform>%Ln Datei wurde endgültig gelöscht und kann nicht zurückgegeben werden.</numerusform>
+            <numerusform>%Ln Dateien wurden endgültig gelöscht und können nicht zurückgegeben werden.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2429,20 +2864,19 @@ gleichem Namen oder gleichem Metadaten-Attribut.
         <translation>Suchort hinzufügen</translation>
     </message>
     <message>
-        <source>%1 — 1 search running</source>
-        <translation>%1 – 1 Suche läuft</translation>
-    </message>
-    <message>
-        <source>%1 — %2 searches running</source>
-        <translation>%1 – %2 Suchen laufen</translation>
-    </message>
-    <message>
         <source>Note that you should not enable this location in the list (leave the checkbox unticked): it only tells Selfsame where copies of the files may be, and is not searched itself.
 
 You can designate more such folders by adding them to the folder list and leaving their checkboxes unticked.</source>
         <translation>Aktivieren Sie diesen Ort in der Liste nicht (lassen Sie das Kästchen leer): Er sagt Selfsame nur, wo Kopien der Dateien liegen können, und wird selbst nicht durchsucht.
 
 Weitere solche Ordner können Sie angeben, indem Sie sie zur Ordnerliste hinzufügen und ihre Kästchen leer lassen.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 — %Ln (search|searches) running</source>
+        <translation>
+            <numerusform>%1 – %Ln Suche läuft</numerusform>
+            <numerusform>%1 – %Ln Suchen laufen</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2632,6 +3066,10 @@ Weitere solche Ordner können Sie angeben, indem Sie sie zur Ordnerliste hinzuf�
     <message>
         <source>All but the best recording (the highest bit rate, then a lossless format)</source>
         <translation>Alle außer der besten Aufnahme (die höchste Bitrate, dann ein verlustfreies Format)</translation>
+    </message>
+    <message>
+        <source>Every folder whose files all have copies in another folder, keeping that folder</source>
+        <translation>Jeden Ordner, dessen Dateien alle Kopien in einem anderen Ordner haben, und diesen anderen behalten</translation>
     </message>
 </context>
 <context>
@@ -3444,6 +3882,14 @@ Seit dem Speichern dieser Ergebnisse geändert oder verschwunden</translation>
     <message>
         <source>100 % finds only recordings that cannot be told apart; lower values also find copies encoded at lower quality or cut differently.</source>
         <translation>100&#xa0;% findet nur Aufnahmen, die sich nicht unterscheiden lassen; niedrigere Werte finden auch Kopien, die in geringerer Qualität kodiert oder anders geschnitten wurden.</translation>
+    </message>
+    <message>
+        <source>Also find folders whose files all exist elsewhere</source>
+        <translation>Auch Ordner finden, deren Dateien alle anderswo vorhanden sind</translation>
+    </message>
+    <message>
+        <source>Finds each folder whose files, by content, all have copies inside one other searched folder, whatever their names and layout, such as an old backup inside a newer, reorganised one.</source>
+        <translation>Findet jeden Ordner, dessen Dateien dem Inhalt nach alle Kopien in einem anderen durchsuchten Ordner haben, gleich unter welchen Namen und wo, etwa eine alte Sicherung in einer neueren, umgeräumten.</translation>
     </message>
 </context>
 <context>

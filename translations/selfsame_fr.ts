@@ -64,6 +64,393 @@
     </message>
 </context>
 <context>
+    <name>AttributeCatalogue</name>
+    <message>
+        <source>File size</source>
+        <translation>Taille du fichier</translation>
+    </message>
+    <message>
+        <source>Size of the file in bytes</source>
+        <translation>Taille du fichier en octets</translation>
+    </message>
+    <message>
+        <source>File name</source>
+        <translation>Nom du fichier</translation>
+    </message>
+    <message>
+        <source>Name of the file on disk</source>
+        <translation>Nom du fichier sur le disque</translation>
+    </message>
+    <message>
+        <source>Display name</source>
+        <translation>Nom affiché</translation>
+    </message>
+    <message>
+        <source>Name of the item as it is displayed</source>
+        <translation>Nom de l’élément tel qu’il est affiché</translation>
+    </message>
+    <message>
+        <source>File created</source>
+        <translation>Fichier créé</translation>
+    </message>
+    <message>
+        <source>Date when the file was created, where the file system records it</source>
+        <translation>Date de création du fichier, là où le système de fichiers l’enregistre</translation>
+    </message>
+    <message>
+        <source>File modified</source>
+        <translation>Fichier modifié</translation>
+    </message>
+    <message>
+        <source>Date when the file&apos;s content last changed on disk</source>
+        <translation>Date de la dernière modification du contenu du fichier sur le disque</translation>
+    </message>
+    <message>
+        <source>Content modified</source>
+        <translation>Contenu modifié</translation>
+    </message>
+    <message>
+        <source>Date when the item&apos;s content was last modified</source>
+        <translation>Date de la dernière modification du contenu de l’élément</translation>
+    </message>
+    <message>
+        <source>Content type</source>
+        <translation>Type de contenu</translation>
+    </message>
+    <message>
+        <source>Type of the item&apos;s content, as a MIME type</source>
+        <translation>Type du contenu de l’élément, sous forme de type MIME</translation>
+    </message>
+    <message>
+        <source>Content type tree</source>
+        <translation>Arborescence des types de contenu</translation>
+    </message>
+    <message>
+        <source>Type of the item&apos;s content and the types it derives from</source>
+        <translation>Type du contenu de l’élément et types dont il dérive</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Description of the kind of item</source>
+        <translation>Description du type d’élément</translation>
+    </message>
+    <message>
+        <source>Tags</source>
+        <translation>Étiquettes</translation>
+    </message>
+    <message>
+        <source>Tags that the user gave the item</source>
+        <translation>Étiquettes que l’utilisateur a données à l’élément</translation>
+    </message>
+    <message>
+        <source>Where from</source>
+        <translation>Provenance</translation>
+    </message>
+    <message>
+        <source>Addresses the item was downloaded from</source>
+        <translation>Adresses d’où l’élément a été téléchargé</translation>
+    </message>
+    <message>
+        <source>Duration</source>
+        <translation>Durée</translation>
+    </message>
+    <message>
+        <source>Duration of the audio or video, in seconds</source>
+        <translation>Durée de l’audio ou de la vidéo, en secondes</translation>
+    </message>
+    <message>
+        <source>Total bit rate</source>
+        <translation>Débit total</translation>
+    </message>
+    <message>
+        <source>Bit rate of all audio and video streams together, in bits per second</source>
+        <translation>Débit de tous les flux audio et vidéo ensemble, en bits par seconde</translation>
+    </message>
+    <message>
+        <source>Codecs</source>
+        <translation>Codecs</translation>
+    </message>
+    <message>
+        <source>Codecs of the audio and video streams</source>
+        <translation>Codecs des flux audio et vidéo</translation>
+    </message>
+    <message>
+        <source>Audio bit rate</source>
+        <translation>Débit audio</translation>
+    </message>
+    <message>
+        <source>Bit rate of the audio, in bits per second</source>
+        <translation>Débit de l’audio, en bits par seconde</translation>
+    </message>
+    <message>
+        <source>Video bit rate</source>
+        <translation>Débit vidéo</translation>
+    </message>
+    <message>
+        <source>Bit rate of the video, in bits per second</source>
+        <translation>Débit de la vidéo, en bits par seconde</translation>
+    </message>
+    <message>
+        <source>Sample rate</source>
+        <translation>Fréquence d’échantillonnage</translation>
+    </message>
+    <message>
+        <source>Sample rate of the audio, in samples per second</source>
+        <translation>Fréquence d’échantillonnage de l’audio, en échantillons par seconde</translation>
+    </message>
+    <message>
+        <source>Audio channels</source>
+        <translation>Canaux audio</translation>
+    </message>
+    <message>
+        <source>Number of audio channels</source>
+        <translation>Nombre de canaux audio</translation>
+    </message>
+    <message>
+        <source>Pixel width</source>
+        <translation>Largeur en pixels</translation>
+    </message>
+    <message>
+        <source>Width of the image or video, in pixels</source>
+        <translation>Largeur de l’image ou de la vidéo, en pixels</translation>
+    </message>
+    <message>
+        <source>Pixel height</source>
+        <translation>Hauteur en pixels</translation>
+    </message>
+    <message>
+        <source>Height of the image or video, in pixels</source>
+        <translation>Hauteur de l’image ou de la vidéo, en pixels</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Title of the item</source>
+        <translation>Titre de l’élément</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Album that the recording belongs to</source>
+        <translation>Album auquel appartient l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Authors</source>
+        <translation>Auteurs</translation>
+    </message>
+    <message>
+        <source>Authors, artists or performers of the item</source>
+        <translation>Auteurs, artistes ou interprètes de l’élément</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Compositeur</translation>
+    </message>
+    <message>
+        <source>Composer of the music</source>
+        <translation>Compositeur de la musique</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Musical genre of the recording</source>
+        <translation>Genre musical de l’enregistrement</translation>
+    </message>
+    <message>
+        <source>Year recorded</source>
+        <translation>Année d’enregistrement</translation>
+    </message>
+    <message>
+        <source>Year when the recording was made</source>
+        <translation>Année où l’enregistrement a été fait</translation>
+    </message>
+    <message>
+        <source>Recording date</source>
+        <translation>Date d’enregistrement</translation>
+    </message>
+    <message>
+        <source>Date when the recording was made</source>
+        <translation>Date à laquelle l’enregistrement a été fait</translation>
+    </message>
+    <message>
+        <source>Content created</source>
+        <translation>Contenu créé</translation>
+    </message>
+    <message>
+        <source>Date when the content was created: when a photo was taken or a video recorded</source>
+        <translation>Date de création du contenu&#x202f;: prise de vue d’une photo ou enregistrement d’une vidéo</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Numéro de piste</translation>
+    </message>
+    <message>
+        <source>Number of the track on its album</source>
+        <translation>Numéro de la piste sur son album</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>Latitude</translation>
+    </message>
+    <message>
+        <source>Latitude where the item was made, in degrees (north positive)</source>
+        <translation>Latitude du lieu où l’élément a été créé, en degrés (positive au nord)</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>Longitude</translation>
+    </message>
+    <message>
+        <source>Longitude where the item was made, in degrees (east positive)</source>
+        <translation>Longitude du lieu où l’élément a été créé, en degrés (positive à l’est)</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>Altitude</translation>
+    </message>
+    <message>
+        <source>Altitude where the item was made, in metres above sea level</source>
+        <translation>Altitude du lieu où l’élément a été créé, en mètres au-dessus du niveau de la mer</translation>
+    </message>
+    <message>
+        <source>Orientation</source>
+        <translation>Orientation</translation>
+    </message>
+    <message>
+        <source>Orientation of the image as displayed: 0 landscape, 1 portrait</source>
+        <translation>Orientation de l’image telle qu’elle est affichée&#x202f;: 0 paysage, 1 portrait</translation>
+    </message>
+    <message>
+        <source>Device make</source>
+        <translation>Marque de l’appareil</translation>
+    </message>
+    <message>
+        <source>Manufacturer of the camera or device that made the item</source>
+        <translation>Fabricant de l’appareil photo ou de l’appareil qui a créé l’élément</translation>
+    </message>
+    <message>
+        <source>Device model</source>
+        <translation>Modèle de l’appareil</translation>
+    </message>
+    <message>
+        <source>Model of the camera or device that made the item</source>
+        <translation>Modèle de l’appareil photo ou de l’appareil qui a créé l’élément</translation>
+    </message>
+    <message>
+        <source>Exposure time</source>
+        <translation>Temps de pose</translation>
+    </message>
+    <message>
+        <source>Exposure time of the photo, in seconds</source>
+        <translation>Temps de pose de la photo, en secondes</translation>
+    </message>
+    <message>
+        <source>F number</source>
+        <translation>Nombre d’ouverture</translation>
+    </message>
+    <message>
+        <source>Aperture of the lens as an f-number</source>
+        <translation>Ouverture de l’objectif, en nombre f</translation>
+    </message>
+    <message>
+        <source>Focal length</source>
+        <translation>Distance focale</translation>
+    </message>
+    <message>
+        <source>Focal length of the lens, in millimetres</source>
+        <translation>Distance focale de l’objectif, en millimètres</translation>
+    </message>
+    <message>
+        <source>ISO speed</source>
+        <translation>Sensibilité ISO</translation>
+    </message>
+    <message>
+        <source>ISO speed of the photo</source>
+        <translation>Sensibilité ISO de la photo</translation>
+    </message>
+    <message>
+        <source>Flash</source>
+        <translation>Flash</translation>
+    </message>
+    <message>
+        <source>Whether the flash fired</source>
+        <translation>Si le flash s’est déclenché</translation>
+    </message>
+    <message>
+        <source>Lens model</source>
+        <translation>Modèle d’objectif</translation>
+    </message>
+    <message>
+        <source>Model of the lens</source>
+        <translation>Modèle de l’objectif utilisé</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Description of the item&apos;s content</source>
+        <translation>Description du contenu de l’élément</translation>
+    </message>
+    <message>
+        <source>Headline</source>
+        <translation>Intitulé</translation>
+    </message>
+    <message>
+        <source>Short summary of the item&apos;s content</source>
+        <translation>Bref résumé du contenu de l’élément</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>Mots-clés</translation>
+    </message>
+    <message>
+        <source>Keywords that describe the item</source>
+        <translation>Mots-clés qui décrivent l’élément</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Droits d’auteur</translation>
+    </message>
+    <message>
+        <source>Copyright notice of the item</source>
+        <translation>Mention de droits d’auteur de l’élément</translation>
+    </message>
+    <message>
+        <source>Creator</source>
+        <translation>Créateur</translation>
+    </message>
+    <message>
+        <source>Application that created the content</source>
+        <translation>Application qui a créé le contenu</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>Identifiant</translation>
+    </message>
+    <message>
+        <source>Identifier of the item, such as a photo&apos;s unique ID</source>
+        <translation>Identifiant de l’élément, comme l’identifiant unique d’une photo</translation>
+    </message>
+    <message>
+        <source>Original source</source>
+        <translation>Source d’origine</translation>
+    </message>
+    <message>
+        <source>Original source of the content, such as the supplier of a photo</source>
+        <translation>Source d’origine du contenu, comme le fournisseur d’une photo</translation>
+    </message>
+</context>
+<context>
     <name>AttributeTolerance</name>
     <message>
         <source>seconds</source>
@@ -214,20 +601,8 @@ The files should have write permission, they should not already be clones, and t
 Les fichiers doivent être modifiables, ne pas être déjà des clones et se trouver sur le même volume, sur un système de fichiers qui partage le stockage entre fichiers (Btrfs, XFS, bcachefs).</translation>
     </message>
     <message>
-        <source>1 duplicate among the selected files</source>
-        <translation>1 doublon parmi les fichiers sélectionnés</translation>
-    </message>
-    <message>
         <source>“%1”</source>
         <translation>«&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
-        <source>%1 duplicates among all found files</source>
-        <translation>%1 doublons parmi tous les fichiers trouvés</translation>
-    </message>
-    <message>
-        <source>%1 duplicates among the selected files</source>
-        <translation>%1 doublons parmi les fichiers sélectionnés</translation>
     </message>
     <message>
         <source>a clone</source>
@@ -308,6 +683,20 @@ Voulez-vous quand même les cloner&#x202f;?</translation>
     <message>
         <source>Abort</source>
         <translation>Interrompre</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 duplicate(s) among all found files</source>
+        <translation>
+            <numerusform>%1 doublon parmi tous les fichiers trouvés</numerusform>
+            <numerusform>%1 doublons parmi tous les fichiers trouvés</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 duplicate(s) among the selected files</source>
+        <translation>
+            <numerusform>%1 doublon parmi les fichiers sélectionnés</numerusform>
+            <numerusform>%1 doublons parmi les fichiers sélectionnés</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -480,20 +869,12 @@ Voulez-vous quand même les cloner&#x202f;?</translation>
         <translation>«&#xa0;%1&#xa0;» n’a pas pu être mis à la corbeille.</translation>
     </message>
     <message>
-        <source>%1 files could not be moved to the Trash.</source>
-        <translation>%1 fichiers n’ont pas pu être mis à la corbeille.</translation>
-    </message>
-    <message>
         <source>Delete Immediately…</source>
         <translation>Supprimer immédiatement…</translation>
     </message>
     <message>
         <source>“%1” could not be deleted immediately.</source>
         <translation>«&#xa0;%1&#xa0;» n’a pas pu être supprimé immédiatement.</translation>
-    </message>
-    <message>
-        <source>%1 files could not be deleted immediately.</source>
-        <translation>%1 fichiers n’ont pas pu être supprimés immédiatement.</translation>
     </message>
     <message>
         <source>Delete Immediately</source>
@@ -514,6 +895,20 @@ Voulez-vous quand même les cloner&#x202f;?</translation>
     <message>
         <source>%1 items will be deleted immediately. You can’t undo this action.</source>
         <translation>%1 éléments seront supprimés immédiatement. Cette action est irréversible.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) could not be moved to the Trash.</source>
+        <translation>
+            <numerusform>%Ln fichier n’a pas pu être mis à la corbeille.</numerusform>
+            <numerusform>%Ln fichiers n’ont pas pu être mis à la corbeille.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) could not be deleted immediately.</source>
+        <translation>
+            <numerusform>%Ln fichier n’a pas pu être supprimé immédiatement.</numerusform>
+            <numerusform>%Ln fichiers n’ont pas pu être supprimés immédiatement.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -582,6 +977,22 @@ Voulez-vous quand même les cloner&#x202f;?</translation>
         <source>%1 %</source>
         <translation>%1&#xa0;%</translation>
     </message>
+    <message>
+        <source>contained</source>
+        <translation>inclus</translation>
+    </message>
+    <message>
+        <source>container</source>
+        <translation>englobant</translation>
+    </message>
+    <message>
+        <source>holds its files</source>
+        <translation>contient ses fichiers</translation>
+    </message>
+    <message>
+        <source>contained in it</source>
+        <translation>y est inclus</translation>
+    </message>
 </context>
 <context>
     <name>DuplicateSearch</name>
@@ -624,6 +1035,10 @@ Voulez-vous quand même les cloner&#x202f;?</translation>
     <message>
         <source>%1 of %2, %3</source>
         <translation>%1 sur %2, %3</translation>
+    </message>
+    <message>
+        <source>Finding folders contained in others…</source>
+        <translation>Recherche des dossiers contenus dans d’autres…</translation>
     </message>
 </context>
 <context>
@@ -720,6 +1135,10 @@ Voulez-vous quand même les cloner&#x202f;?</translation>
     <message>
         <source>“%1” no longer has the content of its kept copy “%2”</source>
         <translation>«&#xa0;%1&#xa0;» n’a plus le contenu de sa copie conservée «&#xa0;%2&#xa0;»</translation>
+    </message>
+    <message>
+        <source>“%1” holds copies of files of “%2” under other names: it can be moved to the trash or deleted, not replaced by a link or clone</source>
+        <translation>«&#xa0;%1&#xa0;» contient des copies de fichiers de «&#xa0;%2&#xa0;» sous d’autres noms&#x202f;: il peut être mis à la corbeille ou supprimé, mais pas remplacé par un lien ou un clone</translation>
     </message>
 </context>
 <context>
@@ -1131,6 +1550,10 @@ Voulez-vous quand même les cloner&#x202f;?</translation>
         <source>Partial results: the search was stopped. %1</source>
         <translation>Résultats partiels&#x202f;: la recherche a été arrêtée. %1</translation>
     </message>
+    <message>
+        <source>“%1” has copies of all its files in “%2” · %3 reclaimable</source>
+        <translation>«&#xa0;%1&#xa0;» a des copies de tous ses fichiers dans «&#xa0;%2&#xa0;» · %3 récupérables</translation>
+    </message>
 </context>
 <context>
     <name>SearchPanelController</name>
@@ -1349,12 +1772,6 @@ Code de sortie avec une action&#x202f;: 0 tout est fait (ou le serait), 1 un éc
         <source>recovery failed: %1
 </source>
         <translation>échec du rétablissement&#x202f;: %1
-</translation>
-    </message>
-    <message>
-        <source>recovered: removed %1 temporary folders of interrupted cloning plans
-</source>
-        <translation>rétabli&#x202f;: %1 dossiers temporaires de plans de clonage interrompus supprimés
 </translation>
     </message>
     <message>
@@ -1689,44 +2106,35 @@ Utilisation&#x202f;: selfsame-cli put-back FICHIER...
         <translation>octets récupérables&#x202f;: %1</translation>
     </message>
     <message>
-        <source>unknown rule for --select: &apos;%1&apos; (same-folder-name, same-folder, folder, tag, largest-picture or highest-bitrate)</source>
-        <translation>règle inconnue pour --select&#x202f;: «&#xa0;%1&#xa0;» (same-folder-name, same-folder, folder, tag, largest-picture ou highest-bitrate)</translation>
+        <source>--mode takes content, duration, name, attribute, similar-images or similar-audio, not &apos;%1&apos;</source>
+        <translation>--mode accepte content, duration, name, attribute, similar-images ou similar-audio, pas «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
-        <source>Automatic selection (files are never touched; each path line starts with
-&quot;select &quot; or &quot;keep &quot;, or two blanks where the rule decided nothing):
-  --select same-folder-name  in each folder, keep &quot;name.ext&quot; and select &quot;name copy.ext&quot;,
-                             &quot;name 2.ext&quot;…
-  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]
-                             in each folder keep the oldest (or newest) copy, select the rest
-  --select folder DIR [--inside|--inside-any-depth|--outside|--outside-any-depth]
-                  [--if-newer|--if-older|--if-same-date [--date …]]
-                             select the copies located so relative to DIR (only those
-                             newer, older or as old as a copy elsewhere), keep the others
-  --select tag NAME [--having|--not-having]   or   --select tag --any-tag|--no-tag
-                             select the copies having (or lacking) the tag, keep the others
-  --select largest-picture   similar pictures: keep the most pixels, then the largest file
-  --select highest-bitrate   same recordings: keep the highest bit rate, then a lossless format
+        <source>--similarity needs a whole number from 0 to 100, not &apos;%1&apos;</source>
+        <translation>--similarity demande un nombre entier de 0 à 100, pas «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>--similarity applies to the similar-images and similar-audio modes only</source>
+        <translation>--similarity ne s’applique qu’aux modes similar-images et similar-audio</translation>
+    </message>
+    <message>
+        <source>--distinguish-greyscale applies to the similar-images mode only</source>
+        <translation>--distinguish-greyscale ne s’applique qu’au mode similar-images</translation>
+    </message>
+    <message>
+        <source>selfsame-cli: cannot decode %1</source>
+        <translation>selfsame-cli&#x202f;: impossible de décoder %1</translation>
+    </message>
+    <message>
+        <source>selfsame-cli: interrupted: the output is partial, it holds only the groups found so far
 </source>
-        <translation>Sélection automatique (les fichiers ne sont jamais modifiés&#x202f;; chaque ligne de chemin commence
-par &quot;select &quot; ou &quot;keep &quot;, ou par deux blancs là où la règle n’a rien décidé)&#x202f;:
-  --select same-folder-name  dans chaque dossier, garder &quot;name.ext&quot; et sélectionner
-                             &quot;name copy.ext&quot;, &quot;name 2.ext&quot;…
-  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]
-                             dans chaque dossier, garder la copie la plus ancienne (ou la plus
-                             récente) et sélectionner les autres
-  --select folder DOSSIER [--inside|--inside-any-depth|--outside|--outside-any-depth]
-                  [--if-newer|--if-older|--if-same-date [--date …]]
-                             sélectionner les copies ainsi placées par rapport à DOSSIER
-                             (seulement celles plus récentes, plus anciennes ou de même date
-                             qu’une copie ailleurs), garder les autres
-  --select tag NOM [--having|--not-having]   ou   --select tag --any-tag|--no-tag
-                             sélectionner les copies qui ont (ou n’ont pas) l’étiquette,
-                             garder les autres
-  --select largest-picture   images similaires&#x202f;: garder le plus de pixels, puis le plus gros
-                             fichier
-  --select highest-bitrate   mêmes enregistrements&#x202f;: garder le débit le plus élevé, puis un
-                             format sans perte
+        <translation>selfsame-cli&#x202f;: interrompu&#x202f;: la sortie est partielle, elle ne contient que les groupes trouvés jusqu’ici
+</translation>
+    </message>
+    <message>
+        <source>selfsame-cli: --replace-with needs copies of the same content; the similar modes find files that only look or sound alike
+</source>
+        <translation>selfsame-cli&#x202f;: --replace-with demande des copies au contenu identique&#x202f;; les modes de similitude trouvent des fichiers qui se ressemblent seulement à l’œil ou à l’oreille
 </translation>
     </message>
     <message>
@@ -1749,6 +2157,8 @@ name or metadata attribute.
   --skip PATTERN             skip names matching a glob or /regex/ (repeatable)
   --depth N                  levels below each location (1 = its direct children only)
   --compare-folders          also find folders of equal content
+  --contained-folders        also find folders whose files all have copies inside one other
+                             searched folder, whatever their names and layout
   --ignore-mp4-header        compare MP4 files without their first 16 KiB
   --ignore-clones            leave out groups whose files already share their storage
   --include-read-only        also search items you may not modify or delete
@@ -1803,6 +2213,8 @@ durée, nom ou attribut de métadonnées.
                              (répétable)
   --depth N                  niveaux sous chaque emplacement (1 = ses enfants directs seulement)
   --compare-folders          trouver aussi les dossiers de même contenu
+  --contained-folders        trouver aussi les dossiers dont tous les fichiers ont des copies
+                             dans un autre dossier examiné, quels que soient noms et rangement
   --ignore-mp4-header        comparer les fichiers MP4 sans leurs 16 premiers Kio
   --ignore-clones            omettre les groupes dont les fichiers partagent déjà leur stockage
   --include-read-only        examiner aussi les éléments que vous ne pouvez ni modifier ni
@@ -1845,35 +2257,62 @@ durée, nom ou attribut de métadonnées.
 </translation>
     </message>
     <message>
-        <source>--mode takes content, duration, name, attribute, similar-images or similar-audio, not &apos;%1&apos;</source>
-        <translation>--mode accepte content, duration, name, attribute, similar-images ou similar-audio, pas «&#xa0;%1&#xa0;»</translation>
+        <source>--contained-folders applies to the content mode only</source>
+        <translation>--contained-folders ne s’applique qu’au mode contenu</translation>
     </message>
-    <message>
-        <source>--similarity needs a whole number from 0 to 100, not &apos;%1&apos;</source>
-        <translation>--similarity demande un nombre entier de 0 à 100, pas «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
-        <source>--similarity applies to the similar-images and similar-audio modes only</source>
-        <translation>--similarity ne s’applique qu’aux modes similar-images et similar-audio</translation>
-    </message>
-    <message>
-        <source>--distinguish-greyscale applies to the similar-images mode only</source>
-        <translation>--distinguish-greyscale ne s’applique qu’au mode similar-images</translation>
-    </message>
-    <message>
-        <source>selfsame-cli: cannot decode %1</source>
-        <translation>selfsame-cli&#x202f;: impossible de décoder %1</translation>
-    </message>
-    <message>
-        <source>selfsame-cli: interrupted: the output is partial, it holds only the groups found so far
+    <message numerus="yes">
+        <source>recovered: removed %Ln temporary folder(s) of interrupted cloning plans
 </source>
-        <translation>selfsame-cli&#x202f;: interrompu&#x202f;: la sortie est partielle, elle ne contient que les groupes trouvés jusqu’ici
-</translation>
+        <translation>
+            <numerusform>rétabli&#x202f;: %Ln dossier temporaire de plan de clonage interrompu supprimé
+</numerusform>
+            <numerusform>rétabli&#x202f;: %Ln dossiers temporaires de plans de clonage interrompus supprimés
+</numerusform>
+        </translation>
     </message>
     <message>
-        <source>selfsame-cli: --replace-with needs copies of the same content; the similar modes find files that only look or sound alike
+        <source>unknown rule for --select: &apos;%1&apos; (same-folder-name, same-folder, folder, tag, largest-picture, highest-bitrate or contained-folders)</source>
+        <translation>règle inconnue pour --select&#x202f;: «&#xa0;%1&#xa0;» (same-folder-name, same-folder, folder, tag, largest-picture, highest-bitrate ou contained-folders)</translation>
+    </message>
+    <message>
+        <source>Automatic selection (files are never touched; each path line starts with
+&quot;select &quot; or &quot;keep &quot;, or two blanks where the rule decided nothing):
+  --select same-folder-name  in each folder, keep &quot;name.ext&quot; and select &quot;name copy.ext&quot;,
+                             &quot;name 2.ext&quot;…
+  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]
+                             in each folder keep the oldest (or newest) copy, select the rest
+  --select folder DIR [--inside|--inside-any-depth|--outside|--outside-any-depth]
+                  [--if-newer|--if-older|--if-same-date [--date …]]
+                             select the copies located so relative to DIR (only those
+                             newer, older or as old as a copy elsewhere), keep the others
+  --select tag NAME [--having|--not-having]   or   --select tag --any-tag|--no-tag
+                             select the copies having (or lacking) the tag, keep the others
+  --select largest-picture   similar pictures: keep the most pixels, then the largest file
+  --select highest-bitrate   same recordings: keep the highest bit rate, then a lossless format
+  --select contained-folders with --contained-folders: select each folder whose files all have
+                             copies in another, keep that other folder
 </source>
-        <translation>selfsame-cli&#x202f;: --replace-with demande des copies au contenu identique&#x202f;; les modes de similitude trouvent des fichiers qui se ressemblent seulement à l’œil ou à l’oreille
+        <translation>Sélection automatique (les fichiers ne sont jamais modifiés&#x202f;; chaque ligne de chemin commence
+par &quot;select &quot; ou &quot;keep &quot;, ou par deux blancs là où la règle n’a rien décidé)&#x202f;:
+  --select same-folder-name  dans chaque dossier, garder &quot;name.ext&quot; et sélectionner
+                             &quot;name copy.ext&quot;, &quot;name 2.ext&quot;…
+  --select same-folder [--keep oldest|newest] [--date created|modified|last-used|added]
+                             dans chaque dossier, garder la copie la plus ancienne (ou la plus
+                             récente) et sélectionner les autres
+  --select folder DOSSIER [--inside|--inside-any-depth|--outside|--outside-any-depth]
+                  [--if-newer|--if-older|--if-same-date [--date …]]
+                             sélectionner les copies ainsi placées par rapport à DOSSIER
+                             (seulement celles plus récentes, plus anciennes ou de même date
+                             qu’une copie ailleurs), garder les autres
+  --select tag NOM [--having|--not-having]   ou   --select tag --any-tag|--no-tag
+                             sélectionner les copies qui ont (ou n’ont pas) l’étiquette,
+                             garder les autres
+  --select largest-picture   images similaires&#x202f;: garder le plus de pixels, puis le plus gros
+                             fichier
+  --select highest-bitrate   mêmes enregistrements&#x202f;: garder le débit le plus élevé, puis un
+                             format sans perte
+  --select contained-folders avec --contained-folders&#x202f;: sélectionner chaque dossier dont tous
+                             les fichiers ont des copies dans un autre, garder cet autre
 </translation>
     </message>
 </context>
@@ -2112,14 +2551,6 @@ durée, nom ou attribut de métadonnées.
         <translation>annulée en partie</translation>
     </message>
     <message>
-        <source>1 file</source>
-        <translation>1 fichier</translation>
-    </message>
-    <message>
-        <source>%1 files</source>
-        <translation>%1 fichiers</translation>
-    </message>
-    <message>
         <source>“%1” could not be undone</source>
         <translation>«&#xa0;%1&#xa0;» n’a pas pu être annulé</translation>
     </message>
@@ -2130,30 +2561,6 @@ durée, nom ou attribut de métadonnées.
     <message>
         <source>“%1” was undone in part</source>
         <translation>«&#xa0;%1&#xa0;» a été annulé en partie</translation>
-    </message>
-    <message>
-        <source>1 file was given back.</source>
-        <translation>1 fichier a été rendu.</translation>
-    </message>
-    <message>
-        <source>%1 files were given back.</source>
-        <translation>%1 fichiers ont été rendus.</translation>
-    </message>
-    <message>
-        <source>1 file was left as it is, because it changed since.</source>
-        <translation>1 fichier a été laissé tel quel, car il a changé depuis.</translation>
-    </message>
-    <message>
-        <source>%1 files were left as they are, because they changed since.</source>
-        <translation>%1 fichiers ont été laissés tels quels, car ils ont changé depuis.</translation>
-    </message>
-    <message>
-        <source>1 file was deleted for good and cannot be given back.</source>
-        <translation>1 fichier a été supprimé définitivement et ne peut pas être rendu.</translation>
-    </message>
-    <message>
-        <source>%1 files were deleted for good and cannot be given back.</source>
-        <translation>%1 fichiers ont été supprimés définitivement et ne peuvent pas être rendus.</translation>
     </message>
     <message>
         <source>%1: deleted for good</source>
@@ -2170,6 +2577,34 @@ durée, nom ou attribut de métadonnées.
     <message>
         <source>Action %1 (%2) cannot be undone.</source>
         <translation>L’action %1 (%2) ne peut pas être annulée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s)</source>
+        <translation>
+            <numerusform>%Ln fichier</numerusform>
+            <numerusform>%Ln fichiers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) (was|were) given back.</source>
+        <translation>
+            <numerusform>%Ln fichier a été rendu.</numerusform>
+            <numerusform>%Ln fichiers ont été rendus.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) (was|were) left as (it is|they are), because (it|they) changed since.</source>
+        <translation>
+            <numerusform>%Ln fichier a été laissé tel quel, car il a changé depuis.</numerusform>
+            <numerusform>%Ln fichiers ont été laissés tels quels, car ils ont changé depuis.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%Ln file(s) (was|were) deleted for good and cannot be given back.</source>
+        <translation>
+            <numerusform>%Ln fichier a été supprimé définitivement et ne peut pas être rendu.</numerusform>
+            <numerusform>%Ln fichiers ont été supprimés définitivement et ne peuvent pas être rendus.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2435,20 +2870,19 @@ durée, nom ou attribut de métadonnées.
         <translation>Ajouter l’emplacement de recherche</translation>
     </message>
     <message>
-        <source>%1 — 1 search running</source>
-        <translation>%1 — 1 recherche en cours</translation>
-    </message>
-    <message>
-        <source>%1 — %2 searches running</source>
-        <translation>%1 — %2 recherches en cours</translation>
-    </message>
-    <message>
         <source>Note that you should not enable this location in the list (leave the checkbox unticked): it only tells Selfsame where copies of the files may be, and is not searched itself.
 
 You can designate more such folders by adding them to the folder list and leaving their checkboxes unticked.</source>
         <translation>N’activez pas cet emplacement dans la liste (laissez la case décochée)&#x202f;: il indique seulement à Selfsame où peuvent se trouver des copies des fichiers, et n’est pas parcouru lui-même.
 
 Vous pouvez désigner d’autres dossiers de ce genre en les ajoutant à la liste des dossiers et en laissant leur case décochée.</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 — %Ln (search|searches) running</source>
+        <translation>
+            <numerusform>%1 — %Ln recherche en cours</numerusform>
+            <numerusform>%1 — %Ln recherches en cours</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -2638,6 +3072,10 @@ Vous pouvez désigner d’autres dossiers de ce genre en les ajoutant à la list
     <message>
         <source>All but the best recording (the highest bit rate, then a lossless format)</source>
         <translation>Toutes sauf le meilleur enregistrement (le débit le plus élevé, puis un format sans perte)</translation>
+    </message>
+    <message>
+        <source>Every folder whose files all have copies in another folder, keeping that folder</source>
+        <translation>Chaque dossier dont tous les fichiers ont des copies dans un autre dossier, en gardant cet autre</translation>
     </message>
 </context>
 <context>
@@ -3450,6 +3888,14 @@ Modifié ou disparu depuis l’enregistrement de ces résultats</translation>
     <message>
         <source>100 % finds only recordings that cannot be told apart; lower values also find copies encoded at lower quality or cut differently.</source>
         <translation>100&#xa0;% ne trouve que les enregistrements impossibles à distinguer&#x202f;; des valeurs plus basses trouvent aussi des copies encodées en moindre qualité ou coupées différemment.</translation>
+    </message>
+    <message>
+        <source>Also find folders whose files all exist elsewhere</source>
+        <translation>Trouver aussi les dossiers dont tous les fichiers existent ailleurs</translation>
+    </message>
+    <message>
+        <source>Finds each folder whose files, by content, all have copies inside one other searched folder, whatever their names and layout, such as an old backup inside a newer, reorganised one.</source>
+        <translation>Trouve chaque dossier dont tous les fichiers, par leur contenu, ont des copies dans un autre dossier examiné, quels que soient leurs noms et leur rangement, comme une ancienne sauvegarde dans une plus récente, réorganisée.</translation>
     </message>
 </context>
 <context>

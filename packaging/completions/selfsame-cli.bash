@@ -15,7 +15,7 @@ _selfsame_cli()
 
     local commands='put-back clear-cache recover journal undo'
     local options='--include-hidden --min-size --max-size --no-size-filter --ext --exclude-ext
-        --skip --depth --compare-folders --ignore-mp4-header --ignore-clones --include-read-only
+        --skip --depth --compare-folders --contained-folders --ignore-mp4-header --ignore-clones --include-read-only
         --include-other-owner --mode --tolerance --attribute --ignore-extension --ignore-suffixes
         --similarity --distinguish-greyscale
         --suffixes --list-attributes --format -0 --print0 --summary --anywhere --no-cache
@@ -36,7 +36,7 @@ _selfsame_cli()
     case $prev in
         --mode) values='content duration name attribute similar-images similar-audio' ;;
         --format) values='text json csv' ;;
-        --select) values='same-folder-name same-folder folder tag largest-picture highest-bitrate' ;;
+        --select) values='same-folder-name same-folder folder tag largest-picture highest-bitrate contained-folders' ;;
         --keep) values='oldest newest' ;;
         --date) values='created modified last-used added' ;;
         --replace-with) values='symlink relative-symlink hardlink clone alias' ;;

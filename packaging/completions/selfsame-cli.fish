@@ -31,6 +31,7 @@ complete -c selfsame-cli -n $searching -l exclude-ext -x -d 'All files but these
 complete -c selfsame-cli -n $searching -l skip -x -d 'Skip names matching a glob or /regex/'
 complete -c selfsame-cli -n $searching -l depth -x -d 'Levels below each location'
 complete -c selfsame-cli -n $searching -l compare-folders -d 'Also find folders of equal content'
+complete -c selfsame-cli -n $searching -l contained-folders -d 'Also find folders whose files all have copies in another'
 complete -c selfsame-cli -n $searching -l ignore-mp4-header -d 'Compare MP4 files without their first 16 KiB'
 complete -c selfsame-cli -n $searching -l ignore-clones -d 'Leave out groups already sharing storage'
 complete -c selfsame-cli -n $searching -l include-read-only -d 'Also search items you may not modify'
@@ -58,7 +59,7 @@ complete -c selfsame-cli -n $searching -s h -l help -d 'Show the help'
 complete -c selfsame-cli -n $searching -l version -d 'Show the version'
 
 # Automatic selection
-complete -c selfsame-cli -n $searching -l select -x -a 'same-folder-name same-folder folder tag largest-picture highest-bitrate' -d 'Selection rule'
+complete -c selfsame-cli -n $searching -l select -x -a 'same-folder-name same-folder folder tag largest-picture highest-bitrate contained-folders' -d 'Selection rule'
 complete -c selfsame-cli -n __selfsame_cli_folder_rule -x -a '(__fish_complete_directories)'
 complete -c selfsame-cli -n $searching -l keep -x -a 'oldest newest' -d 'same-folder: copy kept'
 complete -c selfsame-cli -n $searching -l date -x -a 'created modified last-used added' -d 'Date compared'

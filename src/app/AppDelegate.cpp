@@ -543,10 +543,8 @@ void AppDelegate::updateDock()
     const QString name = QApplication::applicationName();
     if (count == 0)
         setWindowTitle(name);
-    else if (count == 1)
-        setWindowTitle(tr("%1 — 1 search running").arg(name));
     else
-        setWindowTitle(tr("%1 — %2 searches running").arg(name).arg(count));
+        setWindowTitle(tr("%1 — %Ln (search|searches) running", nullptr, count).arg(name));
     showLauncherCount(count);
 }
 

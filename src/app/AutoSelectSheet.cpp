@@ -88,8 +88,11 @@ AutoSelectSheet::AutoSelectSheet(QWidget *window, ResultModel &model, Settings &
     auto *largestPicture = new QRadioButton(tr("All but the largest picture (the most pixels, then the largest file)"));
     auto *bestRecording =
         new QRadioButton(tr("All but the best recording (the highest bit rate, then a lossless format)"));
+    auto *containedFolders =
+        new QRadioButton(tr("Every folder whose files all have copies in another folder, keeping that folder"));
     m_rules->addButton(largestPicture, LargestPicture);
     m_rules->addButton(bestRecording, BestRecording);
+    m_rules->addButton(containedFolders, ContainedFolders);
 
     m_oldest = new QComboBox;
     m_oldest->addItems({tr("the oldest"), tr("the newest")});
@@ -159,6 +162,7 @@ AutoSelectSheet::AutoSelectSheet(QWidget *window, ResultModel &model, Settings &
     grid->addWidget(m_tagLabel, 6, 1);
     grid->addWidget(largestPicture, 7, 0, 1, 2);
     grid->addWidget(bestRecording, 8, 0, 1, 2);
+    grid->addWidget(containedFolders, 9, 0, 1, 2);
     grid->setVerticalSpacing(8);
 
     auto *buttons = new QDialogButtonBox;
@@ -224,11 +228,14 @@ void AutoSelectSheet::load(const QString &folder)
     const AutoSelectSettings s = autoSelectSettingsFrom(stored);
 
     const DetectionMode mode = m_model.detectionMode();
+    const bool containedFolders = m_model.request().containedFolders;
     for (QAbstractButton *button : m_rules->buttons())
-        button->setVisible(autoSelectRuleOffered(m_rules->id(button), mode));
+        button->setVisible(autoSelectRuleOffered(m_rules->id(button), mode, containedFolders));
     const std::optional<int> storedChoice =
         stored.contains(kChoice) ? std::optional<int>(s.choice) : std::nullopt;
-    m_rules->button(folder.isEmpty() ? autoSelectInitialRule(storedChoice, mode) : int(InsideFolder))->setChecked(true);
+    m_rules->button(folder.isEmpty() ? autoSelectInitialRule(storedChoice, mode, containedFolders)
+                                     : int(InsideFolder))
+        ->setChecked(true);
     auto setTag = [](QComboBox *popup, int tag) { popup->setCurrentIndex(tag >= 0 && tag < popup->count() ? tag : 0); };
     setTag(m_oldest, s.oldest == 0 ? 0 : 1);
     setTag(m_date, s.date);

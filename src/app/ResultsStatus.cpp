@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
+
 namespace selfsame {
 
 namespace {
@@ -65,6 +67,13 @@ QString groupCaption(const QList<ResultItem *> &members)
     qint64 onDisk = 0;
     for (const ResultItem *member : members)
         onDisk += isActedOn(*member) ? 0 : member->physicalSize;
+    const auto contained = std::find_if(members.begin(), members.end(),
+                                        [](const ResultItem *m) { return m->has(ContainedFolder); });
+    const auto container = std::find_if(members.begin(), members.end(),
+                                        [](const ResultItem *m) { return m->has(ContainingFolder); });
+    if (contained != members.end() && container != members.end())
+        return ResultsStatusText::tr("“%1” has copies of all its files in “%2” · %3 reclaimable")
+            .arg((*contained)->name(), (*container)->path, formatByteCount(group.reclaimable));
     return ResultsStatusText::tr("Group of %Ln file(s) · %1 on disk · %2 reclaimable", nullptr,
                                  count(group.files))
         .arg(formatByteCount(onDisk), formatByteCount(group.reclaimable));

@@ -18,6 +18,7 @@ void registerSearchDefaults(Settings &settings)
         {key::ignoreMp4Header, false},
         {key::ignoreClones, false},
         {key::compareFolders, false},
+        {key::containedFolders, false},
         {key::limitFolderDepth, qint64(-1)},
         {key::skipFilenameMatchingPatterns, false},
         {key::skipFilenamePatterns, QString()},

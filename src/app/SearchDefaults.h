@@ -14,6 +14,7 @@ inline constexpr QLatin1String findAllDupesForSingleFiles("find all dupes for si
 inline constexpr QLatin1String ignoreMp4Header("ignore mp4 header");
 inline constexpr QLatin1String ignoreClones("ignore clones");
 inline constexpr QLatin1String compareFolders("compare folders");
+inline constexpr QLatin1String containedFolders("contained folders");
 inline constexpr QLatin1String limitFolderDepth("limit folder depth");
 inline constexpr QLatin1String skipFilenameMatchingPatterns("skip filename matching patterns");
 inline constexpr QLatin1String skipFilenamePatterns("skip filename patterns");

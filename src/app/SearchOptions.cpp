@@ -16,6 +16,7 @@ SearchOptions loadSearchOptions(const Settings &settings)
     o.ignoreMp4Header = settings.boolValue(key::ignoreMp4Header);
     o.ignoreClones = settings.boolValue(key::ignoreClones);
     o.compareFolders = settings.boolValue(key::compareFolders);
+    o.containedFolders = settings.boolValue(key::containedFolders);
 
     const qint64 depth = settings.integerValue(key::limitFolderDepth);
     o.limitFolderDepth = depth >= 0;
@@ -99,6 +100,8 @@ SearchStart startSearch(const SearchOptions &options, const QStringList &locatio
     settings.setValue(key::ignoreClones, r.ignoreClones);
     r.compareFolders = options.compareFolders;
     settings.setValue(key::compareFolders, r.compareFolders);
+    r.containedFolders = options.containedFolders;
+    settings.setValue(key::containedFolders, r.containedFolders);
     r.filterFileSize = options.filterFileSize;
     settings.setValue(key::filterFileSize, r.filterFileSize);
 

@@ -18,6 +18,7 @@ struct SearchOptions {
     bool ignoreMp4Header = false;
     bool ignoreClones = false;
     bool compareFolders = false;
+    bool containedFolders = false;
     bool limitFolderDepth = false;
     int folderDepthField = 1; // levels shown in the field, 1 = direct children only
     bool skipFilenames = false;

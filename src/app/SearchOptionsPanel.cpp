@@ -113,9 +113,14 @@ QWidget *SearchOptionsPanel::buildModeGroups()
     auto *contentLayout = groupLayout(content, 0);
     m_ignoreMp4HeaderChk = new QCheckBox(tr("Ignore the header of &MP4 files (compare the media only)"));
     m_compareFoldersChk = new QCheckBox(tr("Also find duplicate f&olders"));
+    m_containedFoldersChk = new QCheckBox(tr("Also find folders whose files all exist elsewhere"));
+    m_containedFoldersChk->setToolTip(
+        tr("Finds each folder whose files, by content, all have copies inside one other searched folder, "
+           "whatever their names and layout, such as an old backup inside a newer, reorganised one."));
     m_ignoreClonesChk = new QCheckBox(tr("Ignore files that already share their storage (&clones)"));
     contentLayout->addWidget(m_ignoreMp4HeaderChk);
     contentLayout->addWidget(m_compareFoldersChk);
+    contentLayout->addWidget(m_containedFoldersChk);
     contentLayout->addWidget(m_ignoreClonesChk);
 
     // The tolerance fields start a little right of the mode pop-up, under its text.
@@ -274,6 +279,7 @@ QWidget *SearchOptionsPanel::buildFilters()
     grid->addWidget(m_findAllDupesForSingleFilesBtn, row++, 0, 1, 2);
     // Named like their settings, for tests and style sheets.
     m_compareFoldersChk->setObjectName(QStringLiteral("compareFoldersChk"));
+    m_containedFoldersChk->setObjectName(QStringLiteral("containedFoldersChk"));
     m_extensionChk->setObjectName(QStringLiteral("extensionChk"));
     m_filterFileSizeChk->setObjectName(QStringLiteral("filterFileSizeChk"));
     m_findAllDupesForSingleFilesBtn->setObjectName(QStringLiteral("findAllDupesForSingleFilesBtn"));
@@ -291,6 +297,7 @@ void SearchOptionsPanel::setOptions(const SearchOptions &o)
         const QSignalBlocker blocker(m_compareFoldersChk);
         m_compareFoldersChk->setChecked(o.compareFolders);
     }
+    m_containedFoldersChk->setChecked(o.containedFolders);
     m_limitFolderDepthChk->setChecked(o.limitFolderDepth);
     m_limitFolderDepthFld->setValue(o.folderDepthField);
     m_extensionChk->setChecked(o.extensionsOn);
@@ -329,6 +336,7 @@ SearchOptions SearchOptionsPanel::options() const
     o.ignoreMp4Header = m_ignoreMp4HeaderChk->isChecked();
     o.ignoreClones = m_ignoreClonesChk->isChecked();
     o.compareFolders = m_compareFoldersChk->isChecked();
+    o.containedFolders = m_containedFoldersChk->isChecked();
     o.limitFolderDepth = m_limitFolderDepthChk->isChecked();
     o.folderDepthField = m_limitFolderDepthFld->value();
     o.skipFilenames = m_skipFilenamesChk->isChecked();

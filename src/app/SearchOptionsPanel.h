@@ -76,6 +76,7 @@ private:
     QWidget *m_modeStackView;
     QCheckBox *m_ignoreMp4HeaderChk;
     QCheckBox *m_compareFoldersChk;
+    QCheckBox *m_containedFoldersChk;
     QCheckBox *m_ignoreClonesChk;
     QDoubleSpinBox *m_durationToleranceFld;
     QComboBox *m_spotlightAttributePopup;

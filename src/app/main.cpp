@@ -5,6 +5,7 @@
 #include "SingleInstance.h"
 #include "journal/Journal.h"
 #include "language/Translations.h"
+#include "search/ReadingThreads.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -13,6 +14,7 @@
 
 int main(int argc, char *argv[])
 {
+    selfsame::limitHeapsToCores();
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Selfsame"));
     selfsame::installTranslations(&app);

@@ -59,6 +59,8 @@ QString usageText()
                "  --skip PATTERN             skip names matching a glob or /regex/ (repeatable)\n"
                "  --depth N                  levels below each location (1 = its direct children only)\n"
                "  --compare-folders          also find folders of equal content\n"
+               "  --contained-folders        also find folders whose files all have copies inside one other\n"
+               "                             searched folder, whatever their names and layout\n"
                "  --ignore-mp4-header        compare MP4 files without their first 16 KiB\n"
                "  --ignore-clones            leave out groups whose files already share their storage\n"
                "  --include-read-only        also search items you may not modify or delete\n"
@@ -176,6 +178,8 @@ ParseResult parseCommandLine(const QStringList &arguments)
             request.limitFolderDepth = depth - 1;
         } else if (argument == QLatin1String("--compare-folders")) {
             request.compareFolders = true;
+        } else if (argument == QLatin1String("--contained-folders")) {
+            request.containedFolders = true;
         } else if (argument == QLatin1String("--ignore-mp4-header")) {
             request.ignoreMp4Header = true;
         } else if (argument == QLatin1String("--ignore-clones")) {
@@ -277,6 +281,8 @@ ParseResult parseCommandLine(const QStringList &arguments)
     request.distinguishGreyscale = distinguishGreyscale;
     if (attributeGiven && mode != DetectionMode::Attribute)
         return fail(CliText::tr("--attribute applies to the attribute mode only"));
+    if (request.containedFolders && mode != DetectionMode::Content)
+        return fail(CliText::tr("--contained-folders applies to the content mode only"));
     if ((request.filenameIgnoreExtension || ignoreSuffixes || suffixes) && mode != DetectionMode::FileName)
         return fail(
             CliText::tr("--ignore-extension, --ignore-suffixes and --suffixes apply to the name mode only"));

@@ -70,8 +70,8 @@ int reportRecovery(const RecoveryReport &report, const Writer &err)
     for (const QString &failure : report.failed)
         err(CliText::tr("recovery failed: %1\n").arg(escapedText(failure)).toUtf8());
     if (report.planFoldersRemoved > 0)
-        err(CliText::tr("recovered: removed %1 temporary folders of interrupted cloning plans\n")
-                .arg(report.planFoldersRemoved)
+        err(CliText::tr("recovered: removed %Ln temporary folder(s) of interrupted cloning plans\n", nullptr,
+                        int(report.planFoldersRemoved))
                 .toUtf8());
     return int(report.failed.size());
 }

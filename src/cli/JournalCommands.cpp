@@ -7,6 +7,7 @@
 
 #include <QCoreApplication>
 #include <QDateTime>
+#include <QLocale>
 
 #include <algorithm>
 
@@ -23,15 +24,19 @@ int runJournalListing(const std::function<void(const QByteArray &)> &out,
         err(CliText::tr("The operations journal holds no actions.\n").toUtf8());
         return 0;
     }
-    // Columns as wide as their translated headings and states, at least.
+    // Columns as wide as their translated headings, dates and states, at least.
     const QString headings[] = {CliText::tr("ACTION"), CliText::tr("WHEN"), CliText::tr("FILES"),
                                 CliText::tr("STATE"), CliText::tr("WHAT")};
     const int idWidth = std::max(6, int(headings[0].size())),
-              whenWidth = std::max(16, int(headings[1].size())),
               filesWidth = std::max(5, int(headings[2].size()));
-    int stateWidth = std::max(16, int(headings[3].size()));
-    for (const JournalBatch &batch : batches)
+    int whenWidth = int(headings[1].size()), stateWidth = std::max(16, int(headings[3].size()));
+    // Dates as the session writes them (LC_TIME), like every other date people read.
+    QStringList whens;
+    for (const JournalBatch &batch : batches) {
+        whens << QLocale().toString(QDateTime::fromSecsSinceEpoch(batch.started), QLocale::ShortFormat);
+        whenWidth = std::max(whenWidth, int(whens.last().size()));
         stateWidth = std::max(stateWidth, int(batchState(batch).size()));
+    }
     const QString line = QStringLiteral("%1  %2  %3  %4  %5\n");
     out(line.arg(headings[0], idWidth)
             .arg(headings[1], -whenWidth)
@@ -39,11 +44,10 @@ int runJournalListing(const std::function<void(const QByteArray &)> &out,
             .arg(headings[3], -stateWidth)
             .arg(headings[4])
             .toUtf8());
-    for (const JournalBatch &batch : batches) {
-        const QString when =
-            QDateTime::fromSecsSinceEpoch(batch.started).toString(QStringLiteral("yyyy-MM-dd HH:mm"));
+    for (qsizetype i = 0; i < batches.size(); ++i) {
+        const JournalBatch &batch = batches[i];
         out(line.arg(batch.id, idWidth)
-                .arg(when, -whenWidth)
+                .arg(whens[i], -whenWidth)
                 .arg(batch.files, filesWidth)
                 .arg(batchState(batch), -stateWidth)
                 .arg(describeBatch(batch))

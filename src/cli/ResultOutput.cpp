@@ -60,9 +60,11 @@ QList<QList<const ResultItem *>> groupsOf(const QList<ResultItem> &items)
     QList<QList<const ResultItem *>> groups;
     for (auto &[number, members] : byGroup) {
         // A group of similar files keeps its anchor first: the others are alike to it only.
+        // A contained folder comes before its container.
         if (std::isnan(members.first()->similarity()))
-            std::sort(members.begin(), members.end(),
-                      [](const ResultItem *a, const ResultItem *b) { return a->path < b->path; });
+            std::sort(members.begin(), members.end(), [](const ResultItem *a, const ResultItem *b) {
+                return std::pair(!a->has(ContainedFolder), a->path) < std::pair(!b->has(ContainedFolder), b->path);
+            });
         groups.append(members);
     }
     return groups;

@@ -45,6 +45,7 @@ int ruleNamed(const QString &name)
     if (name == QLatin1String("tag")) return ByTag;
     if (name == QLatin1String("largest-picture")) return LargestPicture;
     if (name == QLatin1String("highest-bitrate")) return BestRecording;
+    if (name == QLatin1String("contained-folders")) return ContainedFolders;
     return -1;
 }
 
@@ -85,7 +86,7 @@ QString selectSettings(const SelectRequest &request, AutoSelectSettings *setting
     s.choice = ruleNamed(request.rule);
     if (s.choice < 0)
         return CliText::tr("unknown rule for --select: '%1' (same-folder-name, same-folder, folder, tag, "
-                           "largest-picture or highest-bitrate)")
+                           "largest-picture, highest-bitrate or contained-folders)")
             .arg(request.rule);
     if (s.choice == InsideFolder) {
         if (!isFolder(request.operand))
@@ -146,7 +147,9 @@ QString selectUsageText()
         "  --select tag NAME [--having|--not-having]   or   --select tag --any-tag|--no-tag\n"
         "                             select the copies having (or lacking) the tag, keep the others\n"
         "  --select largest-picture   similar pictures: keep the most pixels, then the largest file\n"
-        "  --select highest-bitrate   same recordings: keep the highest bit rate, then a lossless format\n");
+        "  --select highest-bitrate   same recordings: keep the highest bit rate, then a lossless format\n"
+        "  --select contained-folders with --contained-folders: select each folder whose files all have\n"
+        "                             copies in another, keep that other folder\n");
 }
 
 } // namespace selfsame::cli

@@ -16,6 +16,7 @@
 #include "results/ResultModel.h"
 #include "search/DigestCache.h"
 #include "search/DuplicateSearch.h"
+#include "search/ReadingThreads.h"
 
 #include <QCoreApplication>
 
@@ -58,6 +59,7 @@ void showProgress(const QString &status)
 
 int main(int argc, char *argv[])
 {
+    selfsame::limitHeapsToCores();
     // Paths are bytes: read them before Qt decodes them lossily (or takes out its own options).
     const QStringList commandLine = argumentsFromBytes(argc, argv);
     QCoreApplication app(argc, argv);

@@ -2,6 +2,7 @@
 
 #include "FileActionOptions.h"
 #include "fileops/Replacement.h"
+#include "support/EnglishPluralsInstalled.h"
 #include "support/FileItems.h"
 #include "support/MountedVolume.h"
 #include "support/TempTree.h"
@@ -96,6 +97,7 @@ TEST(FileActions, DryRunChangesNothingAndActingReportsEveryFile)
 
 TEST(FileActions, ClonesInPlaceFromEachGroupsKeptCopyAfterAPlan)
 {
+    EnglishPluralsInstalled plurals;
     MountedVolume volume(QStringLiteral("btrfs"));
     if (const QString why = volume.mount(); !why.isEmpty()) GTEST_SKIP() << why.toStdString();
     ItemGroup items;

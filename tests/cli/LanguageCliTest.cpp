@@ -69,3 +69,18 @@ TEST(LanguageCli, SummaryAndMessagesAreTranslatedAndCountsStayPlainDigits)
     EXPECT_TRUE(err.contains(QStringLiteral("Gruppen: 1\n"))) << err.toStdString();
     EXPECT_TRUE(err.contains(QStringLiteral("freigebbare Bytes: 3000\n"))) << err.toStdString();
 }
+
+TEST(LanguageCli, AttributeNamesAndDescriptionsAreTranslatedAndKeysAreNot)
+{
+    const CliRun german = runCli({QStringLiteral("--list-attributes"), QStringLiteral("jpg")},
+                                 session(QStringLiteral("de"), {}));
+    EXPECT_EQ(german.exitCode, 0);
+    EXPECT_TRUE(german.out.contains("kMDItemExposureTimeSeconds\tBelichtungszeit\t"))
+        << german.out.toStdString();
+    const CliRun french = runCli({QStringLiteral("--list-attributes")}, session(QStringLiteral("fr"), {}));
+    EXPECT_TRUE(french.out.contains(
+        QStringLiteral("\tAltitude du lieu où l’élément a été créé, en mètres au-dessus du "
+                       "niveau de la mer\n")
+            .toUtf8()))
+        << french.out.toStdString();
+}

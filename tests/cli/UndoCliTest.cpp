@@ -5,6 +5,7 @@
 #include "cli/CliOnVolume.h"
 #include "support/ByteFiles.h"
 
+#include <QRegularExpression>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <linux/fiemap.h>
@@ -172,6 +173,15 @@ TEST_P(Undo, RefusesWhatChangedAndWhatWasDeletedForGood)
     EXPECT_TRUE(gone.err.contains("no longer in the trash")) << gone.err.toStdString();
     EXPECT_FALSE(existsBytes((trashed + QStringLiteral("/old/b.bin")).toUtf8()));
     EXPECT_TRUE(runCli({QStringLiteral("journal")}, environment).out.contains("can be undone"));
+
+    // Dates follow the session's LC_TIME (German: 25.11.26 14:05), whatever the language of the texts.
+    QProcessEnvironment germanDates = environment;
+    germanDates.remove(QStringLiteral("LC_ALL"));
+    germanDates.insert(QStringLiteral("LC_TIME"), QStringLiteral("de_DE.UTF-8"));
+    const QString listing = QString::fromUtf8(runCli({QStringLiteral("journal")}, germanDates).out);
+    EXPECT_TRUE(listing.contains(QRegularExpression(QStringLiteral(R"(  \d\d\.\d\d\.\d\d \d\d:\d\d  )"))))
+        << listing.toStdString();
+    EXPECT_TRUE(listing.startsWith(QStringLiteral("ACTION  WHEN "))) << listing.toStdString();
 }
 
 TEST_P(Undo, AnInterruptedUndoIsFinishedOrRolledBack)

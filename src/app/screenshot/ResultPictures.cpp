@@ -1,5 +1,6 @@
 #include "ResultPictures.h"
 
+#include "ContainedPictures.h"
 #include "Dupes.h"
 #include "GlancePictures.h"
 #include "FilterBar.h"
@@ -128,6 +129,7 @@ void drawResultWindows(Settings &settings, const QString &corpus, const QString 
     settings.remove(QStringLiteral("hidden columns"));
 
     drawSimilarResultWindows(settings, scratch, output);
+    drawContainedFolders(settings, scratch, output);
 
     Dupes *filtered = searchedWindow(settings, DetectionMode::Content, {photos, corpus}, {}, kWindowSize);
     auto *criterion = filtered->filterBar()->findChild<QComboBox *>(QStringLiteral("filterStringCriterion"));

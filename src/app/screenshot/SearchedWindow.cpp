@@ -18,15 +18,20 @@ void settle(int ms)
 Dupes *searchedWindow(Settings &settings, DetectionMode mode, const QStringList &locations, const QString &attribute,
                       QSize size)
 {
+    SearchRequest request;
+    request.searchInFolderURLs = locations;
+    request.detectionMode = mode;
+    request.spotlightAttribute = attribute;
+    return searchedWindow(settings, request, size);
+}
+
+Dupes *searchedWindow(Settings &settings, const SearchRequest &request, QSize size)
+{
     auto *dupes = new Dupes(settings);
     dupes->setAttribute(Qt::WA_DeleteOnClose, false);
     if (size.isValid())
         dupes->resize(size);
     dupes->show();
-    SearchRequest request;
-    request.searchInFolderURLs = locations;
-    request.detectionMode = mode;
-    request.spotlightAttribute = attribute;
     QEventLoop loop;
     QObject::connect(dupes, &Dupes::finishedSearching, &loop, &QEventLoop::quit);
     dupes->searchInFolderURLs(request);

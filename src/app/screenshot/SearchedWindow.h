@@ -17,6 +17,8 @@ void settle(int ms);
 // search of `locations` in `mode` finished.
 Dupes *searchedWindow(Settings &settings, DetectionMode mode, const QStringList &locations,
                       const QString &attribute = {}, QSize size = {});
+// The same for a request of any options.
+Dupes *searchedWindow(Settings &settings, const SearchRequest &request, QSize size = {});
 
 // Selects one row of the top list and gives that list the focus.
 void selectRow(Dupes *dupes, int row);

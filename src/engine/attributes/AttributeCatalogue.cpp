@@ -41,12 +41,34 @@ AttributeRecord recordFromVariant(const QVariant &value)
             map.value(QStringLiteral("type")).toInt()};
 }
 
+// The shipped schema is English; its texts are listed for the translators in CatalogueTexts.cpp.
+QString translatedSchemaText(const QString &text)
+{
+    return text.isEmpty() ? text
+                          : QCoreApplication::translate("AttributeCatalogue", text.toUtf8().constData());
+}
+
+AttributeRecord translatedSchemaRecord(AttributeRecord record)
+{
+    record.name = translatedSchemaText(record.name);
+    record.description = translatedSchemaText(record.description);
+    return record;
+}
+
+AttributeRecords translatedSchemaRecords(const AttributeRecords &records)
+{
+    AttributeRecords translated;
+    for (auto it = records.begin(); it != records.end(); ++it)
+        translated.insert(it.key(), translatedSchemaRecord(it.value()));
+    return translated;
+}
+
 } // namespace
 
 AttributeCatalogue::AttributeCatalogue(const AttributeSchema &schema, SettingsStore &settings,
                                        bool declareAestheticScore)
     : m_schema(schema), m_settings(settings), m_declareAestheticScore(declareAestheticScore),
-      m_system(schema.attributes())
+      m_system(translatedSchemaRecords(schema.attributes()))
 {
     const std::pair<const char *, AttributeRecord> additions[] = {
         {"kMDItemDownloadedDate",
@@ -154,7 +176,7 @@ std::optional<AttributeRecords> AttributeCatalogue::attributesForFilenameExtensi
         const auto found = m_schema.attributes().find(key);
         const AttributeRecord record = found != m_schema.attributes().end() ? *found : AttributeRecord();
         if (filterEmptyName && (record.name.isEmpty() || record.description.isEmpty())) continue;
-        records.insert(key, record);
+        records.insert(key, translatedSchemaRecord(record));
     }
     return records;
 }

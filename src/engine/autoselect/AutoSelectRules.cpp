@@ -224,6 +224,20 @@ void automaticallySelectHavingTag(AutoSelection &selection, bool exceptHaving, c
         selection.skip(item);
 }
 
+void automaticallySelectContainedFolders(AutoSelection &selection, const QList<ResultItem *> &from,
+                                         qsizetype first, qsizetype last)
+{
+    ResultItem *contained = nullptr, *container = nullptr;
+    for (qsizetype i = first; i <= last; ++i) {
+        if (from[i]->has(ContainedFolder)) contained = from[i];
+        if (from[i]->has(ContainingFolder)) container = from[i];
+    }
+    // With either side gone, nothing is left to choose between.
+    if (!contained || !container || isGone(*contained) || isGone(*container)) return;
+    selection.select(contained);
+    selection.skip(container);
+}
+
 bool hasLosslessAudio(const QString &codecs)
 {
     // The decoder library's names; "pcm_…" covers WAV, AIFF and raw samples of every width.

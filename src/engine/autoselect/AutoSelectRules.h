@@ -74,6 +74,10 @@ void automaticallySelectKeepingLargestPicture(AutoSelection &selection, const QL
 // equals; a group where nothing tells them apart (no bit rate, no lossless codec) is left alone.
 void automaticallySelectKeepingBestRecording(AutoSelection &selection, const QList<ResultItem *> &from,
                                              qsizetype first, qsizetype last);
+// Groups of a contained folder and its container: the contained folder is selected, the
+// container kept. Other groups are left alone.
+void automaticallySelectContainedFolders(AutoSelection &selection, const QList<ResultItem *> &from,
+                                         qsizetype first, qsizetype last);
 // Whether the "codecs" text ("flac", "h264, pcm_s16le") names a lossless audio codec.
 bool hasLosslessAudio(const QString &codecs);
 

@@ -31,6 +31,7 @@ QVariantMap ruleSettings(const AutoSelectSettings &s)
     case SameFolderSameName:
     case LargestPicture:
     case BestRecording:
+    case ContainedFolders:
         return {{key(kChoice), s.choice}};
     case SameFolderWhateverName:
         return {{key(kChoice), s.choice}, {key(kOldest), s.oldest}, {key(kDate), s.date}};
@@ -74,6 +75,9 @@ void applyRule(AutoSelection &selection, const AutoSelectSettings &s, const QLis
     case BestRecording:
         automaticallySelectKeepingBestRecording(selection, from, first, last);
         break;
+    case ContainedFolders:
+        automaticallySelectContainedFolders(selection, from, first, last);
+        break;
     default:
         break;
     }
@@ -81,7 +85,7 @@ void applyRule(AutoSelection &selection, const AutoSelectSettings &s, const QLis
 
 } // namespace
 
-bool autoSelectRuleOffered(int rule, DetectionMode mode)
+bool autoSelectRuleOffered(int rule, DetectionMode mode, bool containedFolders)
 {
     switch (rule) {
     case SameFolderSameName:
@@ -93,14 +97,16 @@ bool autoSelectRuleOffered(int rule, DetectionMode mode)
         return mode == DetectionMode::SimilarImages;
     case BestRecording:
         return mode == DetectionMode::SimilarAudio || mode == DetectionMode::Duration;
+    case ContainedFolders:
+        return mode == DetectionMode::Content && containedFolders;
     default:
         return false;
     }
 }
 
-int autoSelectInitialRule(std::optional<int> storedChoice, DetectionMode mode)
+int autoSelectInitialRule(std::optional<int> storedChoice, DetectionMode mode, bool containedFolders)
 {
-    if (storedChoice && autoSelectRuleOffered(*storedChoice, mode)) return *storedChoice;
+    if (storedChoice && autoSelectRuleOffered(*storedChoice, mode, containedFolders)) return *storedChoice;
     switch (mode) {
     case DetectionMode::SimilarImages:
         return LargestPicture;

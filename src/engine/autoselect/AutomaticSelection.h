@@ -18,13 +18,15 @@ enum AutoSelectRule : int {
     ByTag = 3,
     LargestPicture = 4, // keep the picture of the most pixels, then the largest file
     BestRecording = 5,  // keep the highest bit rate, then a lossless format
+    ContainedFolders = 6, // select each contained folder, keep its container
 };
 
 // Whether the sheet offers the rule after a search in that mode: the picture rule after
-// similar pictures, the recording rule after same recordings and durations; the others always.
-bool autoSelectRuleOffered(int rule, DetectionMode mode);
+// similar pictures, the recording rule after same recordings and durations, the contained
+// folders rule after a search for them; the others always.
+bool autoSelectRuleOffered(int rule, DetectionMode mode, bool containedFolders = false);
 // The rule the sheet starts with: the stored one where it is offered, else the mode's own.
-int autoSelectInitialRule(std::optional<int> storedChoice, DetectionMode mode);
+int autoSelectInitialRule(std::optional<int> storedChoice, DetectionMode mode, bool containedFolders = false);
 
 // The choices of the automatic selection, as the settings keep them.
 struct AutoSelectSettings {

@@ -47,13 +47,13 @@ Alert noClonableFileAlert()
 Alert cloneConfirmationAlert(const CloneCounts &c)
 {
     QString what;
-    if (c.replaceDuplicates == 1)
-        what = c.singleFilenameToReplace.isEmpty()
-                   ? CloneAlertsText::tr("1 duplicate among the selected files")
-                   : CloneAlertsText::tr("“%1”").arg(c.singleFilenameToReplace);
+    if (c.replaceDuplicates == 1 && !c.singleFilenameToReplace.isEmpty())
+        what = CloneAlertsText::tr("“%1”").arg(c.singleFilenameToReplace);
     else
-        what = (c.onAllFoundFiles ? CloneAlertsText::tr("%1 duplicates among all found files")
-                                  : CloneAlertsText::tr("%1 duplicates among the selected files"))
+        what = (c.onAllFoundFiles ? CloneAlertsText::tr("%1 duplicate(s) among all found files", nullptr,
+                                                        c.replaceDuplicates)
+                                  : CloneAlertsText::tr("%1 duplicate(s) among the selected files", nullptr,
+                                                        c.replaceDuplicates))
                    .arg(formatCount(c.replaceDuplicates));
     const QString clones =
         c.replaceDuplicates == 1 ? CloneAlertsText::tr("a clone") : CloneAlertsText::tr("clones");

@@ -208,6 +208,7 @@ QString cloneDuplicate(const ResultItem &reference, ResultItem &duplicate, bool 
                        const CloneSteps &steps, Journal *journal)
 {
     if (QString changed = changedSinceSearch(duplicate); !changed.isEmpty()) return changed;
+    if (QString problem = replacementProblem(duplicate, reference); !problem.isEmpty()) return problem;
     if (QString problem = keptCopyProblem(duplicate, reference, false); !problem.isEmpty()) return problem;
     if (!duplicate.has(IsFolder)) {
         const int shared = steps.dedupe(reference.path, duplicate.path);

@@ -147,6 +147,8 @@ QString whyNotSafe(DeleteKind kind, int mode, const ResultItem &item, const Resu
 {
     if (QString changed = changedSinceSearch(item); !changed.isEmpty()) return changed;
     const bool replacing = reference && mode >= ReplaceWithAlias && mode <= ReplaceWithClone;
+    if (replacing)
+        if (QString problem = replacementProblem(item, *reference); !problem.isEmpty()) return problem;
     if (reference) return keptCopyProblem(item, *reference, comparesBytes(kind, replacing, item, *reference));
     QString firstProblem;
     for (const ResultItem *other : duplicatesFor ? duplicatesFor(item) : QList<ResultItem *>{}) {

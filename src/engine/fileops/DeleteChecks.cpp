@@ -193,8 +193,8 @@ std::optional<Alert> trashFailureAlert(const DeleteReport &report, const QList<R
     const QString message = targets.size() == 1
                                 ? DeleteChecksText::tr("“%1” could not be moved to the Trash.")
                                       .arg(displayName(targets.first()->path))
-                                : DeleteChecksText::tr("%1 files could not be moved to the Trash.")
-                                      .arg(formatCount(report.removalFailures));
+                                : DeleteChecksText::tr("%Ln file(s) could not be moved to the Trash.",
+                                                       nullptr, report.removalFailures);
     return Alert{message,
                  withRefused(report.lastErrorText, report),
                  {DeleteChecksText::tr("OK"), DeleteChecksText::tr("Delete Immediately…")},
@@ -209,8 +209,8 @@ std::optional<Alert> deletionFailureAlert(const DeleteReport &report, const QLis
     const QString message = targets.size() == 1
                                 ? DeleteChecksText::tr("“%1” could not be deleted immediately.")
                                       .arg(displayName(targets.first()->path))
-                                : DeleteChecksText::tr("%1 files could not be deleted immediately.")
-                                      .arg(formatCount(report.removalFailures));
+                                : DeleteChecksText::tr("%Ln file(s) could not be deleted immediately.",
+                                                       nullptr, report.removalFailures);
     return Alert{message, withRefused({}, report), {DeleteChecksText::tr("OK")}};
 }
 

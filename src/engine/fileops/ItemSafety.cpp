@@ -157,6 +157,16 @@ QString changedSinceSearch(const ResultItem &item)
     return {};
 }
 
+QString replacementProblem(const ResultItem &item, const ResultItem &kept)
+{
+    if (!item.has(ContainedFolder) && !item.has(ContainingFolder) && !kept.has(ContainedFolder) &&
+        !kept.has(ContainingFolder))
+        return {};
+    return ItemSafetyText::tr("“%1” holds copies of files of “%2” under other names: it can be moved to "
+                              "the trash or deleted, not replaced by a link or clone")
+        .arg(shown(item.path), shown(kept.path));
+}
+
 bool sameFoundContent(const ResultItem &a, const ResultItem &b)
 {
     return a.has(HasDigest) && b.has(HasDigest) && a.digest == b.digest;

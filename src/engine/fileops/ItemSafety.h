@@ -22,6 +22,10 @@ QString changedSinceSearch(const ResultItem &item);
 // also be equal (for folders, their whole trees). Empty when `item` may go.
 QString keptCopyProblem(const ResultItem &item, const ResultItem &kept, bool compareBytes);
 
+// Why `item` cannot be replaced by a link or clone of `kept`: a contained folder holds the
+// same files as part of its container, not the same tree. Empty when it can.
+QString replacementProblem(const ResultItem &item, const ResultItem &kept);
+
 // Whether two items were found to have the same content: equal digests, of files or folders.
 bool sameFoundContent(const ResultItem &a, const ResultItem &b);
 

@@ -278,20 +278,11 @@ QString batchState(const JournalBatch &batch)
                                                               : UndoText::tr("partly undone");
 }
 
-namespace
-{
-
-QString fileCount(int n)
-{
-    return n == 1 ? UndoText::tr("1 file") : UndoText::tr("%1 files").arg(n);
-}
-
-} // namespace
-
 QString historyEntry(const JournalBatch &batch)
 {
     const QString when = QLocale().toString(QDateTime::fromSecsSinceEpoch(batch.started), QLocale::ShortFormat);
-    return QStringLiteral("%1 · %2 · %3").arg(describeBatch(batch), fileCount(batch.files), when);
+    return QStringLiteral("%1 · %2 · %3")
+        .arg(describeBatch(batch), UndoText::tr("%Ln file(s)", nullptr, batch.files), when);
 }
 
 UndoSummary summarizeUndo(const JournalBatch &batch, const UndoReport &report)
@@ -308,18 +299,14 @@ UndoSummary summarizeUndo(const JournalBatch &batch, const UndoReport &report)
     summary.title = summary.complete ? UndoText::tr("“%1” was undone").arg(what)
                                      : UndoText::tr("“%1” was undone in part").arg(what);
     QStringList parts;
-    parts << (given == 1 ? UndoText::tr("1 file was given back.")
-                         : UndoText::tr("%1 files were given back.").arg(given));
+    parts << UndoText::tr("%Ln file(s) (was|were) given back.", nullptr, given);
     if (!report.refused.isEmpty())
-        parts << (report.refused.size() == 1
-                      ? UndoText::tr("1 file was left as it is, because it changed since.")
-                      : UndoText::tr("%1 files were left as they are, because they changed since.")
-                            .arg(report.refused.size()));
+        parts << UndoText::tr(
+            "%Ln file(s) (was|were) left as (it is|they are), because (it|they) changed since.", nullptr,
+            int(report.refused.size()));
     if (!report.deletedForGood.isEmpty())
-        parts << (report.deletedForGood.size() == 1
-                      ? UndoText::tr("1 file was deleted for good and cannot be given back.")
-                      : UndoText::tr("%1 files were deleted for good and cannot be given back.")
-                            .arg(report.deletedForGood.size()));
+        parts << UndoText::tr("%Ln file(s) (was|were) deleted for good and cannot be given back.", nullptr,
+                              int(report.deletedForGood.size()));
     summary.message = parts.join(u' ');
     QStringList details = report.refused;
     for (const QString &path : report.deletedForGood)

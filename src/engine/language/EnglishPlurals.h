@@ -17,7 +17,8 @@ public:
     bool isEmpty() const override { return false; }
 };
 
-// The form of `text` for `n`: every "(s)" dropped for one, made "s" otherwise.
+// The form of `text` for `n`: every "(s)" dropped for one, made "s" otherwise, and of every
+// choice "(singular|plural)" such as "(was|were)" the first for one, the second otherwise.
 QString englishPluralForm(const QString &text, int n);
 
 } // namespace selfsame

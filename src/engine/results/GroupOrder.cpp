@@ -23,6 +23,19 @@ int compareDigestsOf(const ResultItem &a, const ResultItem &b)
     return compareDigests(a.digest, b.digest);
 }
 
+// A contained folder and its container share no content digest: their group number is their
+// key, and they follow every group of equal content.
+int containedGroupKey(const ResultItem &item)
+{
+    return item.has(ContainedFolder) || item.has(ContainingFolder) ? item.group : -1;
+}
+
+int compareContentKeys(const ResultItem &a, const ResultItem &b)
+{
+    if (const int byGroup = order(containedGroupKey(a), containedGroupKey(b))) return byGroup;
+    return compareDigestsOf(a, b);
+}
+
 bool isNumber(const QVariant &v)
 {
     switch (v.typeId()) {
@@ -49,10 +62,12 @@ QVariant shifted(const QVariant &value, double by)
 
 // The first bytes of a digest in their order, ties decided by the whole digests.
 struct DigestPrefix {
+    int containedGroup;
     quint64 prefix;
     const ResultItem *item;
     bool operator<(const DigestPrefix &other) const
     {
+        if (containedGroup != other.containedGroup) return containedGroup < other.containedGroup;
         if (prefix != other.prefix) return prefix < other.prefix;
         return compareDigestsOf(*item, *other.item) < 0;
     }
@@ -106,7 +121,7 @@ int GroupOrder::compare(const ResultItem &a, const ResultItem &b) const
 {
     switch (m_mode) {
     case DetectionMode::Content:
-        return compareDigestsOf(a, b);
+        return compareContentKeys(a, b);
     case DetectionMode::Duration:
         return order(a.duration(), b.duration());
     case DetectionMode::FileName:
@@ -128,7 +143,9 @@ void GroupOrder::sort(QList<ResultItem *> &items) const
     // miss per item and comparison, and the names of the file-name mode cost regular expressions.
     switch (m_mode) {
     case DetectionMode::Content:
-        sortByKey(items, [](const ResultItem *item) { return DigestPrefix{digestPrefix(*item), item}; });
+        sortByKey(items, [](const ResultItem *item) {
+            return DigestPrefix{containedGroupKey(*item), digestPrefix(*item), item};
+        });
         break;
     case DetectionMode::Duration:
         sortByKey(items, [](const ResultItem *item) { return item->duration(); });

@@ -136,6 +136,9 @@ QString cellText(const ResultItem &item, const QString &column, const QString &s
     }
     if (column == QLatin1String("path")) return item.parentPath();
     if (column == QLatin1String("extension")) {
+        // The two sides of a contained group tell themselves apart in every list.
+        if (item.has(ContainedFolder)) return DupesText::tr("contained");
+        if (item.has(ContainingFolder)) return DupesText::tr("container");
         if (item.has(IsFolder) && !item.has(IsPackage)) return DupesText::tr("folder");
         return pathExtension(item.nameView()).toString().toLower();
     }
@@ -153,7 +156,12 @@ QString cellText(const ResultItem &item, const QString &column, const QString &s
     if (column == QLatin1String("tags")) return item.tagList().join(u' ');
     if (column == QLatin1String("dupes")) return formatCount(item.dupes);
     if (column == QLatin1String("similarity")) return similarityText(item.similarity());
-    if (column == QLatin1String("clone")) return cloneStatusWord(item.clone);
+    if (column == QLatin1String("clone")) {
+        // Beside the other side of a contained group, selected above.
+        if (item.clone == PlainDuplicate && item.has(ContainingFolder)) return DupesText::tr("holds its files");
+        if (item.clone == PlainDuplicate && item.has(ContainedFolder)) return DupesText::tr("contained in it");
+        return cloneStatusWord(item.clone);
+    }
     return {};
 }
 

@@ -13,12 +13,14 @@ struct GroupStorage {
     qsizetype copies = 0;
     qint64 total = 0;
     qint64 largest = 0;
+    qint64 contained = -1; // a contained folder's: all of it goes, whatever its container's size
     QSet<QPair<quint64, quint64>> inodes;
     QSet<QByteArray> allocations;
 
     void add(const ResultItem &item)
     {
         ++copies;
+        if (item.has(ContainedFolder)) contained = item.physicalSize;
         const QPair<quint64, quint64> inode{item.device, item.inode};
         const bool knownInode = item.inode != 0 && inodes.contains(inode);
         const QByteArray allocation = item.has(HasAllocDigest)
@@ -53,7 +55,7 @@ ReclaimTotals reclaimTotals(const QList<ResultItem *> &items)
     for (const GroupStorage &group : std::as_const(groups)) {
         if (group.copies < 2) continue;
         ++totals.groups;
-        totals.reclaimable += group.total - group.largest;
+        totals.reclaimable += group.contained >= 0 ? group.contained : group.total - group.largest;
     }
     return totals;
 }

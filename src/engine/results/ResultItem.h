@@ -24,6 +24,13 @@ inline AllocationKey allocationKey(const Digest &allocDigest)
     std::copy_n(allocDigest.begin(), key.size(), key.begin());
     return key;
 }
+// The key where a whole digest is stored (the digest cache): zero past its 128 bits.
+inline Digest paddedDigest(const AllocationKey &key)
+{
+    Digest digest{};
+    std::copy(key.begin(), key.end(), digest.begin());
+    return digest;
+}
 
 // Dates are whole seconds since 1970; this marks an absent date.
 inline constexpr qint64 kNoDate = std::numeric_limits<qint64>::min();
@@ -40,6 +47,10 @@ enum ItemFlag : quint16 {
     Deleted = 1 << 8,
     // Gone or changed since the search, as found when saved results were opened again.
     Missing = 1 << 9,
+    // The two members of a group of kind "contained": a folder whose files all have copies in
+    // another searched folder, and that other folder.
+    ContainedFolder = 1 << 10,
+    ContainingFolder = 1 << 11,
 };
 
 // The status of a bottom-list row relative to the item selected in the top list.

@@ -229,8 +229,12 @@ Content contentOf(const ResultModel &model)
     std::map<int, QList<const ResultItem *>> byGroup;
     for (const ResultItem *item : model.mainItems() + model.mainItemsHidden())
         byGroup[item->group].append(item);
-    for (auto &[group, members] : byGroup)
+    for (auto &[group, members] : byGroup) {
+        // A contained folder comes before its container, whatever the list's order.
+        std::stable_partition(members.begin(), members.end(),
+                              [](const ResultItem *item) { return item->has(ContainedFolder); });
         content.groups.append(std::move(members));
+    }
     content.topList.emplace(model.mainItems().begin(), model.mainItems().end());
     content.topSort = model.sortDescriptor(ResultList::Top);
     content.hiddenByAutomaticSelection = model.hiddenBecauseOfAutomaticallySelect();
@@ -279,6 +283,8 @@ void write(const Content &content, const std::function<void(const QByteArray &)>
         json.newline();
         json.begin('{');
         json.field("group", group.first()->group);
+        if (group.first()->has(ContainedFolder))
+            json.field("kind", QByteArrayLiteral("contained"));
         json.field("dupes", group.first()->dupes);
         json.field("size", group.first()->size);
         json.key("items");
@@ -415,16 +421,30 @@ Loaded fromBytes(QByteArray bytes, const QString &name)
         }
         simdjson::dom::array members;
         if (membersValue->get(members)) return refused(json::kNotValid, "items");
+        // A folder and the container of its files' copies, in that order; kinds that this
+        // version does not know read as plain groups.
+        bool contained = false;
+        if (const std::optional<json::Element> kindValue = json::member(group, "kind")) {
+            const std::optional<QString> kind = json::string(*kindValue);
+            if (!kind) return refused(json::kNotValid, "kind");
+            contained = *kind == QLatin1String("contained");
+            if (contained && members.size() != 2) return refused(json::kNotValid, "kind");
+        }
         if (numbers.contains(number))
             return {std::nullopt,
                     damaged(name, ResultsFileText::tr("two groups share the number %1").arg(number))};
         numbers.insert(number);
+        ItemFlag role = ContainedFolder;
         for (json::Element member : members) {
             simdjson::dom::object object;
             ResultItem item;
             if (member.get(object) || !readItem(object, item, &why)) return {std::nullopt, damaged(name, why)};
             item.group = int(number);
             item.dupes = int(dupes);
+            if (contained) {
+                item.set(role);
+                role = ContainingFolder;
+            }
             qint64 row = -1;
             const std::optional<json::Element> rowValue = json::member(member, "row");
             if (rowValue) {

@@ -164,6 +164,7 @@ void writeRequest(JsonWriter &json, const SearchRequest &request)
     json.field("filenameIgnoreExtension", request.filenameIgnoreExtension);
     json.field("similarity", qint64(request.similarity));
     json.field("distinguishGreyscale", request.distinguishGreyscale);
+    json.field("containedFolders", request.containedFolders);
     json.key("filenameIgnoreCommonSuffixRegexes");
     if (request.filenameIgnoreCommonSuffixRegexes)
         writeExpressions(json, *request.filenameIgnoreCommonSuffixRegexes);
@@ -201,6 +202,7 @@ std::optional<SearchRequest> readRequest(json::Element object, QString *error)
     if (ok && r.contains("similarity")) ok = r.wholeNumber("similarity", 0, 100, similarity);
     request.similarity = int(similarity);
     if (ok && r.contains("distinguishGreyscale")) ok = r.flag("distinguishGreyscale", request.distinguishGreyscale);
+    if (ok && r.contains("containedFolders")) ok = r.flag("containedFolders", request.containedFolders);
     if (ok && r.has("filenameIgnoreCommonSuffixRegexes"))
         ok = r.expressions("filenameIgnoreCommonSuffixRegexes", request.filenameIgnoreCommonSuffixRegexes.emplace());
     if (!ok) {

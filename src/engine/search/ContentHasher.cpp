@@ -3,6 +3,7 @@
 #include "results/FileAttributes.h"
 #include "search/ContentHasherWorker.h"
 #include "search/Digest.h"
+#include "search/ReadingThreads.h"
 
 #include <QCoreApplication>
 
@@ -27,9 +28,6 @@ struct InodeKey {
 struct InodeHash {
     std::size_t operator()(const InodeKey &k) const { return std::hash<quint64>()(k.inode * 31 + k.device); }
 };
-
-// Files read side by side keep a descriptor open each; larger buckets are hashed one by one.
-constexpr std::size_t kMaxOpenFiles = 128;
 
 } // namespace
 
@@ -96,7 +94,7 @@ template <typename Job> void ContentHasher::parallel(std::size_t count, Job job)
         total.unreadableFiles += worker.statistics.unreadableFiles;
         total.filesFromCache += worker.statistics.filesFromCache;
     };
-    const std::size_t threads = std::min<std::size_t>(std::clamp(std::thread::hardware_concurrency(), 1u, 16u),
+    const std::size_t threads = std::min<std::size_t>(readingThreadsForFiles(),
                                                       std::max<std::size_t>(count, 1));
     std::vector<std::thread> pool;
     for (std::size_t t = 1; t < threads; ++t)
@@ -238,7 +236,7 @@ void ContentHasher::hashSampled(ContentNodes &nodes, const std::vector<std::size
     if (files.empty())
         return;
     // Files stay open from their sample to their digest, unless there are too many of one size.
-    const bool keepOpen = files.size() <= kMaxOpenFiles;
+    const bool keepOpen = files.size() <= kMaxOpenFilesPerReader;
     enum Known { Unknown, ByDigest, ByFingerprint };
     struct Sample {
         quint64 key;
@@ -384,7 +382,7 @@ void ContentHasher::hashBucket(ContentNodes &nodes, const std::vector<std::size_
     // Small files that fit in memory together are read whole; others chunk by chunk, all open at once.
     const bool oneChunk =
         size - start <= qint64(worker.buffer.size()) && qint64(count) * (size - start) <= kMaxBucketBytes;
-    if (!oneChunk && count > kMaxOpenFiles) {
+    if (!oneChunk && count > kMaxOpenFilesPerReader) {
         for (std::size_t node : bucket)
             hashAlone(nodes, node, worker);
         return;
@@ -404,7 +402,7 @@ void ContentHasher::hashBucket(ContentNodes &nodes, const std::vector<std::size_
     char *const space = worker.chunkSpace(count * chunk);
     auto bytesOf = [&](std::size_t m) { return space + m * chunk; };
     // Files too many to keep open are read at once and closed, the descriptors being scarce.
-    const bool readAtOnce = oneChunk && count > kMaxOpenFiles;
+    const bool readAtOnce = oneChunk && count > kMaxOpenFilesPerReader;
     for (std::size_t k = 0; k < count; ++k) {
         const std::size_t node = bucket[k];
         int fd = openFiles.empty() || openFiles[k] < 0 ? m_folders.openFile(m_entries[nodes[node].entry])

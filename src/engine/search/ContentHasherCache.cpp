@@ -115,7 +115,7 @@ void ContentHasher::recordLearnt(const ContentNodes &nodes, const std::vector<st
         if (placed != worker.placed.end() && placed->first == i) {
             value.attributes.emplace();
             if (nodes[i].has(HasAllocDigest))
-                value.attributes->allocDigest = nodes[i].allocDigest();
+                value.attributes->allocDigest = paddedDigest(nodes[i].allocDigest());
             value.attributes->tags = placed->second;
         }
         if (known && known->digest) {

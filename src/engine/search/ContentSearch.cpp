@@ -1,5 +1,6 @@
 #include "search/ContentSearch.h"
 
+#include "containment/ContainedGroups.h"
 #include "names/FileNames.h"
 #include "results/FileAttributes.h"
 #include "search/Digest.h"
@@ -44,7 +45,8 @@ bool liesInside(const std::vector<std::string> &folders, const std::string &path
 
 ContentSearch::ContentSearch(const SearchRequest &request, EnumerationResult &enumeration,
                              RunContext &context)
-    : m_request(request), m_enumeration(enumeration), m_entries(enumeration.entries), m_context(context)
+    : m_request(request), m_enumeration(enumeration), m_entries(enumeration.entries), m_context(context),
+      m_foldersNotWhole(enumeration.foldersNotWhole)
 {
 }
 
@@ -56,7 +58,7 @@ QList<ResultItem> ContentSearch::run()
         m_context.statistics.stopped = true;
         return {};
     }
-    const int steps = stepCount();
+    const int steps = stepCount(m_request);
     m_context.beginStep(2, steps, true);
     m_context.status([] { return SearchStatusText::tr("Sorting files…"); }, -1);
     const std::vector<SizeRun> runs = sortAndDropRepeats();
@@ -85,10 +87,21 @@ QList<ResultItem> ContentSearch::run()
     m_context.status([] { return SearchStatusText::tr("Comparing file hashes…"); }, 0);
     std::vector<Member> members = compareDigests();
 
-    if (m_request.compareFolders && members.size() >= 2) {
-        m_context.beginStep(6, steps, true, true);
-        m_context.status([] { return SearchStatusText::tr("Filtering out contents of duplicate folders…"); },
-                         0);
+    std::vector<Containment> contained;
+    if (m_request.containedFolders) {
+        m_context.beginStep(m_request.compareFolders ? 6 : 5, steps, true, true);
+        m_context.status([] { return SearchStatusText::tr("Finding folders contained in others…"); }, 0);
+        contained = findContainedFolders(members);
+        // Their groups stand for everything inside them, as a duplicate folder's does.
+        for (const Containment &found : contained)
+            m_duplicateFolders.push_back(found.contained + '/');
+    }
+    if ((m_request.compareFolders || !contained.empty()) && members.size() >= 2) {
+        if (m_request.compareFolders) {
+            m_context.beginStep(steps, steps, true, true);
+            m_context.status(
+                [] { return SearchStatusText::tr("Filtering out contents of duplicate folders…"); }, 0);
+        }
         members = filterDuplicateFolderContents(members);
     }
     // Empty files and folders are never worth listing, and links only count inside folders.
@@ -96,7 +109,13 @@ QList<ResultItem> ContentSearch::run()
     std::erase_if(members, [&](const Member &m) {
         return m_nodes[m.node].size == 0 || m_nodes[m.node].has(IsSymlink);
     });
-    return makeItems(members);
+    const int firstContainedGroup =
+        members.empty() ? 0 : std::max_element(members.begin(), members.end(), [](const Member &a, const Member &b) {
+                                  return a.group < b.group;
+                              })->group + 1;
+    QList<ResultItem> items = makeItems(members);
+    items.append(containedGroupItems(contained, firstContainedGroup));
+    return items;
 }
 
 std::vector<SizeRun> ContentSearch::sortAndDropRepeats()
@@ -135,6 +154,8 @@ std::vector<SizeRun> ContentSearch::sortAndDropRepeats()
             candidates += end - begin;
     }
     m_nodes.reserve(candidates);
+    if (m_request.containedFolders)
+        m_filesWithoutCopy.assign(m_entries.folderCount(), {});
     for (std::size_t begin = 0; begin < order.size();) {
         std::size_t end = begin + 1;
         while (end < order.size() && m_entries[order[end]].size == m_entries[order[begin]].size)
@@ -153,6 +174,13 @@ std::vector<SizeRun> ContentSearch::sortAndDropRepeats()
             }
             if (end - begin >= 2)
                 runs.push_back({first, m_nodes.size()});
+        } else if (m_request.containedFolders && m_entries[order[begin]].size > 0) {
+            // A file alone in its size has no copy: no folder around it can be contained.
+            const FileEntry &entry = m_entries[order[begin]];
+            FolderSums &sums = m_filesWithoutCopy[entry.folder];
+            sums.size += entry.size;
+            sums.physicalSize += entry.physicalSize;
+            ++sums.files;
         }
         begin = end;
     }
@@ -206,7 +234,7 @@ void ContentSearch::hashFolders()
             continue;
         if (k + 1 == n || !m_paths[byPath[k + 1]].starts_with(m_paths[byPath[k]])) {
             node.size = 0;
-            node.itemCount = 0;
+            node.setItemCount(0);
             node.setDigest(emptyFolderDigest());
         }
     }
@@ -240,13 +268,13 @@ void ContentSearch::hashFolders()
                     allocation.update(child.allocDigest().data(), child.allocDigest().size());
                 size += child.size;
                 physicalSize += child.physicalSize;
-                itemCount += child.has(IsFolder) ? child.itemCount : 1;
+                itemCount += child.has(IsFolder) ? child.itemCount() : 1;
                 inherited |= child.flags & (ReadOnly | OtherOwner);
             }
             ContentNode &folder = m_nodes[*found];
             folder.size = size;
             folder.physicalSize = physicalSize;
-            folder.itemCount = itemCount;
+            folder.setItemCount(itemCount);
             folder.flags |= inherited;
             folder.setDigest(contents.final());
             folder.setAllocDigest(allocation.final());
@@ -265,8 +293,8 @@ std::vector<ContentSearch::Member> ContentSearch::compareDigests()
         const ContentNode &na = m_nodes[a], &nb = m_nodes[b];
         if (na.size != nb.size)
             return na.size > nb.size;
-        if (na.itemCount != nb.itemCount)
-            return na.itemCount > nb.itemCount;
+        if (na.itemCount() != nb.itemCount())
+            return na.itemCount() > nb.itemCount();
         return selfsame::compareDigests(na.digest(), nb.digest()) < 0;
     });
 
@@ -299,6 +327,29 @@ std::vector<ContentSearch::Member> ContentSearch::compareDigests()
     return members;
 }
 
+std::vector<Containment> ContentSearch::findContainedFolders(const std::vector<Member> &members)
+{
+    ContainmentInput input;
+    input.folderPaths.reserve(m_entries.folderCount());
+    for (quint32 folder = 0; folder < m_entries.folderCount(); ++folder)
+        input.folderPaths.emplace_back(m_entries.folderPath(folder));
+    // A file's group names its content: a file in none has no copy.
+    std::vector<qint32> groupOf(m_nodes.size(), -1);
+    for (const Member &member : members)
+        groupOf[member.node] = member.group;
+    for (std::size_t i = 0; i < m_nodes.size(); ++i) {
+        const ContentNode &node = m_nodes[i];
+        if (node.size > 0 && !node.has(IsFolder) && !node.has(IsSymlink))
+            input.files.push_back({m_entries[node.entry].folder, groupOf[i], node.size, node.physicalSize});
+    }
+    input.foldersNotWhole = std::move(m_foldersNotWhole);
+    input.filesWithoutCopy = std::move(m_filesWithoutCopy);
+    input.accountedFor = m_duplicateFolders;
+    return selfsame::findContainedFolders(input, [&](double progress) {
+        m_context.status([] { return SearchStatusText::tr("Finding folders contained in others…"); }, progress);
+    });
+}
+
 std::vector<ContentSearch::Member> ContentSearch::filterDuplicateFolderContents(const std::vector<Member> &members)
 {
     const std::vector<std::string> folders = outermost(m_duplicateFolders);
@@ -307,7 +358,9 @@ std::vector<ContentSearch::Member> ContentSearch::filterDuplicateFolderContents(
     for (std::size_t i = 0; i < members.size(); ++i) {
         m_context.status([] { return SearchStatusText::tr("Filtering out contents of duplicate folders…"); },
                          double(i) / double(members.size()));
-        std::string path = nodePath(members[i].node);
+        // Without folder comparison no node's path is kept: the members' are made one at a time.
+        std::string path = m_paths.empty() ? m_entries.path(m_entries[m_nodes[members[i].node].entry])
+                                           : nodePath(members[i].node);
         if (m_nodes[members[i].node].has(IsFolder))
             path.push_back('/');
         if (!liesInside(folders, path) && !(m_request.skipHiddenFiles && liesInside(packages, path)))
@@ -374,8 +427,8 @@ QList<ResultItem> ContentSearch::makeItems(const std::vector<Member> &members)
         item.physicalSize = node.physicalSize;
         if (!node.has(IsFolder)) item.setTagList(std::move(tags[m]));
         item.digest = node.has(HasDigest) ? node.digest() : Digest{};
-        item.allocDigest = node.has(HasAllocDigest) ? allocationKey(node.allocDigest()) : AllocationKey{};
-        item.setItemCount(node.itemCount);
+        item.allocDigest = node.has(HasAllocDigest) ? node.allocDigest() : AllocationKey{};
+        item.setItemCount(node.itemCount());
         item.group = members[m].group;
         item.dupes = members[m].dupes;
         item.flags = node.flags;

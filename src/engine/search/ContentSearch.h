@@ -1,5 +1,6 @@
 #pragma once
 
+#include "containment/ContainedFolders.h"
 #include "results/ResultItem.h"
 #include "search/ContentHasher.h"
 #include "search/Enumerator.h"
@@ -22,10 +23,14 @@ public:
     // released once the result items are made from them.
     ContentSearch(const SearchRequest &request, EnumerationResult &enumeration, RunContext &context);
 
-    // Steps 2 to 6 of a content search, then the clean-up: the grouped items in group order.
+    // Steps 2 to the last of a content search, then the clean-up: the grouped items in group
+    // order, the groups of contained folders last.
     QList<ResultItem> run();
 
-    int stepCount() const { return m_request.compareFolders ? 6 : 4; }
+    static int stepCount(const SearchRequest &request)
+    {
+        return (request.compareFolders ? 6 : 4) + (request.containedFolders ? 1 : 0);
+    }
 
 private:
     struct Member {
@@ -37,6 +42,7 @@ private:
     std::vector<SizeRun> sortAndDropRepeats();
     void hashFolders();
     std::vector<Member> compareDigests();
+    std::vector<Containment> findContainedFolders(const std::vector<Member> &members);
     std::vector<Member> filterDuplicateFolderContents(const std::vector<Member> &members);
     QList<ResultItem> makeItems(const std::vector<Member> &members);
     const std::string &nodePath(std::size_t node);
@@ -50,6 +56,10 @@ private:
     ContentNodes m_nodes;
     std::vector<std::string> m_paths;       // full path of every node, with folder comparison only
     std::vector<std::string> m_duplicateFolders; // each with "/" appended
+    // With contained folders: the folders holding items not listed, and per folder the files
+    // alone in their size.
+    std::vector<quint32> m_foldersNotWhole;
+    std::vector<FolderSums> m_filesWithoutCopy;
     std::unordered_map<std::size_t, QStringList> m_tags; // user tags of the files that have any
 };
 

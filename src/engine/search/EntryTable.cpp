@@ -23,16 +23,16 @@ void EntryTable::add(FileEntry entry, std::string_view name)
 {
     entry.nameOffset = quint32(m_names.size());
     entry.nameLength = quint16(name.size());
-    m_names.append(name);
+    m_names.append(name.data(), name.size());
     m_entries.push_back(entry);
 }
 
 void EntryTable::append(const EntryBatch &batch)
 {
     const quint32 base = quint32(m_names.size());
-    m_names.append(batch.names);
+    m_names.append(batch.names.data(), batch.names.size());
     const std::size_t first = m_entries.size();
-    m_entries.insert(m_entries.end(), batch.entries.begin(), batch.entries.end());
+    m_entries.append(batch.entries.data(), batch.entries.size());
     for (std::size_t i = first; i < m_entries.size(); ++i)
         m_entries[i].nameOffset += base;
 }
@@ -41,8 +41,7 @@ void EntryTable::keepOnly(const std::vector<quint32> &ascending)
 {
     for (std::size_t k = 0; k < ascending.size(); ++k)
         m_entries[k] = m_entries[ascending[k]];
-    m_entries.resize(ascending.size());
-    releaseUnusedCapacity(m_entries);
+    m_entries.truncate(ascending.size());
 }
 
 void EntryTable::keepWithMetadata(std::vector<std::optional<ItemMetadata>> metadata)
@@ -55,7 +54,7 @@ void EntryTable::keepWithMetadata(std::vector<std::optional<ItemMetadata>> metad
         m_entries[kept++] = m_entries[i];
         m_metadata.push_back(std::move(*metadata[i]));
     }
-    m_entries.resize(kept);
+    m_entries.truncate(kept);
 }
 
 std::string EntryTable::path(quint32 folder, std::string_view name) const

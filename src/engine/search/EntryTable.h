@@ -3,7 +3,7 @@
 #include "names/FileNames.h"
 #include "results/ResultItem.h"
 #include "search/ItemMetadata.h"
-#include "search/LargeBlockAllocator.h"
+#include "search/MappedArray.h"
 
 #include <QString>
 #include <optional>
@@ -55,8 +55,8 @@ public:
     void keepWithMetadata(std::vector<std::optional<ItemMetadata>> metadata);
     void shrinkToFit()
     {
-        m_entries.shrink_to_fit();
-        m_names.shrink_to_fit();
+        m_entries.truncate(m_entries.size());
+        m_names.truncate(m_names.size());
         m_metadata.shrink_to_fit();
     }
 
@@ -88,8 +88,8 @@ public:
     int comparePaths(const FileEntry &a, const FileEntry &b) const;
 
 private:
-    LargeVector<FileEntry> m_entries;
-    LargeString m_names;
+    MappedArray<FileEntry> m_entries;
+    MappedArray<char> m_names;
     std::vector<ItemMetadata> m_metadata;
     std::vector<std::string> m_folders;
 };

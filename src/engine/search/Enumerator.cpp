@@ -2,6 +2,7 @@
 
 #include "names/FileNames.h"
 #include "search/AliasFiles.h"
+#include "search/ReadingThreads.h"
 #include "search/SearchState.h"
 
 #include <QDir>
@@ -101,6 +102,13 @@ bool isPseudoFileSystem(int dirfd)
     default:
         return false;
     }
+}
+
+// An empty file holds nothing that removing its folder could lose, filtered out or not.
+bool isEmptyFile(int dirfd, const char *name)
+{
+    struct stat st;
+    return fstatat(dirfd, name, &st, AT_SYMLINK_NOFOLLOW) == 0 && S_ISREG(st.st_mode) && st.st_size == 0;
 }
 
 std::string parentOf(const std::string &path)
@@ -329,6 +337,8 @@ void Enumerator::Walk::list(const Job &job)
         std::lock_guard lock(m_mutex);
         m_result.unreadableFolderPaths.push_back(path);
         m_result.foldersNotListed.push_back(std::move(path));
+        if (m_request.containedFolders)
+            m_result.foldersNotWhole.push_back(job.folder);
         return;
     }
     if (!m_owner.m_onlySizes.empty() && isPseudoFileSystem(dirfd)) {
@@ -341,6 +351,8 @@ void Enumerator::Walk::list(const Job &job)
         std::lock_guard lock(m_mutex);
         if (!m_listed.insert(access.id).second) {
             m_result.foldersNotListed.push_back(std::move(path));
+            if (m_request.containedFolders)
+                m_result.foldersNotWhole.push_back(job.folder);
             closedir(dir);
             return;
         }
@@ -350,24 +362,40 @@ void Enumerator::Walk::list(const Job &job)
     EntryBatch batch;
     std::vector<Child> children;
     std::vector<std::string> packages;
+    // Asked only until the first item left out: one is enough.
+    bool whole = true;
+    auto leftOut = [&](const char *name) {
+        if (m_request.containedFolders && whole && !isEmptyFile(dirfd, name))
+            whole = false;
+    };
     while (const dirent *d = readdir(dir)) {
         const std::string_view name(d->d_name);
         if (name == "." || name == "..")
             continue;
-        if (m_request.skipHiddenFiles && name.front() == '.')
+        if (m_request.skipHiddenFiles && name.front() == '.') {
+            leftOut(d->d_name);
             continue;
+        }
         if (aborted())
             break;
         if (singleFiles && std::find(singleFiles->begin(), singleFiles->end(), name) != singleFiles->end())
             continue;
+        const std::size_t listedBefore = batch.entries.size();
         const bool enter = visit(dirfd, access, job.folder, path, name, d->d_type == DT_DIR, d->d_type == DT_UNKNOWN,
                                  job.level + 1, true, batch, packages);
+        // A folder not entered, a link, or anything the filters dropped.
+        if (!enter && !(batch.entries.size() > listedBefore && batch.entries.back().isRegularFile()))
+            leftOut(d->d_name);
         if (enter)
             children.push_back({std::string(name), job.level + 1});
         if (batch.entries.size() >= 4096)
             flush(job.folder, batch, children, packages);
     }
     closedir(dir);
+    if (!whole) {
+        std::lock_guard lock(m_mutex);
+        m_result.foldersNotWhole.push_back(job.folder);
+    }
     flush(job.folder, batch, children, packages);
 }
 
@@ -434,7 +462,7 @@ EnumerationResult Enumerator::run()
     Walk walk(*this, result);
     for (const QString &location : m_request.searchInFolderURLs)
         walk.location(location);
-    const unsigned threads = std::clamp(std::thread::hardware_concurrency(), 1u, 8u);
+    const unsigned threads = readingThreads();
     std::vector<std::thread> pool;
     for (unsigned i = 1; i < threads; ++i)
         pool.emplace_back([&] { walk.work(); });

@@ -21,6 +21,10 @@ struct EnumerationResult {
     // Folders whose contents are not in the table: unreadable, or listed already through
     // another path (a bind mount, overlapping locations). They look empty but are not.
     std::vector<std::string> foldersNotListed;
+    // With contained folders only: folders (table indices) that hold something the table
+    // lacks — an item filtered out, a folder not entered or not listed. Removing one of them
+    // would lose more than its listed files, so none can count as contained in another.
+    std::vector<quint32> foldersNotWhole;
     qint64 startedNs = 0;               // wall clock when the walk began
 };
 

@@ -1,6 +1,7 @@
 #include "search/FolderHandles.h"
 
 #include "search/Digest.h"
+#include "search/ReadingThreads.h"
 
 #include <fcntl.h>
 #include <sys/resource.h>
@@ -27,7 +28,7 @@ long descriptorBudget(std::size_t wanted)
         if (setrlimit(RLIMIT_NOFILE, &raised) == 0)
             limit = raised;
     }
-    return std::max<long>(0, long(limit.rlim_cur) - 1024);
+    return std::max<long>(0, long(limit.rlim_cur) - long(descriptorsForReading()));
 }
 
 } // namespace

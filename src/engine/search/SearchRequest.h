@@ -43,6 +43,7 @@ struct SearchRequest {
     QSet<QString> extensions;                // lower case, without dots
     bool filterFileSize = true;
     bool compareFolders = false;
+    bool containedFolders = false;           // folders whose files all lie in another searched folder
     qint64 minFileSize = 1;
     qint64 maxFileSize = 0;                  // ignored when below minFileSize
     bool ignoreNonWritable = true;
@@ -57,8 +58,8 @@ struct SearchRequest {
     bool distinguishGreyscale = false;       // similar pictures: a grey copy is not like its colour original
 };
 
-// The request as the search keeps it: folder comparison only in the content mode, and
-// latitude/longitude tolerances turned from seconds of arc into degrees.
+// The request as the search keeps it: folder comparison and contained folders only in the
+// content mode, and latitude/longitude tolerances turned from seconds of arc into degrees.
 SearchRequest storedRequest(SearchRequest request);
 
 } // namespace selfsame

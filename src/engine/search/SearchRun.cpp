@@ -43,7 +43,7 @@ QStringList realLocations(const QStringList &locations)
 QList<ResultItem> SearchRun::run()
 {
     const bool content = m_request.detectionMode == DetectionMode::Content;
-    const int steps = m_request.compareFolders ? 6 : 4;
+    const int steps = ContentSearch::stepCount(m_request);
 
     m_context.beginStep(1, steps, content);
     SearchRequest request = m_request;

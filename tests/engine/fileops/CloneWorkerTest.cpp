@@ -6,6 +6,7 @@
 #include "fileops/Dedupe.h"
 #include "format/ByteSize.h"
 #include "search/Digest.h"
+#include "support/EnglishPluralsInstalled.h"
 #include "support/FileItems.h"
 #include "support/MountedVolume.h"
 #include "support/TempTree.h"
@@ -58,6 +59,7 @@ protected:
 
 TEST_P(CloneWorkerOn, PlansLargestFirstThenClonesInPlaceKeepingEveryFilesMetadata)
 {
+    EnglishPluralsInstalled plurals;
     const QByteArray big2 = item(1)->path.toUtf8();
     lsetxattr(big2.constData(), "user.xdg.tags", "Blue", 4, 0);
     chmod(big2.constData(), 0600);
@@ -262,6 +264,7 @@ TEST(CloneWorker, FindsNothingToCloneWhereTheFileSystemCannot)
 
 TEST(CloneAlerts, ConfirmationNamesSingleFilesAndCounts)
 {
+    EnglishPluralsInstalled plurals;
     CloneCounts c;
     c.replaceDuplicates = 1;
     c.byClones = 1;
@@ -271,6 +274,12 @@ TEST(CloneAlerts, ConfirmationNamesSingleFilesAndCounts)
     EXPECT_EQ(cloneConfirmationAlert(c).message,
               QStringLiteral("Do you want to replace “copy.mov”, by a clone of “film.mov”? 2.5 MB on disk "
                              "will be reclaimed."));
+    // One duplicate without its name is counted like many, among all found files too.
+    c.singleFilenameToReplace.clear();
+    c.onAllFoundFiles = true;
+    EXPECT_TRUE(cloneConfirmationAlert(c).message.startsWith(
+        QStringLiteral("Do you want to replace 1 duplicate among all found files, by a clone of")));
+    c.onAllFoundFiles = false;
     c.replaceDuplicates = 1200;
     c.byClones = 3;
     EXPECT_TRUE(cloneConfirmationAlert(c).message.startsWith(

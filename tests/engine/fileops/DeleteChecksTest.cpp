@@ -1,6 +1,7 @@
 #include "fileops/DeleteChecks.h"
 
 #include "fileops/Replacement.h"
+#include "support/EnglishPluralsInstalled.h"
 #include "support/FileItems.h"
 #include "support/MountedVolume.h"
 #include "support/TempTree.h"
@@ -59,6 +60,7 @@ TEST(DeleteChecks, FileSystemWarningsFollowTheVolumeType)
 
 TEST(DeleteChecks, FailureTextsNameOneFileOrCount)
 {
+    EnglishPluralsInstalled plurals;
     EXPECT_FALSE(postDeleteActionFailedForCount(0, ReplaceWithHardLink, {}, {}));
     const auto one = postDeleteActionFailedForCount(1, ReplaceWithHardLink, QStringLiteral("/k/ref.jpg"),
                                                     QStringLiteral("/old/album/dup.jpg"));
@@ -75,10 +77,14 @@ TEST(DeleteChecks, FailureTextsNameOneFileOrCount)
     report.removalFailures = 1;
     EXPECT_EQ(trashFailureAlert(report, {&a})->message,
               QStringLiteral("“a.txt” could not be moved to the Trash."));
+    // Of two targets only one failed: the count is of the failures.
     EXPECT_EQ(trashFailureAlert(report, {&a, &b})->message,
-              QStringLiteral("1 files could not be moved to the Trash."));
+              QStringLiteral("1 file could not be moved to the Trash."));
     EXPECT_EQ(deletionFailureAlert(report, {&a, &b})->message,
-              QStringLiteral("1 files could not be deleted immediately."));
+              QStringLiteral("1 file could not be deleted immediately."));
+    report.removalFailures = 2;
+    EXPECT_EQ(deletionFailureAlert(report, {&a, &b})->message,
+              QStringLiteral("2 files could not be deleted immediately."));
     EXPECT_FALSE(deletionFailureAlert(DeleteReport{}, {&a}));
     EXPECT_EQ(deleteConfirmationAlert({&a, &b}).informative,
               QStringLiteral("2 items will be deleted immediately. You can’t undo this action."));

@@ -2,6 +2,7 @@
 
 #include "fileops/DeleteActions.h"
 #include "fileops/Replacement.h"
+#include "support/EnglishPluralsInstalled.h"
 #include "support/FileItems.h"
 #include "support/TempTree.h"
 
@@ -41,6 +42,7 @@ struct LinkedPair {
 
 TEST(Undo, CopiesAreMadeOnlyWhenTheDriveHoldsThemAll)
 {
+    EnglishPluralsInstalled plurals;
     LinkedPair pair;
     Journal journal(pair.tree.path(QStringLiteral("journal.sqlite")));
     const qint64 batch = pair.replaceByHardLink(journal);

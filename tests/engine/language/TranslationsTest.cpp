@@ -3,6 +3,7 @@
 
 #include "language/Translations.h"
 
+#include "attributes/AttributeCatalogue.h"
 #include "format/ByteSize.h"
 #include "language/EnglishPlurals.h"
 
@@ -131,4 +132,47 @@ TEST(InstalledCatalogues, CountsAndSizesReadTheSessionLanguage)
               QStringLiteral("1 file"));
     EXPECT_EQ(bytesToString(10'000'000), QStringLiteral("10 MB"));
     QCoreApplication::removeTranslator(&plurals);
+}
+
+TEST(InstalledCatalogues, ShowTheShippedAttributesInTheSessionLanguageAndTheUsersOwnAsTyped)
+{
+    InstalledCatalogue german(QStringLiteral("de"));
+    MemorySettingsStore settings;
+    AttributeCatalogue catalogue(AttributeSchema::shipped(), settings);
+    EXPECT_EQ(catalogue.displayName(QStringLiteral("kMDItemExposureTimeSeconds")),
+              QStringLiteral("Belichtungszeit"));
+    EXPECT_EQ(catalogue.description(QStringLiteral("kMDItemAlbum")),
+              QStringLiteral("Album, zu dem die Aufnahme gehört"));
+    const auto jpeg = catalogue.attributesForFilenameExtension(QStringLiteral("jpg"), true);
+    ASSERT_TRUE(jpeg);
+    EXPECT_EQ(jpeg->value(QStringLiteral("kMDItemLatitude")).name, QStringLiteral("Breitengrad"));
+    ASSERT_TRUE(catalogue.addCustomAttribute(QStringLiteral("kMDItemTitle"),
+                                             {QStringLiteral("Title"), QStringLiteral("Mine"), StringType}));
+    EXPECT_EQ(catalogue.displayName(QStringLiteral("kMDItemTitle")), QStringLiteral("Title"));
+}
+
+TEST(EnglishPlurals, DropOrKeepTheSAndChooseBetweenTheFormsOfACountedText)
+{
+    const QString text = QStringLiteral("%Ln file(s) (was|were) left as (it is|they are).");
+    EXPECT_EQ(englishPluralForm(text, 1), QStringLiteral("%Ln file was left as it is."));
+    EXPECT_EQ(englishPluralForm(text, 0), QStringLiteral("%Ln files were left as they are."));
+    // Only counted texts are touched, and parentheses without a choice stay.
+    const EnglishPlurals plurals;
+    EXPECT_EQ(plurals.translate("Undo", "(it is|they are)", nullptr, -1), QString());
+    EXPECT_EQ(plurals.translate("Undo", "%Ln copies (of %1)", nullptr, 2), QString());
+}
+
+TEST(InstalledCatalogues, UndoSummariesCountZeroAsOneInFrenchOnly)
+{
+    const char *const text = "%Ln file(s) (was|were) given back.";
+    {
+        InstalledCatalogue french(QStringLiteral("fr"));
+        EXPECT_EQ(QCoreApplication::translate("Undo", text, nullptr, 0),
+                  QStringLiteral("0 fichier a été rendu."));
+        EXPECT_EQ(QCoreApplication::translate("Undo", text, nullptr, 2),
+                  QStringLiteral("2 fichiers ont été rendus."));
+    }
+    InstalledCatalogue german(QStringLiteral("de"));
+    EXPECT_EQ(QCoreApplication::translate("Undo", text, nullptr, 0),
+              QStringLiteral("0 Dateien wurden zurückgegeben."));
 }

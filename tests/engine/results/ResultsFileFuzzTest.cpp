@@ -200,7 +200,7 @@ TEST(ResultsFileFuzz, EveryKeyWithAValueOfEachKindIsReadOrRefused)
         {"ignoreNonWritable", flag}, {"ignoreOtherOwner", flag}, {"detectionMode", count},
         {"durationTolerance", count}, {"spotlightAttribute", text}, {"spotlightTolerance", count},
         {"filenameIgnoreExtension", flag}, {"filenameIgnoreCommonSuffixRegexes", {"null", "[]"}},
-        {"similarity", count}, {"distinguishGreyscale", flag}, {"mediaPrint", text},
+        {"similarity", count}, {"distinguishGreyscale", flag}, {"containedFolders", flag}, {"mediaPrint", text},
         {"topList", {"{}"}}, {"sort", {"null"}}, {"key", text}, {"ascending", flag},
         {"hiddenByAutomaticSelection", flag}, {"groups", list}, {"group", count}, {"dupes", count},
         {"size", count}, {"items", list}, {"path", none}, {"physicalSize", count}, {"modified", none},
