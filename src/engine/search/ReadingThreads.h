@@ -21,11 +21,13 @@ inline unsigned readingThreads()
 
 // Files one reading thread keeps open at once while it compares them side by side.
 inline constexpr std::size_t kMaxOpenFilesPerReader = 128;
+// Descriptors left for everything the process opens besides the files being read.
+inline constexpr std::size_t kDescriptorsForTheRest = 256;
 
 // Descriptors kept free for the files being read and for everything else the process opens.
 inline std::size_t descriptorsForReading()
 {
-    return readingThreads() * kMaxOpenFilesPerReader + 256;
+    return readingThreads() * kMaxOpenFilesPerReader + kDescriptorsForTheRest;
 }
 
 // The reading threads whose open files fit within the process's descriptor limit.
@@ -33,7 +35,8 @@ inline unsigned readingThreadsForFiles()
 {
     rlimit limit{};
     if (getrlimit(RLIMIT_NOFILE, &limit) != 0 || limit.rlim_cur == RLIM_INFINITY) return readingThreads();
-    const std::size_t spare = limit.rlim_cur > 256 ? std::size_t(limit.rlim_cur) - 256 : 0;
+    const std::size_t spare =
+        limit.rlim_cur > kDescriptorsForTheRest ? std::size_t(limit.rlim_cur) - kDescriptorsForTheRest : 0;
     return unsigned(std::clamp<std::size_t>(spare / kMaxOpenFilesPerReader, 1, readingThreads()));
 }
 
